@@ -12,4 +12,4 @@ target_compile_options(xfm_options INTERFACE
 add_library(xfm_kernel_options INTERFACE)
 target_compile_options(xfm_kernel_options INTERFACE
   -ffp-contract=off -fno-fast-math -fno-tree-vectorize -fno-tree-slp-vectorize
-  -march=x86-64 -mtune=generic -fvisibility=hidden -fno-math-errno -fno-trapping-math)
+  -march=x86-64 -mtune=generic -fvisibility=hidden)
