@@ -1,0 +1,116 @@
+// Draws the spectrogram of a sound file, and tells what the transforms cost.
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <exception>
+#include <filesystem>
+#include <functional>
+#include <stdexcept>
+#include <string>
+
+#include <fmt/format.h>
+#include <CLI/CLI.hpp>
+
+#include "audio.h"
+#include "picture.h"
+#include "progress.h"
+#include "spectrum.h"
+
+namespace {
+
+struct Options {
+  // An orchestra in stereo, 310 s: first movement of the second Brandenburg concerto, of Debian's
+  // gamine-data.
+  std::string sound = "/usr/share/games/gamine/sounds/BachJSBrandenburgConcertNo2inFMajorBWV1047mvmt1.ogg";
+  std::string picture = "spectrogram.png";
+  int length = longestLength();
+};
+
+struct Band {
+  double low, high;  ///< Hz
+  double level;      ///< dB
+};
+
+/// The band that holds most power over the whole time.
+Band loudest(const Spectrogram& s, int channel, int rate) {
+  Band best{};
+  double most = -1;
+  for (int bin = 0; bin < s.bins; ++bin) {
+    double sum = 0;
+    for (int column = 0; column < s.columns; ++column) sum += static_cast<double>(s.at(channel, bin, column));
+    if (sum <= most) continue;
+    most = sum;
+    best = {.low = std::max(0.0, (bin - 0.5) * rate / s.length),
+            .high = std::min(0.5 * rate, (bin + 0.5) * rate / s.length),
+            .level = 10 * std::log10(std::max(1e-12, sum / s.columns))};
+  }
+  return best;
+}
+
+void report(const Options& options, const Audio& audio, const Spectrogram& s) {
+  const auto ns = static_cast<double>(s.inside.count());
+  fmt::print("sound    {}\n", options.sound);
+  fmt::print("         {}, {} channel{}, {} Hz, {:.2f} s\n", audio.format(), audio.channels(),
+             audio.channels() == 1 ? "" : "s", audio.rate(), audio.seconds());
+  fmt::print("frames   {} of {} samples, one every {}\n", s.frames, s.length, s.hop);
+  fmt::print("calls    {} of xfmDFTFwd_CToC_32fc, {:.1f} ns a call, {:.3f} s in all\n", s.frames,
+             ns / static_cast<double>(s.frames), ns * 1e-9);
+  for (int channel = 0; channel < std::min(2, audio.channels()); ++channel) {
+    const Band band = loudest(s, channel, audio.rate());
+    fmt::print("loudest  {:.0f} to {:.0f} Hz, {:.1f} dB{}\n", band.low, band.high, band.level,
+               audio.channels() == 1 ? ""
+               : channel == 0        ? ", left"
+                                     : ", right");
+  }
+  fmt::print("picture  {}\n", options.picture);
+}
+
+/// Puts the file's name before whatever went wrong with it.
+template <typename Work>
+auto about(const std::string& file, Work work) {
+  try {
+    return work();
+  } catch (const std::exception& error) {
+    throw std::runtime_error(file + ": " + error.what());
+  }
+}
+
+void run(const Options& options) {
+  if (options.length < 2 || options.length > longestLength())
+    throw std::runtime_error(
+        fmt::format("length {} is not served, choose 2 to {}", options.length, longestLength()));
+
+  Audio audio = about(options.sound, [&] { return Audio(options.sound); });
+  const Spectrogram spectrogram = about(options.sound, [&] {
+    Progress progress(audio.seconds());
+    auto result = analyse(audio, options.length, widest, std::ref(progress));
+    progress.finish();
+    return result;
+  });
+  const Caption caption{.title = std::filesystem::path(options.sound).filename().string(),
+                        .channels = std::min(2, audio.channels()),
+                        .rate = audio.rate(),
+                        .seconds = audio.seconds()};
+  about(options.picture, [&] { draw(spectrogram, caption, options.picture); });
+  report(options, audio, spectrogram);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  Options options;
+  CLI::App app("Draws the spectrogram of a sound file: both channels in one complex transform.");
+  app.add_option("sound", options.sound, "WAV, FLAC, OGG or whatever libsndfile reads")
+      ->capture_default_str();
+  app.add_option("-o,--output", options.picture, "PNG to write")->capture_default_str();
+  app.add_option("-n,--length", options.length, "samples in a window, points of a transform")
+      ->capture_default_str();
+  CLI11_PARSE(app, argc, argv);
+
+  try {
+    run(options);
+  } catch (const std::exception& error) {
+    fmt::print(stderr, "spectrogram: {}\n", error.what());
+    return 1;
+  }
+}

@@ -1,0 +1,26 @@
+// How far the work has come: a live bar on a terminal, a quiet line every quarter elsewhere.
+#pragma once
+
+#include <chrono>
+
+class Progress {
+ public:
+  /// `whole` is the length of the sound in seconds.
+  explicit Progress(double whole);
+
+  /// Says that the sound up to `seconds` is done.
+  void operator()(double seconds);
+
+  /// Ends the line.
+  void finish();
+
+ private:
+  void draw(double seconds);
+
+  using Clock = std::chrono::steady_clock;
+  double whole_;
+  bool live_;
+  double next_ = 0;  ///< share of the whole at which the next quiet line is due
+  Clock::time_point start_ = Clock::now();
+  Clock::time_point drawn_{};
+};

@@ -1,0 +1,33 @@
+// Short-time spectra of two channels, both out of every single complex transform.
+#pragma once
+
+#include <array>
+#include <chrono>
+#include <cstdint>
+#include <functional>
+#include <vector>
+
+#include "audio.h"
+
+/// What the analysis found: for each channel the mean power of every bin 0..length/2 in every column of time.
+/// A sine of full scale in the middle of a bin has the power 1.
+struct Spectrogram {
+  int length = 0;  ///< samples in a window, points of a transform
+  int hop = 0;     ///< samples from one window to the next
+  int bins = 0;
+  int columns = 0;
+  std::int64_t frames = 0;            ///< windows, and calls of the library: one call serves both channels
+  std::chrono::nanoseconds inside{};  ///< time spent in the calls
+  std::array<std::vector<float>, 2> power;  ///< left, right: power[channel][bin * columns + column]
+
+  float at(int channel, int bin, int column) const {
+    return power[static_cast<std::size_t>(channel)][static_cast<std::size_t>(bin * columns + column)];
+  }
+};
+
+/// The longest transform that the library serves, or 0: it is asked, not assumed.
+int longestLength();
+
+/// Analyses the whole file with Hann windows that overlap by three quarters, into no more columns than given.
+/// Calls `progress` now and then with the seconds of sound that are done.
+Spectrogram analyse(Audio& audio, int length, int columns, const std::function<void(double)>& progress);
