@@ -34,15 +34,15 @@ struct Range {
   double low, high;
 };
 
-/// From the loudest cell down to where only two in a hundred are quieter, 20 to 80 dB in all, in whole tens.
+/// From the loudest cell down to where only two in a hundred are quieter, 20 to 80 dB in all, in whole fives.
 Range colours(const Spectrogram& s, int channels) {
   std::vector<float> all;
   for (int channel = 0; channel < channels; ++channel)
     for (const float power : s.power[static_cast<std::size_t>(channel)]) all.push_back(decibels(power));
   const auto quiet = all.begin() + static_cast<std::ptrdiff_t>(all.size() / 50);
   std::nth_element(all.begin(), quiet, all.end());
-  const double high = 10 * std::ceil(*std::max_element(quiet, all.end()) / 10.0);
-  const double low = 10 * std::floor(*quiet / 10.0);
+  const double high = 5 * std::ceil(*std::max_element(quiet, all.end()) / 5.0);
+  const double low = 5 * std::floor(*quiet / 5.0);
   return {std::clamp(low, high - 80, high - 20), high};
 }
 

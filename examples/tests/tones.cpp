@@ -1,5 +1,5 @@
-// Makes a sound file for the tests: one second at 16 kHz, 2 kHz on the left, 5 kHz on the right, both at half of the
-// full scale. The file's name says the format.
+// Makes a sound file for the tests: one second at 16 kHz, 2 kHz on the left, 5 kHz on the right, both at half
+// of the full scale. The file's name says the format.
 #include <cmath>
 #include <cstdlib>
 #include <numbers>
@@ -16,9 +16,10 @@ int main(int argc, char** argv) {
 
   std::vector<float> sound;
   for (int n = 0; n < rate; ++n)
-    for (int channel = 0; channel < channels; ++channel)
-      sound.push_back(0.5F * static_cast<float>(
-                                 std::sin(2 * std::numbers::pi * (channel == 0 ? 2000.0 : 5000.0) * n / rate)));
+    for (int channel = 0; channel < channels; ++channel) {
+      const double frequency = channel == 0 ? 2000 : 5000;
+      sound.push_back(static_cast<float>(0.5 * std::sin(2 * std::numbers::pi * frequency * n / rate)));
+    }
 
   SF_INFO info{};
   info.samplerate = rate;
