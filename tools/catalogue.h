@@ -1,5 +1,5 @@
-// The kernels of this build as a table that programs can walk: tests and the bench are driven by it. Both tables
-// are generated from the list of families (families.h), like the public header and the export map.
+// The kernels of this build as a table that programs can walk: tests and the bench are driven by it. Both
+// tables are generated from the list of families (families.h), like the public header and the export map.
 #pragma once
 
 #include <cstdint>
@@ -26,15 +26,17 @@ struct Kernel {
   const char* type;    ///< suffix of the element type, "32fc"
   Precision precision;
   Scaling scaling;
-  int length;        ///< transform length
-  int read;          ///< real scalars read from src
-  int written;       ///< real scalars written to dst
-  int exchanges;     ///< lane exchanges that the body must hold exactly, or -1 where none are prescribed
-  bool packed;       ///< vector body: has an aligned body and an unaligned twin
-  bool packed_math;  ///< false where the body must hold no packed arithmetic at all
-  const char* tree;  ///< breakdown
-  int adds;          ///< bound: real additions without the factor
-  int mults;         ///< bound: real multiplications without the factor
+  int length;             ///< transform length
+  int read;               ///< real scalars read from src
+  int written;            ///< real scalars written to dst
+  int exchanges;          ///< lane exchanges that the body must hold exactly, or -1 where none are prescribed
+  bool packed;            ///< vector body: has an aligned body and an unaligned twin
+  bool packed_math;       ///< false where the body must hold no packed arithmetic at all
+  const char* tree;       ///< breakdown
+  int adds;               ///< bound: real additions without the factor
+  int mults;              ///< bound: real multiplications without the factor
+  int add_instructions;   ///< additions and subtractions in a body, as the generator wrote them
+  int mult_instructions;  ///< multiplications in a body, the factor's among them
   Call call;
 };
 

@@ -1,0 +1,29 @@
+// Checks of a finished network, at generation: a kernel that fails one stops the build by name.
+#pragma once
+
+#include <string>
+
+#include "gen/network.h"
+
+namespace xfm::gen {
+
+/// Real operations without the factor multiplications, and the packed instructions that carry them.
+struct Counts {
+  int adds = 0, mults = 0;            ///< lanes that carry data: idle and trivial lanes do not count
+  int add_nodes = 0, mult_nodes = 0;  ///< instructions, the factor multiplications among mult_nodes
+  int shuffles = 0, exchanges = 0, loads = 0, stores = 0;
+};
+Counts count(const Network& network);
+
+/// Every scalar of 0..scalars-1 is read exactly once; every one of 0..written-1 is written exactly once.
+void check_memory(const Network& network, int read, int written, const std::string& name);
+
+/// Counts against the row.
+void check_counts(const Counts& counts, int adds, int mults, const std::string& name);
+
+/// The network as a matrix against a definition, in binary128: entry(output scalar, input scalar).
+using Definition = Wide (*)(int output, int input, int length);
+void check_matrix(const Network& network, Definition entry, int length, int read, int written,
+                  const std::string& name);
+
+}  // namespace xfm::gen

@@ -1,0 +1,55 @@
+// Constants of the networks: a rule, its value to 113 bits, and a name that tells what it is.
+//
+// A constant is rounded exactly once, to the precision of the kernel. Evaluating it in binary64 would not do:
+// cosl or cos of 2 pi a/b is wrong in the last place of binary64 for most of the angles of the lengths up to
+// 64, so angles are reduced to the first octant as exact fractions and evaluated in binary128.
+#pragma once
+
+#include <compare>
+#include <string>
+
+namespace xfm::gen {
+
+__extension__ using Wide = __float128;
+
+Wide wide_sqrt(Wide v);
+Wide wide_abs(Wide v);
+
+/// An exact fraction num/den of the full circle, reduced, in 0 <= num/den < 1.
+struct Turn {
+  long num = 0, den = 1;
+};
+Turn turn(long long num, long long den);
+
+/// A real constant: value, and the name that identifies it. Equal names mean equal values.
+struct Constant {
+  std::string name;
+  Wide value = 0;
+
+  bool is_zero() const { return value == 0; }
+  bool is_one() const { return value == 1; }
+  bool is_negative() const { return value < 0; }
+  bool operator==(const Constant& other) const { return name == other.name; }
+  std::strong_ordering operator<=>(const Constant& other) const { return name <=> other.name; }
+};
+
+Constant operator-(const Constant& c);
+Constant magnitude(const Constant& c);
+
+/// cos and sin of an exact fraction of the circle, named by their octant form: "cos 1/16", "sin 1/12".
+Constant cosine(Turn t);
+Constant sine(Turn t);
+
+/// A constant known by a rule of its own.
+Constant constant(std::string name, Wide value);
+
+/// c + i*s.
+struct ComplexConstant {
+  Constant re, im;
+  bool is_one() const { return re.is_one() && im.is_zero(); }
+};
+
+/// exp(-2 pi i t), the forward root of unity.
+ComplexConstant root_of_unity(Turn t);
+
+}  // namespace xfm::gen

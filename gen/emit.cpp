@@ -1,0 +1,253 @@
+#include "gen/emit.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cmath>
+#include <set>
+
+#include "gen/check.h"
+#include "gen/schedule.h"
+
+namespace xfm::gen {
+namespace {
+
+std::string identifier(const std::string& name) {
+  std::string id;
+  for (const char c : name) id += std::isalnum(static_cast<unsigned char>(c)) != 0 ? c : '_';
+  return id;
+}
+
+bool is_trivial(const Constant& c) { return c.is_zero() || magnitude(c).is_one(); }
+
+// A kernel's body, line by line.
+class Body {
+ public:
+  explicit Body(const Kernel& kernel) : kernel_(kernel), network_(*kernel.network) {}
+
+  std::string text() {
+    std::string lines;
+    for (const Step& step : schedule(network_)) {
+      lines += step.node >= 0 ? compute(step.node)
+                              : store(network_.stores()[static_cast<std::size_t>(step.store)]);
+    }
+    return constants() + lines;
+  }
+
+ private:
+  // Statements carry binary64 constants whatever the kernel's precision.
+  Precision constant_precision() const {
+    return network_.rounding() == Rounding::statement ? Precision::twofold : kernel_.type.precision;
+  }
+
+  std::string constants() const {
+    std::string text;
+    for (const Constant& c : constants_) {
+      text += fmt::format("  constexpr {} {} = {};  // {:.17g}\n",
+                          constant_precision() == Precision::single ? "xfm32f" : "xfm64f", named(c.name),
+                          literal(c.value, constant_precision()), static_cast<double>(c.value));
+    }
+    return text;
+  }
+
+  static std::string named(const std::string& name) {
+    return std::isdigit(static_cast<unsigned char>(name[0])) != 0 ? "c" + identifier(name) : identifier(name);
+  }
+
+  // Constants appear by name, with their sign in front; 0 and 1 as they are.
+  std::string use(const Constant& c) {
+    if (is_trivial(c)) return fmt::format("{}", static_cast<int>(c.value));
+    constants_.insert(magnitude(c));
+    return (c.is_negative() ? "-" : "") + named(magnitude(c).name);
+  }
+
+  std::string value_type() const {
+    if (network_.width() == 1) return kernel_.type.scalar();
+    return network_.width() == 2 ? "Pair" : "Quad";
+  }
+
+  static std::string var(NodeId id) { return fmt::format("v{}", id); }
+
+  std::string compute(NodeId id) {
+    return fmt::format("  const {} {} = {};\n", value_type(), var(id), expression(network_.node(id)));
+  }
+
+  std::string expression(const Node& node) {
+    switch (node.op) {
+      case Op::load:
+        return load(node);
+      case Op::shuffle:
+        return shuffle(node);
+      case Op::exchange:
+        return fmt::format("exchange({})", var(node.in[0]));
+      case Op::flip:
+        return fmt::format("flip({})", var(node.in[0]));
+      case Op::add:
+        return fmt::format("{} + {}", var(node.in[0]), var(node.in[1]));
+      case Op::sub:
+        return fmt::format("{} - {}", var(node.in[0]), var(node.in[1]));
+      case Op::mul:
+        return fmt::format("{} * {}", multiplier(node), var(node.in[0]));
+      case Op::sum:
+        return statement(node);
+      case Op::factor:
+        return fmt::format("s * {}", var(node.in[0]));
+    }
+    return {};
+  }
+
+  std::string multiplier(const Node& node) {
+    if (network_.width() == 1) return use(node.constants[0]);
+    std::string lanes;
+    for (const Constant& c : node.constants) lanes += (lanes.empty() ? "" : ", ") + use(c);
+    const char* suffix = kernel_.type.precision == Precision::single ? "ps" : "pd";
+    return fmt::format("_mm_{}_{}({})", node.constants.size() == 1 ? "set1" : "setr", suffix, lanes);
+  }
+
+  // One linear combination in binary64, rounded once; its terms stand in the recipe's order.
+  std::string statement(const Node& node) {
+    std::string sum;
+    for (const Term& term : node.terms) {
+      const bool negative = term.coefficient.is_negative();
+      const Constant c = magnitude(term.coefficient);
+      if (sum.empty()) {
+        sum = negative ? "-" : "";
+      } else {
+        sum = negative ? sum + " - " : sum + " + ";
+      }
+      const std::string operand = fmt::format("xfm64f{{{}}}", var(term.node));
+      sum += c.is_one() ? operand : fmt::format("{} * {}", use(c), operand);
+    }
+    return kernel_.type.precision == Precision::single ? fmt::format("static_cast<xfm32f>({})", sum) : sum;
+  }
+
+  std::string load(const Node& node) const {
+    const auto& at = node.lanes;
+    if (network_.width() == 1) return fmt::format("x[{}]", at[0]);
+    if (network_.width() == 2 || at[2] == at[0] + 2)
+      return fmt::format("{}::load(x + {})", memory(at[0]), at[0]);
+    if (at[2] < 0) return fmt::format("load_low(x + {})", at[0]);
+    return fmt::format("load_halves(x + {}, x + {})", at[0], at[2]);
+  }
+
+  // Two adjacent complex numbers at an odd index are never aligned.
+  std::string memory(int scalar) const {
+    return network_.width() == 4 && scalar % 4 != 0 ? "Unaligned" : "Memory";
+  }
+
+  static std::string shuffle(const Node& node) {
+    const std::string u = var(node.in[0]), v = var(node.in[1]);
+    const auto [a, b, c, d] = node.lanes;
+    const auto is = [&](std::array<int, 4> picks) { return node.lanes == picks; };
+    if (is({0, 1, 4, 5})) return fmt::format("low_halves({}, {})", u, v);
+    if (is({2, 3, 6, 7})) return fmt::format("high_halves({}, {})", u, v);
+    if (is({0, 4, 1, 5})) return fmt::format("unpack_low({}, {})", u, v);
+    if (is({2, 6, 3, 7})) return fmt::format("unpack_high({}, {})", u, v);
+    return fmt::format("shuffle<{}, {}, {}, {}>({}, {})", a, b, c - 4, d - 4, u, v);
+  }
+
+  std::string store(const Store& store) const {
+    const auto& to = store.lanes;
+    const std::string v = var(store.node);
+    if (network_.width() == 1) return fmt::format("  y[{}] = {};\n", to[0], v);
+    if (network_.width() == 2 || (to[0] >= 0 && to[2] == to[0] + 2)) {
+      return fmt::format("  {}::store(y + {}, {});\n", memory(to[0]), to[0], v);
+    }
+    std::string text;
+    if (to[0] >= 0) text += fmt::format("  store_low(y + {}, {});\n", to[0], v);
+    if (to[2] >= 0) text += fmt::format("  store_high(y + {}, {});\n", to[2], v);
+    return text;
+  }
+
+  const Kernel& kernel_;
+  const Network& network_;
+  std::set<Constant> constants_;
+};
+
+// 1/N and 1/sqrt(N): nearest in binary32, in binary64 the quotients by N and by the rounded root.
+std::string factors(const Kernel& kernel) {
+  const Precision precision = kernel.type.precision;
+  const Wide by_n =
+      precision == Precision::single ? Wide(1) / Wide(kernel.length) : Wide(1.0 / kernel.length);
+  const Wide by_root = precision == Precision::single
+                           ? Wide(1) / wide_sqrt(Wide(kernel.length))
+                           : Wide(1.0 / std::sqrt(static_cast<double>(kernel.length)));
+  const auto carried = [&](bool carries) { return literal(carries ? by_n : Wide(1), precision); };
+  return fmt::format("constexpr Factors<{}, {}> factors_{}({}, {}, {});\n", kernel.type.scalar(),
+                     kernel.network->width(), kernel.type.suffix(),
+                     carried(kernel.scaling != Scaling::inverse), carried(kernel.scaling != Scaling::forward),
+                     literal(by_root, precision));
+}
+
+std::string signature(const Kernel& kernel, const std::string& name) {
+  return fmt::format("xfmStatus {}(const {}* src, {}* dst, int32_t flag)", name, kernel.type.name(),
+                     kernel.type.name());
+}
+
+std::string heading(const Kernel& kernel) {
+  const Counts counts = count(*kernel.network);
+  return fmt::format("// {}: {}, {} additions and {} multiplications (row: {} and {}).\n", kernel.name,
+                     kernel.tree, counts.adds, counts.mults, kernel.adds, kernel.mults);
+}
+
+std::string factor_load(const Kernel& kernel) {
+  const std::string of = fmt::format("factors_{}.of(flag)", kernel.type.suffix());
+  switch (kernel.network->width()) {
+    case 1:
+      return fmt::format("  const {} s = *{};\n", kernel.type.scalar(), of);
+    case 2:
+      return fmt::format("  const Pair s = Aligned::load({});\n", of);
+    default:
+      return fmt::format("  const Quad s = Aligned::load({});\n", of);
+  }
+}
+
+std::string body_text(const Kernel& kernel) {
+  std::string start =
+      "  if (const xfmStatus status = check(src, dst, flag); status != xfmStsOk) return status;\n";
+  start += factor_load(kernel);
+  start += fmt::format(
+      "  const auto* const x = reinterpret_cast<const {0}*>(src);\n  auto* const y = "
+      "reinterpret_cast<{0}*>(dst);\n",
+      kernel.type.scalar());
+  return start + Body(kernel).text() + "  return xfmStsOk;\n";
+}
+
+// A scalar kernel is one function; a packed one is a body bound twice, to aligned and to unaligned memory.
+std::string emit_kernel(const Kernel& kernel) {
+  const std::string constants = "namespace {\n" + factors(kernel) + "}\n\n";
+  if (!kernel.packed()) {
+    return heading(kernel) + constants + signature(kernel, kernel.name) + " {\n" + body_text(kernel) +
+           "}\n\n";
+  }
+  const std::string suffix = kernel.type.suffix(), twin = kernel.name + "_twin";
+  return heading(kernel) + constants +
+         fmt::format("template <class Memory>\nstatic inline {} {{\n{}}}\n\n",
+                     signature(kernel, "body_" + suffix), body_text(kernel)) +
+         fmt::format("extern \"C\" XFM_TWIN {} {{\n  return body_{}<Unaligned>(src, dst, flag);\n}}\n\n",
+                     signature(kernel, twin), suffix) +
+         fmt::format(
+             "{} {{\n  if (!aligned(src, dst)) return {}(src, dst, flag);\n  return body_{}<Aligned>(src, "
+             "dst, flag);\n}}\n\n",
+             signature(kernel, kernel.name), twin, suffix);
+}
+
+}  // namespace
+
+std::string literal(Wide value, Precision precision) {
+  if (precision == Precision::single) return fmt::format("{:a}F", static_cast<float>(value));
+  return fmt::format("{:a}", static_cast<double>(value));
+}
+
+std::string emit_file(std::span<const Kernel> kernels, const std::string& include) {
+  std::string text = "// Written by xfmgen; do not edit: change the row or the recipe, and build.\n";
+  text += "#include \"src/frame/contract.h\"\n";
+  if (std::any_of(kernels.begin(), kernels.end(), [](const Kernel& k) { return k.packed(); })) {
+    text += fmt::format("#include \"{}\"\n", include);
+  }
+  text += "\nusing namespace xfm;\n\n";
+  for (const Kernel& kernel : kernels) text += emit_kernel(kernel);
+  return text;
+}
+
+}  // namespace xfm::gen

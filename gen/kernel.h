@@ -1,0 +1,40 @@
+// A kernel as the workshop hands it to the writers: a network, and what the world must know of it.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "gen/network.h"
+
+namespace xfm::gen {
+
+enum class Precision { single, twofold };
+
+/// Which of the scale flags carry 1/N.
+enum class Scaling { forward, inverse, symmetric };
+
+struct ElementType {
+  Precision precision;
+  bool complex;
+
+  std::string suffix() const {
+    return std::string(precision == Precision::single ? "32f" : "64f") + (complex ? "c" : "");
+  }
+  std::string name() const { return "xfm" + suffix(); }                                        ///< xfm32fc
+  std::string scalar() const { return precision == Precision::single ? "xfm32f" : "xfm64f"; }  ///< xfm32f
+};
+
+struct Kernel {
+  std::string name;  ///< exported name
+  ElementType type;
+  Scaling scaling;
+  int length;
+  int read, written;  ///< real scalars
+  std::string tree;   ///< breakdown, as the row has it
+  int adds, mults;    ///< the row's bounds
+  std::unique_ptr<Network> network;
+
+  bool packed() const { return network->width() > 1; }
+};
+
+}  // namespace xfm::gen

@@ -1,0 +1,125 @@
+// The network: what a kernel computes, from its loads to its stores, as a graph of rounded operations.
+//
+// A network has a width: how many lanes a value carries (1: scalar; 2: one complex number; 4: four split
+// lanes). An operation acts alike on all lanes; only loads, shuffles, exchanges, flips and lane constants
+// tell lanes apart. A value is a node and a sign, so a negation costs nothing until an output needs it. Equal
+// operations are one node (hash-consing), and nothing else is ever simplified, reassociated or merged by
+// value: what a recipe writes is what rounds.
+#pragma once
+
+#include <array>
+#include <map>
+#include <span>
+#include <vector>
+
+#include "gen/constant.h"
+
+namespace xfm::gen {
+
+using NodeId = int;
+constexpr int max_lanes = 4;
+
+enum class Op {
+  load,      ///< lanes from memory
+  shuffle,   ///< lanes picked from one or two nodes
+  exchange,  ///< the two lanes of a pair change places
+  flip,      ///< the sign of the low lane of a pair is turned
+  add,
+  sub,
+  mul,     ///< times a constant, the same in all lanes or one a lane
+  sum,     ///< a statement: a linear combination in binary64, rounded once to the kernel's precision
+  factor,  ///< times the scale factor
+};
+
+class Network;
+
+/// A node with a sign, or nothing at all: a value that is zero by structure.
+struct Value {
+  Network* network = nullptr;
+  NodeId node = -1;
+  bool negative = false;
+
+  bool absent() const { return node < 0; }
+  Value operator-() const { return {network, node, !negative}; }
+  bool operator==(const Value&) const = default;
+};
+
+/// One term of a statement, coefficient * node; the coefficient 1 stands for a plain operand.
+struct Term {
+  Constant coefficient;
+  NodeId node;
+  auto operator<=>(const Term&) const = default;
+};
+
+struct Node {
+  Op op;
+  std::array<NodeId, 2> in{-1, -1};
+  std::array<int, max_lanes> lanes{-1, -1, -1,
+                                   -1};  ///< load: scalar index a lane; shuffle: source lane (4 = in[1])
+  std::vector<Constant> constants{};     ///< mul: one for all lanes or one a lane
+  std::vector<Term> terms{};             ///< sum
+  auto operator<=>(const Node&) const = default;
+};
+
+struct Store {
+  NodeId node;
+  std::array<int, max_lanes> lanes{-1, -1, -1, -1};  ///< scalar index in dst a lane, or -1
+};
+
+/// How a sum of products rounds.
+enum class Rounding {
+  each,       ///< every operation by itself, in the kernel's precision
+  statement,  ///< the whole sum once, from binary64
+};
+
+class Network {
+ public:
+  explicit Network(int width, Rounding rounding = Rounding::each) : width_(width), rounding_(rounding) {}
+  Network(const Network&) = delete;
+  Network& operator=(const Network&) = delete;
+  Network(Network&&) = delete;
+
+  int width() const { return width_; }
+  Rounding rounding() const { return rounding_; }
+  const std::vector<Node>& nodes() const { return nodes_; }
+  const std::vector<Store>& stores() const { return stores_; }
+  const Node& node(NodeId id) const { return nodes_[static_cast<std::size_t>(id)]; }
+
+  Value load(std::array<int, max_lanes> scalars);
+  Value load(int scalar) { return load({scalar, -1, -1, -1}); }
+  Value shuffle(Value a, Value b, std::array<int, max_lanes> picks);
+  Value exchange(Value v);
+  Value flip(Value v);
+  Value add(Value a, Value b);
+  Value sub(Value a, Value b) { return add(a, -b); }
+  Value mul(const Constant& c, Value v);
+  Value mul(const std::vector<Constant>& lanes, Value v);
+  Value factor(Value v);
+
+  /// The sum of the products c*v, left to right: one statement, or an operation at a time, as the rounding
+  /// rule says.
+  struct Product {
+    Constant c;
+    Value v;
+  };
+  Value sum(std::span<const Product> products);
+
+  void store(Value v, std::array<int, max_lanes> scalars);
+
+ private:
+  Value make(Node node, bool negative = false);
+  Value difference(NodeId a, NodeId b, bool negative);
+
+  int width_;
+  Rounding rounding_;
+  std::vector<Node> nodes_;
+  std::vector<Store> stores_;
+  std::map<Node, NodeId> known_;
+};
+
+inline Value operator+(Value a, Value b) {
+  return (a.absent() ? b : a).network == nullptr ? Value{} : (a.absent() ? b : a).network->add(a, b);
+}
+inline Value operator-(Value a, Value b) { return a + -b; }
+
+}  // namespace xfm::gen

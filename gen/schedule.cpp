@@ -1,0 +1,111 @@
+#include "gen/schedule.h"
+
+#include <algorithm>
+
+namespace xfm::gen {
+namespace {
+
+class Scheduler {
+ public:
+  explicit Scheduler(const Network& network)
+      : network_(network), state_(network.nodes().size(), State::dead), tail_(state_.size(), false) {
+    for (const Store& store : network.stores()) mark_live(store.node);
+    mark_tails();
+  }
+
+  std::vector<Step> run() {
+    for (NodeId id = 0; id < size(); ++id) {
+      if (at(id) != State::live || tail_[index(id)] || network_.node(id).op == Op::load) continue;
+      emit(id);
+      if (loads_ == 0) finish_ready();
+    }
+    for (std::size_t s = 0; s < network_.stores().size(); ++s) emit_store(s);
+    return steps_;
+  }
+
+ private:
+  enum class State { dead, live, done };
+
+  static std::size_t index(NodeId id) { return static_cast<std::size_t>(id); }
+  State& at(NodeId id) { return state_[index(id)]; }
+  NodeId size() const { return static_cast<NodeId>(state_.size()); }
+
+  void mark_live(NodeId id) {
+    if (at(id) == State::live) return;
+    at(id) = State::live;
+    if (network_.node(id).op == Op::load) ++loads_;
+    for (const NodeId operand : operands(network_.node(id))) mark_live(operand);
+  }
+
+  // A node is part of an output's tail if it leads to factor multiplications and to nothing else within two
+  // steps: the factor itself, an interleaving, a join.
+  void mark_tails() {
+    std::vector<bool> other(state_.size(), false);
+    for (NodeId id = size() - 1; id >= 0; --id) {
+      if (at(id) != State::live) continue;
+      const Op op = network_.node(id).op;
+      const bool joins = op == Op::exchange || op == Op::flip || op == Op::shuffle || is_join(id);
+      tail_[index(id)] = op == Op::factor || (joins && !other[index(id)]);
+      if (tail_[index(id)]) continue;
+      for (const NodeId operand : operands(network_.node(id))) other[index(operand)] = true;
+    }
+  }
+
+  bool is_join(NodeId id) const {
+    const Node& node = network_.node(id);
+    return (node.op == Op::add || node.op == Op::sub) && (is_flip(node.in[0]) || is_flip(node.in[1]));
+  }
+  bool is_flip(NodeId id) const { return network_.node(id).op == Op::flip; }
+
+  void emit(NodeId id) {
+    if (at(id) == State::done) return;
+    for (const NodeId operand : operands(network_.node(id))) emit(operand);
+    at(id) = State::done;
+    if (network_.node(id).op == Op::load) --loads_;
+    steps_.push_back({.node = id});
+  }
+
+  bool ready(NodeId id) {
+    if (at(id) == State::done) return true;
+    if (!tail_[index(id)]) return false;
+    const std::vector<NodeId> in = operands(network_.node(id));
+    return std::all_of(in.begin(), in.end(), [&](NodeId operand) { return ready(operand); });
+  }
+
+  void finish_ready() {
+    stored_.resize(network_.stores().size(), false);
+    for (std::size_t s = 0; s < network_.stores().size(); ++s) {
+      if (ready(network_.stores()[s].node)) emit_store(s);
+    }
+  }
+
+  void emit_store(std::size_t s) {
+    stored_.resize(network_.stores().size(), false);
+    if (stored_[s]) return;
+    stored_[s] = true;
+    emit(network_.stores()[s].node);
+    steps_.push_back({.store = static_cast<int>(s)});
+  }
+
+  const Network& network_;
+  std::vector<State> state_;
+  std::vector<bool> tail_;
+  std::vector<bool> stored_;
+  std::vector<Step> steps_;
+  int loads_ = 0;
+};
+
+}  // namespace
+
+std::vector<NodeId> operands(const Node& node) {
+  std::vector<NodeId> in;
+  for (const NodeId id : node.in) {
+    if (id >= 0) in.push_back(id);
+  }
+  for (const Term& term : node.terms) in.push_back(term.node);
+  return in;
+}
+
+std::vector<Step> schedule(const Network& network) { return Scheduler(network).run(); }
+
+}  // namespace xfm::gen

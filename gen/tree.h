@@ -1,0 +1,28 @@
+// Breakdown trees: the text of a table's row as a tree, and back.
+//
+//   tree  = stage { "," stage }        "2,2": stages in turn
+//   stage = number                     a base or prime block of that length
+//         | name "(" tree-list ")"     a rule: "PFA*(SR(8),3)"
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace xfm::gen {
+
+struct Tree {
+  std::string rule;        ///< "PFA", "PFA*", "CT", "SR", "R", "B", ...; empty for a plain number
+  int number = 0;          ///< the number, where rule is empty
+  std::vector<Tree> args;  ///< the rule's arguments
+
+  bool is_number() const { return rule.empty(); }
+};
+
+/// Throws std::invalid_argument with the place of the mistake.
+Tree parse_tree(std::string_view text);
+
+/// The text that parses to this tree, identical to the one it came from but for spaces.
+std::string to_string(const Tree& tree);
+
+}  // namespace xfm::gen

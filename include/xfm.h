@@ -1,0 +1,130 @@
+/**
+ * @file xfm.h
+ * @brief xfm: short, very fast discrete transforms for x86-64.
+ *
+ * Plain functions, no planning, no state, no run-time tables: every length and precision of every family has a
+ * straight-line kernel of its own. A family of kernels is written below with the letter N in place of the length; the
+ * name without a number is the family's generic function, which takes the length as an argument and accepts every
+ * length that the family serves.
+ *
+ * Arrays are contiguous; the caller owns them, and no function keeps a pointer. All functions may be called from any
+ * number of threads at once. NaN and infinity flow through the arithmetic; no function changes the floating-point
+ * control state. Results do not depend on alignment, and src == dst gives the same bits as separate arrays.
+ */
+/* The declarations below are written by xfmgen from the list of families: build the target "door" to renew them. */
+#ifndef XFM_H
+#define XFM_H
+
+#include <stdint.h>
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+#if defined(__GNUC__)
+#pragma GCC visibility push(default)
+#endif
+
+typedef float xfm32f;  /**< IEEE-754 binary32 */
+typedef double xfm64f; /**< IEEE-754 binary64 */
+
+/** Complex number of two binary32 values, real part first. */
+typedef struct {
+  xfm32f re, im;
+} xfm32fc;
+
+/** Complex number of two binary64 values, real part first. */
+typedef struct {
+  xfm64f re, im;
+} xfm64fc;
+
+/** Result of every function: xfmStsOk or a negative value, one of those below. */
+typedef int32_t xfmStatus;
+
+enum {
+  xfmStsOk = 0,        /**< success */
+  xfmStsBadState = -5, /**< a DCT-IV plan node of an unknown kind was met */
+  xfmStsBadSize = -6,  /**< length or order not served */
+  xfmStsNullPtr = -8,  /**< a required pointer is null */
+  xfmStsBadScale = -16 /**< the scale flag is not one of the four values */
+};
+
+/** Scale flags: exactly one of these values, they do not combine. Each family tells the factor of each flag. */
+enum {
+  XFM_SCALE_FWD_BY_N = 1,  /**< the forward direction carries 1/N */
+  XFM_SCALE_INV_BY_N = 2,  /**< the inverse direction carries 1/N */
+  XFM_SCALE_BY_SQRT_N = 4, /**< both directions carry 1/sqrt(N) */
+  XFM_SCALE_NONE = 8       /**< no factor in either direction */
+};
+
+/** What build of the library this is. */
+typedef struct {
+  int32_t major;         /**< major version */
+  int32_t minor;         /**< minor version */
+  int32_t majorBuild;    /**< major build number */
+  int32_t build;         /**< build number */
+  char targetCode[4];    /**< two-letter code of the processor target, two zero bytes */
+  const char* name;      /**< library file name */
+  const char* version;   /**< version text */
+  const char* buildDate; /**< date of the build */
+} xfmLibraryVersion;
+
+/** The version record, constant data that the caller neither changes nor frees. Cannot fail. */
+const xfmLibraryVersion* xfmGetLibVersion(void);
+
+/** @name DFTFwd_CToC
+ * xfmDFTFwd_CToC_N_TYPE
+ * @{ */
+/**
+ * Forward complex DFT of length N.
+ *
+ *     dst[k] = s * sum over n of src[n] * exp(-2 pi i n k / N),   n, k = 0 .. N-1
+ *
+ * Reads N complex elements of src, writes N complex elements of dst, in natural order.
+ *
+ * | flag                  | factor s  |
+ * |-----------------------|-----------|
+ * | XFM_SCALE_FWD_BY_N    | 1/N       |
+ * | XFM_SCALE_INV_BY_N    | 1         |
+ * | XFM_SCALE_BY_SQRT_N   | 1/sqrt(N) |
+ * | XFM_SCALE_NONE        | 1         |
+ *
+ * Both arrays may have any alignment; multiples of 16 are fastest, and the bits do not depend on it. src and dst may
+ * overlap in any way: all input is read before the first output is written.
+ * Errors, in the order of the tests: the generic function xfmStsBadSize (length not served); then xfmStsNullPtr (src or
+ * dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
+ * Sources: Cooley and Tukey 1965; Good 1958; Rader 1968; Yavne 1968; Duhamel and Hollmann 1984.
+ */
+xfmStatus xfmDFTFwd_CToC_32fc(const xfm32fc* src, xfm32fc* dst, int32_t length, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_2_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_3_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_4_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_5_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_6_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_7_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_8_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_9_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_10_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_12_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_16_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_64fc(const xfm64fc* src, xfm64fc* dst, int32_t length, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_2_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_3_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_4_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_5_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_6_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_7_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_8_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_9_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_10_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_12_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_16_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+/** @} */
+
+#if defined(__GNUC__)
+#pragma GCC visibility pop
+#endif
+#ifdef __cplusplus
+}
+#endif
+
+#endif /* XFM_H */

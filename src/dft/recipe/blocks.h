@@ -1,0 +1,28 @@
+// Base blocks: the short transforms that all longer ones are put together from. Forward sign throughout; an
+// inverse kernel exchanges real and imaginary parts at its ends instead.
+#pragma once
+
+#include "gen/complex.h"
+
+namespace xfm::dft {
+
+using gen::Complex;
+using gen::Points;
+
+/// The forms of the length-5 block; they differ in rounding and cost only.
+enum class Five {
+  outer_first,   ///< X0 = (x0 + a1) + a2, eight products a part: the kernels of length 5
+  inner_first,   ///< X0 = (a1 + a2) + x0, eight products a part: inside packed kernels
+  six_products,  ///< the sum and the difference of the cosines share their products: six a part
+};
+
+Points dft2(const Points& x);
+Points dft3(const Points& x);
+Points dft4(const Points& x);
+Points dft5(const Points& x, Five form);
+
+/// The symmetric scheme for an odd length n, h = (n-1)/2: with a_j = x_j + x_(n-j), b_j = x_j - x_(n-j),
+///   t_k = x0 + sum_j cos(2 pi j k/n) a_j,  u_k = sum_j sin(2 pi j k/n) b_j,  X_k, X_(n-k) = t_k -+ i u_k.
+Points direct(const Points& x);
+
+}  // namespace xfm::dft

@@ -1,0 +1,22 @@
+// The complex DFT family: from a length, a precision and a direction to a finished kernel.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "gen/kernel.h"
+
+namespace xfm::dft {
+
+enum class Direction { forward, inverse };
+
+/// Lengths that have a row.
+std::vector<int> lengths();
+
+/// The kernel of the length's row, or of another tree of the same length. All checks are made: the row's
+/// costs, the matrix against the definition, one read an input, one lane exchange an output pair; the first
+/// that fails throws.
+gen::Kernel make_kernel(int length, gen::Precision precision, Direction direction,
+                        const std::string& tree = "");
+
+}  // namespace xfm::dft

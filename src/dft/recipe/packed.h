@@ -1,0 +1,35 @@
+// The split arithmetic: a tree run flat on batches of like transforms, four at a time in the lanes.
+//
+// A stage that has I like transforms of length a*b runs I*b transforms of length a, then I*a of length b, and
+// so on down; only the base blocks are packed. So the parallelism inside a transform fills lanes that the
+// stage around it leaves idle, and the operation tree of every output stays. Instances are ordered with the
+// outer index fastest, which keeps neighbours in neighbouring lanes and saves most shuffles. With one lane
+// this is the plain composition.
+#pragma once
+
+#include "gen/lanes.h"
+#include "gen/tree.h"
+#include "src/dft/recipe/blocks.h"
+
+namespace xfm::dft {
+
+using Line = std::vector<gen::Element>;  ///< the points of one transform
+using Batch = std::vector<Line>;         ///< like transforms, side by side
+
+class Packed {
+ public:
+  Packed(gen::Lanes& lanes, Five five) : lanes_(lanes), five_(five) {}
+
+  Batch transform(const gen::Tree& tree, const Batch& x);
+
+ private:
+  using Block = Points (*)(const Points&, Five);
+  Batch each(const Batch& x, Block block);
+  Batch two_stages(const gen::Tree& tree, const Batch& x);
+  Batch rader(const gen::Tree& inner, const Batch& x);
+
+  gen::Lanes& lanes_;
+  Five five_;
+};
+
+}  // namespace xfm::dft

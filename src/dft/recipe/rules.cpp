@@ -1,0 +1,26 @@
+#include "src/dft/recipe/rules.h"
+
+namespace xfm::dft {
+
+using gen::Tree;
+
+int length_of(const Tree& tree) {
+  if (tree.is_number()) return tree.number;
+  if (tree.rule == "R") return length_of(tree.args.back()) + 1;
+  int product = 1;
+  for (const Tree& arg : tree.args) product *= length_of(arg);
+  return product;
+}
+
+Tree first_of(const Tree& tree) { return tree.args.front(); }
+
+Tree rest_of(const Tree& tree) {
+  if (tree.args.size() == 2) return tree.args.back();
+  return {tree.rule, 0, {tree.args.begin() + 1, tree.args.end()}};
+}
+
+gen::TwoStages stages_of(const Tree& tree) {
+  return {length_of(first_of(tree)), length_of(rest_of(tree)), tree.rule.starts_with("PFA")};
+}
+
+}  // namespace xfm::dft

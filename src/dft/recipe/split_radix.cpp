@@ -1,0 +1,41 @@
+// Split radix (Yavne 1968; Duhamel and Hollmann 1984), decimation in frequency: even outputs are a transform
+// of half the length of the sums a_j = x_j + x_(j+N/2); the differences d_j feed two transforms of a quarter
+// of the length,
+//   X[4k+1] = DFT((d_j - i d_(j+N/4)) W_N^j),  X[4k+3] = DFT((d_j + i d_(j+N/4)) W_N^(3j)).
+#include "src/dft/recipe/lane_real.h"
+
+namespace xfm::dft {
+
+using gen::root_of_unity;
+using gen::times_i;
+using gen::turn;
+
+Points split_radix(const Points& x) {
+  if (x.size() == 1) return x;
+  if (x.size() == 2) return dft2(x);
+  if (x.size() == 4) return dft4(x);
+  const std::size_t n = x.size(), half = n / 2, quarter = n / 4;
+  Points sums, differences, first, third;
+  for (std::size_t j = 0; j < half; ++j) {
+    sums.push_back(x[j] + x[j + half]);
+    differences.push_back(x[j] - x[j + half]);
+  }
+  for (std::size_t j = 0; j < quarter; ++j) {
+    const auto w = [&](std::size_t power) {
+      return root_of_unity(turn(static_cast<long long>(power * j), static_cast<long long>(n)));
+    };
+    const Complex turned = times_i(differences[j + quarter]);
+    first.push_back(w(1) * (differences[j] - turned));
+    third.push_back(w(3) * (differences[j] + turned));
+  }
+  Points out(n);
+  const Points even = split_radix(sums), odd1 = split_radix(first), odd3 = split_radix(third);
+  for (std::size_t k = 0; k < half; ++k) out[2 * k] = even[k];
+  for (std::size_t k = 0; k < quarter; ++k) {
+    out[4 * k + 1] = odd1[k];
+    out[4 * k + 3] = odd3[k];
+  }
+  return out;
+}
+
+}  // namespace xfm::dft

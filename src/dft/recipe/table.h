@@ -1,0 +1,27 @@
+// The breakdown of every complex length, settled in advance: data only.
+#pragma once
+
+#include <span>
+
+namespace xfm::dft {
+
+struct Breakdown {
+  const char* tree;
+  int adds, mults;  ///< real operations without the factor: a kernel costs that much or less
+};
+
+struct Row {
+  int length;
+  Breakdown single;   ///< _32fc
+  Breakdown twofold;  ///< _64fc
+};
+
+/// All rows, in the order of length. Rules: CT Cooley-Tukey, PFA Good-Thomas, PFA* with its last stage of two
+/// delayed, SR split radix, D direct symmetric, R Rader, B Bluestein; the first argument is nearest the
+/// input. A number is a block of that length.
+std::span<const Row> table();
+
+/// The row of a length; throws std::out_of_range if there is none.
+const Row& row(int length);
+
+}  // namespace xfm::dft

@@ -1,0 +1,82 @@
+// Transforms of composite length N = a*b in two stages, b columns of length a and then a rows of length b.
+//
+// Cooley-Tukey (Cooley and Tukey 1965): with input n = c + b*m and output k = k1 + a*k2,
+//   X[k1 + a*k2] = sum_c W_b^(c*k2) W_N^(c*k1) sum_m W_a^(m*k1) x[c + b*m],   W_N = exp(-2 pi i/N).
+// Good-Thomas (Good 1958, Thomas 1963), a and b coprime: by the index maps of the Chinese remainder theorem
+// the transform is truly two-dimensional, and the twiddles W_N^(c*k1) are gone.
+#include "src/dft/recipe/lane_real.h"
+#include "src/dft/recipe/packed.h"
+#include "src/dft/recipe/rules.h"
+
+namespace xfm::dft {
+
+using gen::conjugate;
+using gen::root_of_unity;
+using gen::Tree;
+using gen::turn;
+using gen::TwoStages;
+
+// On real sequences the rows k1 above a/2 are conjugates of those below: they are not computed, but read off
+// as X[N-k].
+Points LaneReal::two_stages(const Tree& tree, const Points& x) const {
+  const TwoStages map = stages_of(tree);
+  const int n = map.a * map.b;
+  std::vector<Points> columns;
+  for (int c = 0; c < map.b; ++c) {
+    Points column;
+    for (int m = 0; m < map.a; ++m) column.push_back(x[static_cast<std::size_t>(map.input(m, c))]);
+    columns.push_back(transform(first_of(tree), column));
+  }
+  Points out(x.size());
+  for (int k1 = 0; k1 <= map.a / 2; ++k1) {
+    Points row;
+    for (int c = 0; c < map.b; ++c) {
+      const Complex& y = columns[static_cast<std::size_t>(c)][static_cast<std::size_t>(k1)];
+      row.push_back(root_of_unity(turn(map.twiddle(c, k1), n)) * y);
+    }
+    const Points row_out = transform(rest_of(tree), row);
+    for (int k2 = 0; k2 < map.b; ++k2) {
+      const int k = map.output(k1, k2);
+      out[static_cast<std::size_t>(k)] = row_out[static_cast<std::size_t>(k2)];
+      out[static_cast<std::size_t>((n - k) % n)] = conjugate(row_out[static_cast<std::size_t>(k2)]);
+    }
+  }
+  return out;
+}
+
+Batch Packed::two_stages(const Tree& tree, const Batch& x) {
+  const TwoStages map = stages_of(tree);
+  const int n = map.a * map.b;
+  Batch columns;
+  for (int c = 0; c < map.b; ++c) {
+    for (const Line& line : x) {
+      Line& column = columns.emplace_back();
+      for (int m = 0; m < map.a; ++m) column.push_back(line[static_cast<std::size_t>(map.input(m, c))]);
+    }
+  }
+  columns = transform(first_of(tree), columns);
+  Batch rows;
+  for (int k1 = 0; k1 < map.a; ++k1) {
+    for (std::size_t i = 0; i < x.size(); ++i) {
+      Line& row = rows.emplace_back();
+      for (int c = 0; c < map.b; ++c) {
+        const Line& column = columns[static_cast<std::size_t>(c) * x.size() + i];
+        const gen::ComplexConstant twiddle = root_of_unity(turn(map.twiddle(c, k1), n));
+        row.push_back(weighted(column[static_cast<std::size_t>(k1)], twiddle));
+      }
+    }
+  }
+  rows = transform(rest_of(tree), rows);
+  Batch out(x.size(), Line(static_cast<std::size_t>(n)));
+  for (int k1 = 0; k1 < map.a; ++k1) {
+    for (std::size_t i = 0; i < x.size(); ++i) {
+      const Line& row = rows[static_cast<std::size_t>(k1) * x.size() + i];
+      for (int k2 = 0; k2 < map.b; ++k2) {
+        out[i][static_cast<std::size_t>(map.output(k1, k2))] = row[static_cast<std::size_t>(k2)];
+      }
+    }
+  }
+  return out;
+}
+
+}  // namespace xfm::dft

@@ -1,0 +1,53 @@
+// What every kernel does before its body runs: the entry tests in their fixed order, and from the flag to the
+// factor.
+#pragma once
+
+#include <cstdint>
+
+#include "xfm.h"
+
+/// The unaligned body of a packed kernel: a function of its own, not exported and not merged into its caller.
+#define XFM_TWIN __attribute__((noinline, visibility("hidden")))
+
+namespace xfm {
+
+/// Both pointers are multiples of 16. A null pointer passes: the null test comes later, and comes in both
+/// bodies.
+inline bool aligned(const void* src, const void* dst) {
+  return ((reinterpret_cast<std::uintptr_t>(src) | reinterpret_cast<std::uintptr_t>(dst)) & 15) == 0;
+}
+
+/// The valid flags are 1, 2, 4 and 8; as a bit set one comparison and one bit test tell them from all others.
+inline bool valid_flag(std::int32_t flag) {
+  constexpr std::uint32_t valid =
+      1U << XFM_SCALE_FWD_BY_N | 1U << XFM_SCALE_INV_BY_N | 1U << XFM_SCALE_BY_SQRT_N | 1U << XFM_SCALE_NONE;
+  const auto bit = static_cast<std::uint32_t>(flag);
+  return bit <= XFM_SCALE_NONE && (valid >> bit & 1U) != 0;
+}
+
+/// The status that the arguments deserve: pointers first, the flag last.
+inline xfmStatus check(const void* src, const void* dst, std::int32_t flag) {
+  if (src == nullptr || dst == nullptr) return xfmStsNullPtr;
+  if (!valid_flag(flag)) return xfmStsBadScale;
+  return xfmStsOk;
+}
+
+/// The stored factors of a kernel, one for each valid flag and as often as it has lanes: no arithmetic and no
+/// branch leads from the flag to its factor. Half the flag is the index (0, 1, 2, 4).
+template <class T, int lanes>
+struct Factors {
+  alignas(lanes * sizeof(T)) T by_half_flag[5][lanes];
+
+  constexpr Factors(T forward_by_n, T inverse_by_n, T by_sqrt_n) : by_half_flag{} {
+    for (int l = 0; l < lanes; ++l) {
+      by_half_flag[XFM_SCALE_FWD_BY_N / 2][l] = forward_by_n;
+      by_half_flag[XFM_SCALE_INV_BY_N / 2][l] = inverse_by_n;
+      by_half_flag[XFM_SCALE_BY_SQRT_N / 2][l] = by_sqrt_n;
+      by_half_flag[XFM_SCALE_NONE / 2][l] = 1;
+    }
+  }
+
+  const T* of(std::int32_t flag) const { return by_half_flag[flag >> 1]; }
+};
+
+}  // namespace xfm

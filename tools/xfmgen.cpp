@@ -1,0 +1,113 @@
+// xfmgen: writes the library's kernels and everything that follows from the list of families, and shows what
+// a row of a table comes to.
+#include <fmt/format.h>
+
+#include <CLI/CLI.hpp>
+#include <iostream>
+
+#include "gen/check.h"
+#include "gen/emit.h"
+#include "gen/tree.h"
+#include "gen/write.h"
+#include "tools/families.h"
+#include "tools/listing.h"
+
+namespace {
+
+using xfm::families;
+using xfm::Family;
+using xfm::gen::Kernel;
+
+// One file a family and length, both precisions: a changed row recompiles that file and no other.
+void write_all(const std::filesystem::path& out) {
+  for (const Family& family : families()) {
+    for (const int length : family.lengths) {
+      std::vector<Kernel> kernels;
+      for (const auto& type : family.types) kernels.push_back(family.make(length, type.precision, ""));
+      xfm::gen::write_if_changed(out / fmt::format("{}_{}.cpp", family.name, length),
+                                 xfm::gen::emit_file(kernels, family.vocabulary));
+    }
+  }
+  xfm::gen::write_if_changed(out / "generic.cpp", xfm::generic_functions());
+  xfm::gen::write_if_changed(out / "catalogue.cpp", xfm::catalogue());
+  xfm::gen::write_if_changed(out / "xfm.map", xfm::export_map());
+}
+
+// The public header stands in the source tree: renewed on demand, and compared by the tests.
+int door(const std::filesystem::path& frame, const std::filesystem::path& header, bool check) {
+  const std::string text = xfm::public_header(xfm::gen::read_file(frame));
+  if (!check) {
+    xfm::gen::write_if_changed(header, text);
+    return 0;
+  }
+  if (xfm::gen::read_file(header) == text) return 0;
+  std::cerr << header.string() << " does not match the list of families; build the target \"door\"\n";
+  return 1;
+}
+
+int show(const std::vector<std::string>& what, const std::string& tree) {
+  for (const Family& family : families()) {
+    for (const auto& type : family.types) {
+      if (family.name != what[0] || type.suffix() != what[2]) continue;
+      const Kernel kernel = family.make(std::stoi(what[1]), type.precision, tree);
+      const xfm::gen::Counts counts = count(*kernel.network);
+      fmt::print("{}\n  tree       {}\n  adds       {} (row {})\n  mults      {} (row {})\n", kernel.name,
+                 to_string(xfm::gen::parse_tree(kernel.tree)), counts.adds, kernel.adds, counts.mults,
+                 kernel.mults);
+      fmt::print(
+          "  lanes      {}\n  packed     {} additions, {} multiplications with the factor, {} shuffles, {} "
+          "exchanges, {} loads, {} stores\n\n",
+          kernel.network->width(), counts.add_nodes, counts.mult_nodes, counts.shuffles, counts.exchanges,
+          counts.loads, counts.stores);
+      fmt::print("{}", xfm::gen::emit_file({&kernel, 1}, family.vocabulary));
+      return 0;
+    }
+  }
+  std::cerr << "no such family or type: " << what[0] << " " << what[2] << "\n";
+  return 1;
+}
+
+void costs() {
+  fmt::print("{:<32} {:>6} {:>6} {:>6} {:>6}  {}\n", "kernel", "adds", "row", "mults", "row", "tree");
+  for (const Family& family : families()) {
+    for (const auto& type : family.types) {
+      for (const int length : family.lengths) {
+        const Kernel kernel = family.make(length, type.precision, "");
+        const xfm::gen::Counts counts = count(*kernel.network);
+        fmt::print("{:<32} {:>6} {:>6} {:>6} {:>6}  {}\n", kernel.name, counts.adds, kernel.adds,
+                   counts.mults, kernel.mults, kernel.tree);
+      }
+    }
+  }
+}
+
+int run(int argc, char** argv) {
+  CLI::App app{"Writes the kernels of xfm, or shows what a row of a table comes to."};
+  std::string out, header, frame, tree;
+  std::vector<std::string> what;
+  bool check = false, list_costs = false;
+  app.add_option("--out", out, "write all generated sources to this folder");
+  app.add_option("--show", what, "FAMILY N TYPE: tree, costs, lanes and text of one kernel")->expected(3);
+  app.add_option("--tree", tree, "with --show: this tree instead of the row's");
+  app.add_flag("--costs", list_costs, "every kernel's cost beside its row");
+  app.add_option("--door", header, "write the public header");
+  app.add_option("--frame", frame, "with --door: its hand-written frame");
+  app.add_flag("--check", check, "with --door: only compare");
+  CLI11_PARSE(app, argc, argv);
+
+  if (!out.empty()) write_all(out);
+  if (list_costs) costs();
+  if (!header.empty()) return door(frame, header, check);
+  return what.empty() ? 0 : show(what, tree);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  try {
+    return run(argc, argv);
+  } catch (const std::exception& error) {
+    std::cerr << "xfmgen: " << error.what() << "\n";
+    return 1;
+  }
+}
