@@ -76,9 +76,9 @@ auto about(const std::string& file, Work work) {
 }
 
 void run(const Options& options) {
-  if (options.length < 2 || options.length > longestLength())
+  if (!served(options.length))
     throw std::runtime_error(
-        fmt::format("length {} is not served, choose 2 to {}", options.length, longestLength()));
+        fmt::format("length {} is not served, the longest is {}", options.length, longestLength()));
 
   Audio audio = about(options.sound, [&] { return Audio(options.sound); });
   const Spectrogram spectrogram = about(options.sound, [&] {

@@ -76,11 +76,15 @@ void normalise(Spectrogram& picture, const std::vector<std::int64_t>& windows) {
 
 }  // namespace
 
-int longestLength() {
+bool served(int length) {
   // The length is tested first, so null pointers are enough to ask.
-  for (int length = 64; length > 0; --length)
-    if (xfmDFTFwd_CToC_32fc(nullptr, nullptr, length, XFM_SCALE_NONE) != xfmStsBadSize) return length;
-  return 0;
+  return xfmDFTFwd_CToC_32fc(nullptr, nullptr, length, XFM_SCALE_NONE) != xfmStsBadSize;
+}
+
+int longestLength() {
+  int length = 64;
+  while (length > 0 && !served(length)) --length;
+  return length;
 }
 
 Spectrogram analyse(Audio& audio, int length, int columns, const std::function<void(double)>& progress) {

@@ -25,7 +25,8 @@ struct Spectrogram {
   }
 };
 
-/// The longest transform that the library serves, or 0: it is asked, not assumed.
+/// Whether the library serves a length, and the longest that it serves: it is asked, nothing is assumed.
+bool served(int length);
 int longestLength();
 
 /// Analyses the whole file with Hann windows that overlap by three quarters, into no more columns than given.

@@ -69,7 +69,7 @@ case $case in
     ;;
   unserved)
     "$tones" tones.wav 1
-    refuses 'length 65 is not served, choose 2 to [0-9]+' tones.wav --length 65
+    refuses 'length 65 is not served, the longest is [0-9]+' tones.wav --length 65
     ;;
   gnuplot)
     "$tones" tones.wav 1
