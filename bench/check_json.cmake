@@ -1,0 +1,16 @@
+# Reads a report of xfmbench as any program would, and stops where a figure is missing or makes no sense.
+file(READ ${FILE} report)
+string(JSON groups LENGTH ${report} groups)
+if(groups LESS 1)
+  message(FATAL_ERROR "no groups")
+endif()
+math(EXPR last "${groups} - 1")
+foreach(group RANGE ${last})
+  foreach(path "ratio" "ratio_median" "kernels;0;ratio" "kernels;0;limit" "kernels;0;ours;cycles"
+      "kernels;0;rival;cycles_median" "kernels;0;rival;ns")
+    string(JSON figure GET ${report} groups ${group} ${path})
+    if(NOT figure GREATER 0)
+      message(FATAL_ERROR "group ${group}: ${path} is ${figure}")
+    endif()
+  endforeach()
+endforeach()

@@ -1,0 +1,88 @@
+// FFTW as a contestant, in both precisions.
+#pragma once
+
+#include <fftw3.h>
+
+#include <chrono>
+#include <stdexcept>
+#include <utility>
+#include <vector>
+
+#include "bench/arrays.h"
+#include "bench/contestant.h"
+#include "bench/timing.h"
+
+namespace xfm::bench::fftw {
+
+/// One set of names for the two copies of the library.
+template <class Real>
+struct Api;
+
+template <>
+struct Api<float> {
+  using Plan = fftwf_plan;
+  using Complex = fftwf_complex;
+  static constexpr auto plan_dft_1d = fftwf_plan_dft_1d;
+  static constexpr auto execute_dft = fftwf_execute_dft;
+  static constexpr auto destroy = fftwf_destroy_plan;
+  static constexpr auto forget_wisdom = fftwf_forget_wisdom;
+};
+
+template <>
+struct Api<double> {
+  using Plan = fftw_plan;
+  using Complex = fftw_complex;
+  static constexpr auto plan_dft_1d = fftw_plan_dft_1d;
+  static constexpr auto execute_dft = fftw_execute_dft;
+  static constexpr auto destroy = fftw_destroy_plan;
+  static constexpr auto forget_wisdom = fftw_forget_wisdom;
+};
+
+/// Patient planning chooses by measuring, so on a busy machine it can choose badly: plans of one length were
+/// seen to differ by an eighth. So it plans afresh a few times, as long as that is quick, and takes the
+/// fastest plan.
+template <class Real, class MakePlan>
+ContestantPtr best_plan(MakePlan make_plan) {
+  using Clock = std::chrono::steady_clock;
+  constexpr std::size_t kMostPlans = 4;
+  const auto deadline = Clock::now() + std::chrono::milliseconds(200);
+  std::vector<ContestantPtr> plans;
+  do {
+    Api<Real>::forget_wisdom();
+    plans.push_back(make_plan());
+  } while (plans.size() < kMostPlans && Clock::now() < deadline);
+  return fastest(std::move(plans));
+}
+
+/// Complex transform, one at a time. The new-array form of the call is the faster one: it saves FFTW from
+/// looking its pointers up in the problem.
+template <class Real>
+class ComplexDft final : public Contestant {
+ public:
+  ComplexDft(int length, int sign, Arrays& arrays)
+      : src_(static_cast<Complex*>(arrays.src())),
+        dst_(static_cast<Complex*>(arrays.dst())),
+        plan_(Api<Real>::plan_dft_1d(length, src_, dst_, sign, FFTW_PATIENT)) {
+    if (plan_ == nullptr) throw std::runtime_error("FFTW made no plan");
+  }
+  ComplexDft(const ComplexDft&) = delete;
+  ComplexDft& operator=(const ComplexDft&) = delete;
+  ~ComplexDft() override { Api<Real>::destroy(plan_); }
+
+  void run(int calls) override {
+    for (int i = 0; i < calls; ++i) Api<Real>::execute_dft(plan_, src_, dst_);
+  }
+
+ private:
+  using Complex = typename Api<Real>::Complex;
+  Complex* src_;
+  Complex* dst_;
+  typename Api<Real>::Plan plan_;
+};
+
+template <class Real, int sign>
+ContestantPtr complex_dft(int length, Arrays& arrays) {
+  return best_plan<Real>([&] { return std::make_unique<ComplexDft<Real>>(length, sign, arrays); });
+}
+
+}  // namespace xfm::bench::fftw

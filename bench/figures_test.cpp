@@ -1,0 +1,88 @@
+// The arithmetic between the stop watch and the report.
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "bench/limit.h"
+#include "bench/report.h"
+#include "bench/statistics.h"
+
+namespace xfm::bench {
+namespace {
+
+using catalogue::Kernel;
+using catalogue::Precision;
+
+Kernel kernel(const char* type, Precision precision, int length, bool packed, int exchanges, int adds,
+              int mults) {
+  Kernel result{};
+  result.family = "DFTFwd_CToC";
+  result.type = type;
+  result.precision = precision;
+  result.length = length;
+  result.read = result.written = 2 * length;
+  result.packed = packed;
+  result.exchanges = exchanges;
+  result.adds = adds;
+  result.mults = mults;
+  return result;
+}
+
+TEST(Summary, OddAndEvenCounts) {
+  const Summary odd = summarize({5, 1, 2});
+  EXPECT_EQ(odd.least, 1);
+  EXPECT_EQ(odd.median, 2);
+  const Summary even = summarize({9, 1, 2, 4});
+  EXPECT_EQ(even.least, 1);
+  EXPECT_EQ(even.median, 3);
+}
+
+TEST(GeometricMean, OfReciprocalsIsOne) {
+  EXPECT_DOUBLE_EQ(geometric_mean(std::vector{4.0, 0.25, 2.0, 0.5}), 1);
+  EXPECT_DOUBLE_EQ(geometric_mean(std::vector{2.0, 4.0, 8.0}), 4);
+}
+
+// Each of the five terms in turn is the largest.
+TEST(Limit, Additions) {  // split radix 8 in binary64: 52 / 2 lanes / 2
+  EXPECT_DOUBLE_EQ(limit_in_cycles(kernel("64fc", Precision::twofold, 8, true, 3, 52, 4)), 13 + 7);
+}
+
+TEST(Limit, AdditionsAndShuffles) {  // (52 / 2 + 20) / 3
+  EXPECT_DOUBLE_EQ(limit_in_cycles(kernel("64fc", Precision::twofold, 8, true, 20, 52, 4)), 46.0 / 3 + 7);
+}
+
+TEST(Limit, ShufflesThatSplitAndJoinBinary32) {  // (40 / 4 lanes + 16) / 3
+  EXPECT_DOUBLE_EQ(limit_in_cycles(kernel("32fc", Precision::single, 16, true, -1, 40, 0)), 26.0 / 3 + 7);
+}
+
+TEST(Limit, MultiplicationsWithTheFactor) {  // (200 + 32) / 4 lanes / 2
+  EXPECT_DOUBLE_EQ(limit_in_cycles(kernel("32fc", Precision::single, 16, true, -1, 144, 200)), 29 + 7);
+}
+
+TEST(Limit, StoresOfAScalarKernel) {
+  EXPECT_DOUBLE_EQ(limit_in_cycles(kernel("32fc", Precision::single, 3, false, 0, 12, 4)), 6 + 7);
+}
+
+TEST(Limit, Loads) {
+  Kernel gather = kernel("64fc", Precision::twofold, 4, false, 0, 3, 0);
+  gather.read = 40;
+  EXPECT_DOUBLE_EQ(limit_in_cycles(gather), 20 + 7);
+}
+
+TEST(Groups, ByFamilyAndTypeWithLengthsBehind) {
+  const Kernel a = kernel("32fc", Precision::single, 6, true, -1, 36, 8);
+  const Kernel b = kernel("64fc", Precision::twofold, 6, true, 2, 36, 8);
+  const Kernel c = kernel("32fc", Precision::single, 7, true, -1, 60, 36);
+  const Summary ten{10, 12};
+  const auto groups =
+      grouped({{&a, 1, 1, ten, Summary{20, 18}}, {&b, 1, 1, ten, {}}, {&c, 1, 1, ten, Summary{9, 15}}});
+  ASSERT_EQ(groups.size(), 2U);
+  EXPECT_EQ(groups[0].type, "32fc");
+  EXPECT_EQ(groups[0].ratios(), (std::vector{2.0, 0.9}));
+  EXPECT_EQ(groups[0].ratios_of_medians(), (std::vector{1.5, 1.25}));
+  EXPECT_EQ(groups[0].lengths_behind(), std::vector{7});
+  EXPECT_FALSE(groups[1].has_rival());
+}
+
+}  // namespace
+}  // namespace xfm::bench

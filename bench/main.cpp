@@ -1,0 +1,132 @@
+// xfmbench: every kernel beside a rival.
+#include <fmt/format.h>
+#include <unistd.h>
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <exception>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "bench/build.h"
+#include "bench/race.h"
+#include "bench/report.h"
+#include "bench/rivals.h"
+#include "tools/catalogue.h"
+
+namespace {
+
+using namespace xfm;
+using namespace xfm::bench;
+using Kernels = std::vector<const catalogue::Kernel*>;
+
+struct Options {
+  std::vector<std::string> only;
+  int rounds = 400;
+  std::string json;
+  bool list = false;
+  Placement placement;
+};
+
+void define(CLI::App& app, Options& options) {
+  app.add_option("--only", options.only,
+                 "Only kernels with TEXT in their name, which ends in the type; repeatable")
+      ->type_name("TEXT")
+      ->allow_extra_args(false);
+  app.add_option("--rounds", options.rounds, "Rounds a kernel")
+      ->check(CLI::Range(1, 1000000))
+      ->capture_default_str();
+  app.add_option("--json", options.json, "Write all figures to FILE as well")->type_name("FILE");
+  app.add_flag("--list", options.list, "Name the kernels and measure nothing");
+  app.add_flag("--unaligned", options.placement.unaligned, "Arrays one real scalar past an aligned address");
+  app.add_flag("--in-place", options.placement.in_place, "dst is src");
+}
+
+Kernels chosen(const std::vector<std::string>& only) {
+  Kernels kernels;
+  for (const catalogue::Kernel& kernel : catalogue::kernels()) {
+    const auto matches = [&](const std::string& text) {
+      return std::string(kernel.name).find(text) != std::string::npos;
+    };
+    if (only.empty() || std::any_of(only.begin(), only.end(), matches)) kernels.push_back(&kernel);
+  }
+  return kernels;
+}
+
+/// Planning and racing take a while: says how far they are, if somebody is watching.
+void show_progress(const char* work, std::size_t done, std::size_t all) {
+  if (!isatty(STDERR_FILENO)) return;
+  fmt::print(stderr, "\r{} {}/{}{}", work, done, all, done == all ? "\r\x1b[K" : "");
+  std::fflush(stderr);
+}
+
+std::vector<std::unique_ptr<Race>> planned(const Kernels& kernels, Placement placement) {
+  std::vector<std::unique_ptr<Race>> races;
+  for (const catalogue::Kernel* kernel : kernels) {
+    races.push_back(std::make_unique<Race>(*kernel, placement));
+    show_progress("planning", races.size(), kernels.size());
+  }
+  return races;
+}
+
+std::vector<Result> raced(const std::vector<std::unique_ptr<Race>>& races, int rounds) {
+  constexpr int kRoundsInARow = 20;
+  for (int done = 0; done < rounds;) {
+    const int now = std::min(kRoundsInARow, rounds - done);
+    for (const auto& race : races) race->run(now);
+    done += now;
+    show_progress("racing, round", static_cast<std::size_t>(done), static_cast<std::size_t>(rounds));
+  }
+  std::vector<Result> results;
+  for (const auto& race : races) results.push_back(race->result());
+  return results;
+}
+
+using File = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
+
+/// Opened before the work, so that a wrong path does not cost a whole run.
+File opened(const std::string& path) {
+  File file(path.empty() ? nullptr : std::fopen(path.c_str(), "w"), std::fclose);
+  if (!path.empty() && !file) throw std::runtime_error(fmt::format("{}: {}", path, std::strerror(errno)));
+  return file;
+}
+
+void measure(const Options& options) {
+  const Kernels kernels = chosen(options.only);
+  if (kernels.empty()) throw std::runtime_error("no kernel is named so; --list names them");
+  if (options.list) {
+    for (const catalogue::Kernel* kernel : kernels) fmt::print("{}\n", kernel->name);
+    return;
+  }
+  if (const std::string reason = objection(); !reason.empty())
+    throw std::runtime_error("refusing to measure: " + reason);
+  const File json = opened(options.json);
+  const Conditions conditions{this_build(), rival_version(), options.placement, options.rounds};
+  print_heading(conditions);
+  std::fflush(stdout);
+  const auto groups = grouped(raced(planned(kernels, options.placement), options.rounds));
+  print_tables(groups);
+  print_summary(groups);
+  if (json) write_json(json.get(), conditions, groups);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  Options options;
+  CLI::App app("Times every kernel beside a rival, in turns, and tells the ratio.");
+  define(app, options);
+  CLI11_PARSE(app, argc, argv);
+  try {
+    measure(options);
+  } catch (const std::exception& error) {
+    std::fflush(stdout);
+    fmt::print(stderr, "xfmbench: {}\n", error.what());
+    return 1;
+  }
+}

@@ -1,0 +1,101 @@
+#include "bench/race.h"
+
+#include <fmt/format.h>
+
+#include <cmath>
+#include <memory>
+#include <stdexcept>
+#include <utility>
+
+#include "bench/limit.h"
+#include "bench/rivals.h"
+
+namespace xfm::bench {
+
+namespace {
+
+enum Index : std::size_t { kChain, kOurs, kRival };
+
+class OwnKernel final : public Contestant {
+ public:
+  OwnKernel(const catalogue::Kernel& kernel, Arrays& arrays)
+      : call_(kernel.call), src_(arrays.src()), dst_(arrays.dst()) {}
+
+  void run(int calls) override {
+    for (int i = 0; i < calls; ++i) call_(src_, dst_, XFM_SCALE_NONE);
+  }
+
+ private:
+  catalogue::Call call_;
+  const void* src_;
+  void* dst_;
+};
+
+std::vector<double> output_of(Contestant& contestant, Arrays& arrays) {
+  arrays.fill();
+  contestant.run(1);
+  return arrays.output();
+}
+
+/// Norm of the difference over the norm.
+double distance(const std::vector<double>& a, const std::vector<double>& b) {
+  double difference = 0, norm = 0;
+  for (std::size_t i = 0; i < a.size(); ++i) {
+    difference += (a[i] - b[i]) * (a[i] - b[i]);
+    norm += b[i] * b[i];
+  }
+  return std::sqrt(difference / norm);
+}
+
+/// A race between different transforms would mean nothing.
+void check_agreement(const catalogue::Kernel& kernel, Contestant& ours, Contestant& rival, Arrays& arrays) {
+  const double tolerance = kernel.precision == catalogue::Precision::single ? 1e-6 : 1e-14;
+  const double apart = distance(output_of(ours, arrays), output_of(rival, arrays));
+  if (!(apart <= tolerance))
+    throw std::runtime_error(
+        fmt::format("{}: output differs from the rival's by {:.1e} of its norm", kernel.name, apart));
+}
+
+Summary divided(Summary summary, double divisor) {
+  return {summary.least / divisor, summary.median / divisor};
+}
+
+}  // namespace
+
+Race::Lane::Lane(ContestantPtr who) : contestant(std::move(who)), calls(calls_per_batch(*contestant)) {}
+
+void Race::Lane::warm_up() { time_batch(*contestant, calls); }
+
+void Race::Lane::sample() { samples.push_back(time_batch(*contestant, calls)); }
+
+Race::Race(const catalogue::Kernel& kernel, Placement placement)
+    : kernel_(&kernel), arrays_(kernel, placement) {
+  auto rival = make_rival(kernel, arrays_);
+  auto ours = std::make_unique<OwnKernel>(kernel, arrays_);
+  if (rival) check_agreement(kernel, *ours, *rival, arrays_);
+  arrays_.fill();
+  if (placement.in_place) arrays_.clear();
+  lanes_.emplace_back(std::make_unique<CycleChain>());
+  lanes_.emplace_back(std::move(ours));
+  if (rival) lanes_.emplace_back(std::move(rival));
+}
+
+void Race::run(int rounds) {
+  for (Lane& lane : lanes_) lane.warm_up();
+  for (int round = 0; round < rounds; ++round) {
+    if (round % 2 == 0)
+      for (auto lane = lanes_.begin(); lane != lanes_.end(); ++lane) lane->sample();
+    else
+      for (auto lane = lanes_.rbegin(); lane != lanes_.rend(); ++lane) lane->sample();
+  }
+}
+
+Result Race::result() const {
+  const double cycle = summarize(lanes_[kChain].samples).least / CycleChain::kCyclesPerCall;
+  Result result{
+      kernel_, cycle, limit_in_cycles(*kernel_), divided(summarize(lanes_[kOurs].samples), cycle), {}};
+  if (lanes_.size() > kRival) result.rival = divided(summarize(lanes_[kRival].samples), cycle);
+  return result;
+}
+
+}  // namespace xfm::bench

@@ -1,0 +1,59 @@
+// One kernel against its rival.
+//
+// An own loop rather than Google Benchmark: that one times all repetitions of one function and then all of
+// the next, so a change of clock rate or of other load between the two falls on one side only. Here the two
+// take turns within fractions of a millisecond, with the order turned round each time, and the rounds of each
+// race are spread over the whole run, so that a disturbance of seconds spoils some rounds of many races and
+// no race altogether.
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "bench/arrays.h"
+#include "bench/contestant.h"
+#include "bench/statistics.h"
+#include "bench/timing.h"
+#include "tools/catalogue.h"
+
+namespace xfm::bench {
+
+/// Core cycles a call. A cycle lasts as long as the fastest batch of the cycle chain says.
+struct Result {
+  const catalogue::Kernel* kernel;
+  double nanoseconds_per_cycle;
+  double limit;
+  Summary ours;
+  std::optional<Summary> rival;
+
+  double ratio() const { return rival->least / ours.least; }
+  double ratio_of_medians() const { return rival->median / ours.median; }
+};
+
+class Race {
+ public:
+  /// Plans the rival, and checks that it and the kernel give the same output for the same input: throws if
+  /// not.
+  Race(const catalogue::Kernel& kernel, Placement placement);
+
+  /// Some more rounds, each a batch of the kernel, of the rival and of the cycle chain.
+  void run(int rounds);
+  Result result() const;
+
+ private:
+  struct Lane {
+    ContestantPtr contestant;
+    int calls;
+    std::vector<double> samples;  // nanoseconds a call
+
+    explicit Lane(ContestantPtr who);
+    void warm_up();
+    void sample();
+  };
+
+  const catalogue::Kernel* kernel_;
+  Arrays arrays_;
+  std::vector<Lane> lanes_;  // the cycle chain, the kernel, and its rival if there is one
+};
+
+}  // namespace xfm::bench
