@@ -53,8 +53,8 @@ void report(const Options& options, const Audio& audio, const Spectrogram& s) {
   fmt::print("         {}, {} channel{}, {} Hz, {:.2f} s\n", audio.format(), audio.channels(),
              audio.channels() == 1 ? "" : "s", audio.rate(), audio.seconds());
   fmt::print("frames   {} of {} samples, one every {}\n", s.frames, s.length, s.hop);
-  fmt::print("calls    {} of xfmDFTFwd_CToC_32fc, {:.1f} ns a call, {:.3f} s in all\n", s.frames,
-             ns / static_cast<double>(s.frames), ns * 1e-9);
+  fmt::print("calls    {} of xfmDFTFwd_CToC_32fc, {:.1f} ns a call, {:.2f} ms in all\n", s.frames,
+             ns / static_cast<double>(s.frames), ns * 1e-6);
   for (int channel = 0; channel < std::min(2, audio.channels()); ++channel) {
     const Band band = loudest(s, channel, audio.rate());
     fmt::print("loudest  {:.0f} to {:.0f} Hz, {:.1f} dB{}\n", band.low, band.high, band.level,
