@@ -12,6 +12,9 @@
 namespace xfm::gen {
 namespace {
 
+constexpr const char* written_by_xfmgen =
+    "// Written by xfmgen; do not edit: change the row or the recipe, and build.\n";
+
 std::string identifier(const std::string& name) {
   std::string id;
   for (const char c : name) id += std::isalnum(static_cast<unsigned char>(c)) != 0 ? c : '_';
@@ -20,10 +23,13 @@ std::string identifier(const std::string& name) {
 
 bool is_trivial(const Constant& c) { return c.is_zero() || magnitude(c).is_one(); }
 
+const char* register_type(const Kernel& kernel) { return kernel.network->width() == 2 ? "Pair" : "Quad"; }
+
 // A kernel's body, line by line.
 class Body {
  public:
-  explicit Body(const Kernel& kernel) : kernel_(kernel), network_(*kernel.network) {}
+  Body(const Kernel& kernel, SharedConstants& shared)
+      : kernel_(kernel), network_(*kernel.network), shared_(shared) {}
 
   std::string text() {
     std::string lines;
@@ -32,6 +38,15 @@ class Body {
                               : store(network_.stores()[static_cast<std::size_t>(step.store)]);
     }
     return constants() + lines;
+  }
+
+  // The shared registers that text() uses, to be declared in front of the body.
+  std::string declarations() const {
+    std::string text;
+    for (const std::string& name : registers_) {
+      text += fmt::format("extern \"C\" XFM_CONSTANT {} {};\n", register_type(kernel_), name);
+    }
+    return text;
   }
 
  private:
@@ -62,8 +77,7 @@ class Body {
   }
 
   std::string value_type() const {
-    if (network_.width() == 1) return kernel_.type.scalar();
-    return network_.width() == 2 ? "Pair" : "Quad";
+    return network_.width() == 1 ? kernel_.type.scalar() : register_type(kernel_);
   }
 
   static std::string var(NodeId id) { return fmt::format("v{}", id); }
@@ -98,10 +112,14 @@ class Body {
 
   std::string multiplier(const Node& node) {
     if (network_.width() == 1) return use(node.constants[0]);
+    if (node.constants.size() == 1) {
+      const std::string name = shared_.use(node.constants[0], kernel_);
+      registers_.insert(name);
+      return name;
+    }
     std::string lanes;
     for (const Constant& c : node.constants) lanes += (lanes.empty() ? "" : ", ") + use(c);
-    const char* suffix = kernel_.type.precision == Precision::single ? "ps" : "pd";
-    return fmt::format("_mm_{}_{}({})", node.constants.size() == 1 ? "set1" : "setr", suffix, lanes);
+    return fmt::format("_mm_setr_ps({})", lanes);
   }
 
   // One linear combination in binary64, rounded once; its terms stand in the recipe's order.
@@ -162,6 +180,8 @@ class Body {
   const Kernel& kernel_;
   const Network& network_;
   std::set<Constant> constants_;
+  std::set<std::string> registers_;
+  SharedConstants& shared_;
 };
 
 // 1/N and 1/sqrt(N): nearest in binary32, in binary64 the quotients by N and by the rounded root.
@@ -202,34 +222,29 @@ std::string factor_load(const Kernel& kernel) {
   }
 }
 
-std::string body_text(const Kernel& kernel) {
-  std::string start =
-      "  if (const xfmStatus status = check(src, dst, flag); status != xfmStsOk) return status;\n";
-  start += factor_load(kernel);
-  start += fmt::format(
-      "  const auto* const x = reinterpret_cast<const {0}*>(src);\n  auto* const y = "
-      "reinterpret_cast<{0}*>(dst);\n",
-      kernel.type.scalar());
-  return start + Body(kernel).text() + "  return xfmStsOk;\n";
+std::string entry_text(const Kernel& kernel) {
+  return "  if (const xfmStatus status = check(src, dst, flag); status != xfmStsOk) return status;\n" +
+         factor_load(kernel) +
+         fmt::format(
+             "  const auto* const x = reinterpret_cast<const {0}*>(src);\n"
+             "  auto* const y = reinterpret_cast<{0}*>(dst);\n",
+             kernel.type.scalar());
 }
 
 // A scalar kernel is one function; a packed one is a body bound twice, to aligned and to unaligned memory.
-std::string emit_kernel(const Kernel& kernel) {
-  const std::string constants = "namespace {\n" + factors(kernel) + "}\n\n";
-  if (!kernel.packed()) {
-    return heading(kernel) + constants + signature(kernel, kernel.name) + " {\n" + body_text(kernel) +
-           "}\n\n";
-  }
+std::string emit_kernel(const Kernel& kernel, SharedConstants& shared) {
+  Body body(kernel, shared);
+  const std::string inner = " {\n" + entry_text(kernel) + body.text() + "  return xfmStsOk;\n}\n\n";
+  const std::string head =
+      heading(kernel) + "namespace {\n" + factors(kernel) + "}\n" + body.declarations() + "\n";
+  if (!kernel.packed()) return head + signature(kernel, kernel.name) + inner;
   const std::string suffix = kernel.type.suffix(), twin = kernel.name + "_twin";
-  return heading(kernel) + constants +
-         fmt::format("template <class Memory>\nstatic inline {} {{\n{}}}\n\n",
-                     signature(kernel, "body_" + suffix), body_text(kernel)) +
-         fmt::format("extern \"C\" XFM_TWIN {} {{\n  return body_{}<Unaligned>(src, dst, flag);\n}}\n\n",
-                     signature(kernel, twin), suffix) +
-         fmt::format(
-             "{} {{\n  if (!aligned(src, dst)) return {}(src, dst, flag);\n  return body_{}<Aligned>(src, "
-             "dst, flag);\n}}\n\n",
-             signature(kernel, kernel.name), twin, suffix);
+  return head + "template <class Memory>\nstatic inline " + signature(kernel, "body_" + suffix) + inner +
+         "extern \"C\" XFM_TWIN " + signature(kernel, twin) +
+         fmt::format(" {{\n  return body_{}<Unaligned>(src, dst, flag);\n}}\n\n", suffix) +
+         signature(kernel, kernel.name) +
+         fmt::format(" {{\n  if (!aligned(src, dst)) return {}(src, dst, flag);\n", twin) +
+         fmt::format("  return body_{}<Aligned>(src, dst, flag);\n}}\n\n", suffix);
 }
 
 }  // namespace
@@ -239,14 +254,32 @@ std::string literal(Wide value, Precision precision) {
   return fmt::format("{:a}", static_cast<double>(value));
 }
 
-std::string emit_file(std::span<const Kernel> kernels, const std::string& include) {
-  std::string text = "// Written by xfmgen; do not edit: change the row or the recipe, and build.\n";
-  text += "#include \"src/frame/contract.h\"\n";
+std::string SharedConstants::use(const Constant& c, const Kernel& kernel) {
+  const bool pair = kernel.network->width() == 2;
+  const std::string name = fmt::format("xfm_{}_{}", pair ? "pair" : "quad", identifier(c.name));
+  const std::string value = literal(c.value, kernel.type.precision);
+  definitions_[name] =
+      fmt::format("extern \"C\" XFM_CONSTANT {} {} = {{{}}};  // {:.17g}\n", register_type(kernel), name,
+                  pair ? fmt::format("{0}, {0}", value) : fmt::format("{0}, {0}, {0}, {0}", value),
+                  static_cast<double>(c.value));
+  return name;
+}
+
+std::string SharedConstants::definitions(const std::string& vocabulary) const {
+  std::string text =
+      fmt::format("{}#include \"{}\"\n\nusing namespace xfm;\n\n", written_by_xfmgen, vocabulary);
+  for (const auto& [name, definition] : definitions_) text += definition;
+  return text;
+}
+
+std::string emit_file(std::span<const Kernel> kernels, const std::string& vocabulary,
+                      SharedConstants& shared) {
+  std::string text = fmt::format("{}#include \"src/frame/contract.h\"\n", written_by_xfmgen);
   if (std::any_of(kernels.begin(), kernels.end(), [](const Kernel& k) { return k.packed(); })) {
-    text += fmt::format("#include \"{}\"\n", include);
+    text += fmt::format("#include \"{}\"\n", vocabulary);
   }
   text += "\nusing namespace xfm;\n\n";
-  for (const Kernel& kernel : kernels) text += emit_kernel(kernel);
+  for (const Kernel& kernel : kernels) text += emit_kernel(kernel, shared);
   return text;
 }
 

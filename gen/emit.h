@@ -1,6 +1,7 @@
 // The writers of C++ text: a body, and the shell around it (entry tests, factor, twin).
 #pragma once
 
+#include <map>
 #include <span>
 #include <string>
 
@@ -8,9 +9,24 @@
 
 namespace xfm::gen {
 
-/// One translation unit with these kernels. `include` is the header with the vector vocabulary of packed
-/// kernels.
-std::string emit_file(std::span<const Kernel> kernels, const std::string& include);
+/// Registers of replicated constants, one of a kind for all kernels of the library, by name. They stand in a
+/// translation unit of their own: a compiler that sees their value would build them from scalars at every
+/// use.
+class SharedConstants {
+ public:
+  /// The register's name; from now on it is defined.
+  std::string use(const Constant& c, const Kernel& kernel);
+
+  /// The translation unit that defines all that were used.
+  std::string definitions(const std::string& vocabulary) const;
+
+ private:
+  std::map<std::string, std::string> definitions_;
+};
+
+/// One translation unit with these kernels. `vocabulary` is the header of what packed kernels are written in.
+std::string emit_file(std::span<const Kernel> kernels, const std::string& vocabulary,
+                      SharedConstants& shared);
 
 /// A C++ literal with every bit of the value, in the given precision.
 std::string literal(Wide value, Precision precision);

@@ -20,14 +20,16 @@ using xfm::gen::Kernel;
 
 // One file a family and length, both precisions: a changed row recompiles that file and no other.
 void write_all(const std::filesystem::path& out) {
+  xfm::gen::SharedConstants shared;
   for (const Family& family : families()) {
     for (const int length : family.lengths) {
       std::vector<Kernel> kernels;
       for (const auto& type : family.types) kernels.push_back(family.make(length, type.precision, ""));
       xfm::gen::write_if_changed(out / fmt::format("{}_{}.cpp", family.name, length),
-                                 xfm::gen::emit_file(kernels, family.vocabulary));
+                                 xfm::gen::emit_file(kernels, family.vocabulary, shared));
     }
   }
+  xfm::gen::write_if_changed(out / "constants.cpp", shared.definitions("src/dft/vectors.h"));
   xfm::gen::write_if_changed(out / "generic.cpp", xfm::generic_functions());
   xfm::gen::write_if_changed(out / "catalogue.cpp", xfm::catalogue());
   xfm::gen::write_if_changed(out / "xfm.map", xfm::export_map());
@@ -59,7 +61,8 @@ int show(const std::vector<std::string>& what, const std::string& tree) {
           "exchanges, {} loads, {} stores\n\n",
           kernel.network->width(), counts.add_nodes, counts.mult_nodes, counts.shuffles, counts.exchanges,
           counts.loads, counts.stores);
-      fmt::print("{}", xfm::gen::emit_file({&kernel, 1}, family.vocabulary));
+      xfm::gen::SharedConstants shared;
+      fmt::print("{}", xfm::gen::emit_file({&kernel, 1}, family.vocabulary, shared));
       return 0;
     }
   }

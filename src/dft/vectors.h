@@ -4,6 +4,9 @@
 
 #include <emmintrin.h>
 
+/// A constant register in read-only memory, one for all kernels of the library.
+#define XFM_CONSTANT __attribute__((visibility("hidden"))) const
+
 namespace xfm {
 
 using Pair = __m128d;  ///< one complex number of binary64 parts

@@ -1,0 +1,26 @@
+// What build of the library this is: two records of constant data, which differ in the name only.
+#include "xfm.h"
+#include "xfmcore.h"
+
+namespace {
+
+/// The processor feature that is marked in the name; what stands behind the code is the core's affair.
+constexpr int marked_feature = 128;
+
+constexpr xfmLibraryVersion record(const char* name) {
+  return {.major = 6,
+          .minor = 1,
+          .majorBuild = 137,
+          .build = 316,
+          .targetCode = "q9",
+          .name = name,
+          .version = "6.1 build 137.36",
+          .buildDate = "Sep 29 2009"};
+}
+
+constexpr xfmLibraryVersion marked = record("xfmq9-6.1.dll+");
+constexpr xfmLibraryVersion plain = record("xfmq9-6.1.dll");
+
+}  // namespace
+
+const xfmLibraryVersion* xfmGetLibVersion() { return ownGetFeature(marked_feature) != 0 ? &marked : &plain; }
