@@ -1,5 +1,6 @@
 #include "bench/race.h"
 
+#include <dlfcn.h>
 #include <fmt/format.h>
 
 #include <cmath>
@@ -16,10 +17,19 @@ namespace {
 
 enum Index : std::size_t { kChain, kOurs, kRival };
 
+/// The exported function itself: the catalogue's call goes through a function of its own that casts the
+/// pointers, which costs three cycles, a quarter of the shortest kernels' time. The rival has no such thing
+/// between.
+catalogue::Call exported(const catalogue::Kernel& kernel) {
+  void* const address = dlsym(RTLD_DEFAULT, kernel.name);
+  if (address == nullptr) throw std::runtime_error(fmt::format("{}: not exported", kernel.name));
+  return reinterpret_cast<catalogue::Call>(address);
+}
+
 class OwnKernel final : public Contestant {
  public:
   OwnKernel(const catalogue::Kernel& kernel, Arrays& arrays)
-      : call_(kernel.call), src_(arrays.src()), dst_(arrays.dst()) {}
+      : call_(exported(kernel)), src_(arrays.src()), dst_(arrays.dst()) {}
 
   void run(int calls) override {
     for (int i = 0; i < calls; ++i) call_(src_, dst_, XFM_SCALE_NONE);
