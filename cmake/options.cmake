@@ -12,4 +12,5 @@ target_compile_options(xfm_options INTERFACE
 add_library(xfm_kernel_options INTERFACE)
 target_compile_options(xfm_kernel_options INTERFACE
   -ffp-contract=off -fno-fast-math -fno-tree-vectorize -fno-tree-slp-vectorize
-  -march=x86-64 -mtune=generic -fvisibility=hidden)
+  -march=x86-64 -mtune=generic -fvisibility=hidden
+  $<$<CXX_COMPILER_ID:GNU>:-fno-reorder-blocks-and-partition>)  # a kernel is one piece, its refusals included

@@ -95,7 +95,7 @@ class Body {
       case Op::exchange:
         return fmt::format("exchange({})", var(node.in[0]));
       case Op::flip:
-        return fmt::format("flip({})", var(node.in[0]));
+        return flip(node);
       case Op::add:
         return fmt::format("{} + {}", var(node.in[0]), var(node.in[1]));
       case Op::sub:
@@ -120,6 +120,12 @@ class Body {
     std::string lanes;
     for (const Constant& c : node.constants) lanes += (lanes.empty() ? "" : ", ") + use(c);
     return fmt::format("_mm_setr_ps({})", lanes);
+  }
+
+  std::string flip(const Node& node) const {
+    if (network_.width() == 2) return fmt::format("flip({})", var(node.in[0]));
+    const auto [a, b, c, d] = node.lanes;
+    return fmt::format("flip<{}, {}, {}, {}>({})", a, b, c, d, var(node.in[0]));
   }
 
   // One linear combination in binary64, rounded once; its terms stand in the recipe's order.
@@ -239,7 +245,7 @@ std::string emit_kernel(const Kernel& kernel, SharedConstants& shared) {
       heading(kernel) + "namespace {\n" + factors(kernel) + "}\n" + body.declarations() + "\n";
   if (!kernel.packed()) return head + signature(kernel, kernel.name) + inner;
   const std::string suffix = kernel.type.suffix(), twin = kernel.name + "_twin";
-  return head + "template <class Memory>\nstatic inline " + signature(kernel, "body_" + suffix) + inner +
+  return head + "template <class Memory>\nXFM_BODY " + signature(kernel, "body_" + suffix) + inner +
          "extern \"C\" XFM_TWIN " + signature(kernel, twin) +
          fmt::format(" {{\n  return body_{}<Unaligned>(src, dst, flag);\n}}\n\n", suffix) +
          signature(kernel, kernel.name) +

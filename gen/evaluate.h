@@ -48,7 +48,7 @@ class Interpreter {
       case Op::exchange:
         return at(node.in[0])[1 - l];
       case Op::flip:
-        return l == 0 ? -in(0) : in(0);
+        return node.lanes[l] == 1 ? -in(0) : in(0);
       case Op::add:
         return in(0) + in(1);
       case Op::sub:

@@ -21,26 +21,47 @@ Element weighted(Element e, const ComplexConstant& w) {
   return e;
 }
 
+namespace {
+
+bool is_quarter_turn(const ComplexConstant& w) {
+  return (w.re.is_zero() && magnitude(w.im).is_one()) || (w.im.is_zero() && magnitude(w.re).is_one());
+}
+
+bool weighed_alike(std::span<const Element> elements) {
+  const ComplexConstant& first = elements.front().weight;
+  return std::all_of(elements.begin(), elements.end(),
+                     [&](const Element& e) { return e.weight.re == first.re && e.weight.im == first.im; });
+}
+
+}  // namespace
+
 Complex Lanes::gather(std::span<const Element> elements) {
-  const Complex z = elements.front().in_memory()
-                        ? gather_memory(elements)
-                        : Complex{gather_half(elements, &Complex::p), gather_half(elements, &Complex::q)};
-  return weigh(elements, z);
+  if (elements.front().in_memory()) return weigh(elements, gather_memory(elements));
+  const bool quarter_turns = std::all_of(elements.begin(), elements.end(),
+                                         [](const Element& e) { return is_quarter_turn(e.weight); });
+  if (quarter_turns && !weighed_alike(elements)) return gather_turned(elements);
+  return weigh(elements, {gather_half(elements, &Complex::p), gather_half(elements, &Complex::q)});
+}
+
+// Quarter turns that differ by the lane need no product: parts change places, and signs turn.
+Complex Lanes::gather_turned(std::span<const Element> elements) {
+  std::vector<Element> turned(elements.begin(), elements.end());
+  for (Element& e : turned) e.split = e.weight * e.split;
+  return {gather_half(turned, &Complex::p), gather_half(turned, &Complex::q)};
 }
 
 // Lane constants where the lanes differ, trivial ones included, since the lanes are multiplied together.
 Complex Lanes::weigh(std::span<const Element> elements, const Complex& z) {
-  const ComplexConstant first = elements.front().weight;
-  const bool alike = std::all_of(elements.begin(), elements.end(), [&](const Element& e) {
-    return e.weight.re == first.re && e.weight.im == first.im;
-  });
-  if (alike) return first * z;
+  const ComplexConstant& first = elements.front().weight;
+  if (weighed_alike(elements)) return first * z;
   std::vector<Constant> re(static_cast<std::size_t>(width()), first.re);
   std::vector<Constant> im(static_cast<std::size_t>(width()), first.im);
   for (std::size_t l = 0; l < elements.size(); ++l) {
     re[l] = elements[l].weight.re;
     im[l] = elements[l].weight.im;
   }
+  const bool real = std::all_of(im.begin(), im.end(), [](const Constant& c) { return c.is_zero(); });
+  if (real) return {network_.mul(re, z.p), network_.mul(re, z.q)};
   return {network_.mul(re, z.p) - network_.mul(im, z.q), network_.mul(im, z.p) + network_.mul(re, z.q)};
 }
 
@@ -69,14 +90,19 @@ Complex Lanes::gather_memory(std::span<const Element> elements) {
 }
 
 Value Lanes::gather_half(std::span<const Element> elements, Value Complex::*half) {
-  const bool negative = (elements[0].split.*half).negative;
   Places wanted;
+  std::array<int, max_lanes> turned{};
   for (std::size_t l = 0; l < elements.size(); ++l) {
     const Value v = elements[l].split.*half;
-    if (v.absent() || v.negative != negative) throw std::logic_error("lanes with different signs");
+    if (v.absent()) throw std::logic_error("a lane without a value");
     wanted[l] = content(v.node, elements[l].lane);
+    turned[l] = v.negative ? 1 : 0;
   }
-  return {&network_, bring(wanted), negative};
+  const Value gathered{&network_, bring(wanted), false};
+  const auto negative = std::count(turned.begin(), turned.end(), 1);
+  if (negative == 0) return gathered;
+  if (negative == static_cast<long>(elements.size())) return -gathered;
+  return network_.flip(gathered, turned);
 }
 
 // Where the content of a lane was computed: through shuffles to the arithmetic node behind them.

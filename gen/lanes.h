@@ -57,6 +57,7 @@ class Lanes {
 
   Complex gather_memory(std::span<const Element> elements);
   Value gather_half(std::span<const Element> elements, Value Complex::*half);
+  Complex gather_turned(std::span<const Element> elements);
   Complex weigh(std::span<const Element> elements, const Complex& z);
   NodeId bring(const Places& wanted);
   NodeId find(const Places& wanted) const;

@@ -20,7 +20,9 @@ Value Network::shuffle(Value a, Value b, std::array<int, max_lanes> picks) {
 
 Value Network::exchange(Value v) { return make({.op = Op::exchange, .in = {v.node, -1}}, v.negative); }
 
-Value Network::flip(Value v) { return make({.op = Op::flip, .in = {v.node, -1}}, v.negative); }
+Value Network::flip(Value v, std::array<int, max_lanes> turned) {
+  return make({.op = Op::flip, .in = {v.node, -1}, .lanes = turned}, v.negative);
+}
 
 Value Network::add(Value a, Value b) {
   if (a.absent()) return b;

@@ -23,7 +23,7 @@ enum class Op {
   load,      ///< lanes from memory
   shuffle,   ///< lanes picked from one or two nodes
   exchange,  ///< the two lanes of a pair change places
-  flip,      ///< the sign of the low lane of a pair is turned
+  flip,      ///< the signs of some lanes are turned
   add,
   sub,
   mul,     ///< times a constant, the same in all lanes or one a lane
@@ -54,10 +54,10 @@ struct Term {
 struct Node {
   Op op;
   std::array<NodeId, 2> in{-1, -1};
-  std::array<int, max_lanes> lanes{-1, -1, -1,
-                                   -1};  ///< load: scalar index a lane; shuffle: source lane (4 = in[1])
-  std::vector<Constant> constants{};     ///< mul: one for all lanes or one a lane
-  std::vector<Term> terms{};             ///< sum
+  std::array<int, max_lanes> lanes{
+      -1, -1, -1, -1};  ///< load: scalar index; shuffle: source lane, from 4 on of in[1]; flip: 1 or 0
+  std::vector<Constant> constants{};  ///< mul: one for all lanes or one a lane
+  std::vector<Term> terms{};          ///< sum
   auto operator<=>(const Node&) const = default;
 };
 
@@ -89,7 +89,7 @@ class Network {
   Value load(int scalar) { return load({scalar, -1, -1, -1}); }
   Value shuffle(Value a, Value b, std::array<int, max_lanes> picks);
   Value exchange(Value v);
-  Value flip(Value v);
+  Value flip(Value v, std::array<int, max_lanes> turned);
   Value add(Value a, Value b);
   Value sub(Value a, Value b) { return add(a, -b); }
   Value mul(const Constant& c, Value v);

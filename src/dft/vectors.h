@@ -32,6 +32,12 @@ inline Pair exchange(Pair v) { return _mm_shuffle_pd(v, v, 1); }
 /// The sign of the low lane turns: after an exchange this multiplies by i.
 inline Pair flip(Pair v) { return _mm_xor_pd(v, _mm_set_pd(0.0, -0.0)); }
 
+/// The signs of the marked lanes turn.
+template <int a, int b, int c, int d>
+Quad flip(Quad v) {
+  return _mm_xor_ps(v, _mm_setr_ps(a ? -0.0F : 0.0F, b ? -0.0F : 0.0F, c ? -0.0F : 0.0F, d ? -0.0F : 0.0F));
+}
+
 /// One complex number, eight bytes, in the low half; the high half is zero.
 inline Quad load_low(const float* p) {
   return _mm_castpd_ps(_mm_load_sd(reinterpret_cast<const double*>(p)));

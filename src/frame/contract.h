@@ -6,6 +6,9 @@
 
 #include "xfm.h"
 
+/// The body of a packed kernel, bound twice: part of the two functions that name its memory.
+#define XFM_BODY __attribute__((always_inline)) static inline
+
 /// The unaligned body of a packed kernel: a function of its own, not exported and not merged into its caller.
 #define XFM_TWIN __attribute__((noinline, visibility("hidden")))
 
@@ -17,37 +20,38 @@ inline bool aligned(const void* src, const void* dst) {
   return ((reinterpret_cast<std::uintptr_t>(src) | reinterpret_cast<std::uintptr_t>(dst)) & 15) == 0;
 }
 
-/// The valid flags are 1, 2, 4 and 8; as a bit set one comparison and one bit test tell them from all others.
+/// The valid flags are 1, 2, 4 and 8: powers of two, and at most 8.
 inline bool valid_flag(std::int32_t flag) {
-  constexpr std::uint32_t valid =
-      1U << XFM_SCALE_FWD_BY_N | 1U << XFM_SCALE_INV_BY_N | 1U << XFM_SCALE_BY_SQRT_N | 1U << XFM_SCALE_NONE;
-  const auto bit = static_cast<std::uint32_t>(flag);
-  return bit <= XFM_SCALE_NONE && (valid >> bit & 1U) != 0;
+  const auto bits = static_cast<std::uint32_t>(flag), below = bits - 1;
+  return below < XFM_SCALE_NONE && (bits & below) == 0;
 }
 
 /// The status that the arguments deserve: pointers first, the flag last.
 inline xfmStatus check(const void* src, const void* dst, std::int32_t flag) {
-  if (src == nullptr || dst == nullptr) return xfmStsNullPtr;
-  if (!valid_flag(flag)) return xfmStsBadScale;
+  if (src == nullptr || dst == nullptr) [[unlikely]]
+    return xfmStsNullPtr;
+  if (!valid_flag(flag)) [[unlikely]]
+    return xfmStsBadScale;
   return xfmStsOk;
 }
 
 /// The stored factors of a kernel, one for each valid flag and as often as it has lanes: no arithmetic and no
-/// branch leads from the flag to its factor. Half the flag is the index (0, 1, 2, 4).
+/// branch leads from the flag to its factor. The flag itself is the index; the rows between the flags are
+/// never read.
 template <class T, int lanes>
 struct Factors {
-  alignas(lanes * sizeof(T)) T by_half_flag[5][lanes];
+  alignas(lanes * sizeof(T)) T by_flag[XFM_SCALE_NONE + 1][lanes];
 
-  constexpr Factors(T forward_by_n, T inverse_by_n, T by_sqrt_n) : by_half_flag{} {
+  constexpr Factors(T forward_by_n, T inverse_by_n, T by_sqrt_n) : by_flag{} {
     for (int l = 0; l < lanes; ++l) {
-      by_half_flag[XFM_SCALE_FWD_BY_N / 2][l] = forward_by_n;
-      by_half_flag[XFM_SCALE_INV_BY_N / 2][l] = inverse_by_n;
-      by_half_flag[XFM_SCALE_BY_SQRT_N / 2][l] = by_sqrt_n;
-      by_half_flag[XFM_SCALE_NONE / 2][l] = 1;
+      by_flag[XFM_SCALE_FWD_BY_N][l] = forward_by_n;
+      by_flag[XFM_SCALE_INV_BY_N][l] = inverse_by_n;
+      by_flag[XFM_SCALE_BY_SQRT_N][l] = by_sqrt_n;
+      by_flag[XFM_SCALE_NONE][l] = 1;
     }
   }
 
-  const T* of(std::int32_t flag) const { return by_half_flag[flag >> 1]; }
+  const T* of(std::int32_t flag) const { return by_flag[static_cast<std::uint32_t>(flag)]; }
 };
 
 }  // namespace xfm

@@ -32,7 +32,8 @@ std::unique_ptr<Network> lane_real_network(int length, const Tree& tree, Directi
   store(0, out[0].p);
   for (int k = 1; 2 * k < length; ++k) {
     const auto [p, q] = out[static_cast<std::size_t>(k)];
-    const Value turned = network->flip(network->exchange(direction == Direction::forward ? q : -q));
+    const Value turned =
+        network->flip(network->exchange(direction == Direction::forward ? q : -q), {1, 0, 0, 0});
     store(k, p + turned);
     store(length - k, p - turned);
   }

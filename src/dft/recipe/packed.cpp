@@ -13,7 +13,13 @@ using gen::Tree;
 Batch Packed::transform(const Tree& tree, const Batch& x) {
   if (tree.rule == "PFA" || tree.rule == "CT") return two_stages(tree, x);
   if (tree.rule == "R") return rader(tree.args.back(), x);
-  switch (length_of(tree)) {
+  const int length = length_of(tree);
+  // Two instances or one leave half of the lanes idle: a block with work side by side inside is taken apart.
+  if (2 * static_cast<int>(x.size()) <= lanes_.width()) {
+    if (length == 4) return four_flat(x);
+    if (length == 5 || length == 7 || length == 11) return direct_flat(x);
+  }
+  switch (length) {
     case 2:
       return each(x, [](const Points& z, Five) { return dft2(z); });
     case 3:

@@ -25,6 +25,8 @@ class Packed {
  private:
   using Block = Points (*)(const Points&, Five);
   Batch each(const Batch& x, Block block);
+  Batch four_flat(const Batch& x);
+  Batch direct_flat(const Batch& x);
   Batch two_stages(const gen::Tree& tree, const Batch& x);
   Batch rader(const gen::Tree& inner, const Batch& x);
 
