@@ -5,6 +5,7 @@ add_library(xfm_options INTERFACE)
 target_compile_features(xfm_options INTERFACE cxx_std_20)
 target_compile_options(xfm_options INTERFACE
   -Wall -Wextra -Wshadow $<$<COMPILE_LANGUAGE:CXX>:-Wconversion>
+  $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>  # false alarms of g++ 12 on string concatenation, GCC bug 105651
   $<$<BOOL:${PROJECT_IS_TOP_LEVEL}>:-Werror>)
 
 # Kernels: no product and sum may fuse, no value-changing option may be inherited, and the scalar families must
