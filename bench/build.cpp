@@ -1,5 +1,6 @@
 #include "bench/build.h"
 
+#include <cstdlib>
 #include <fstream>
 
 #include "build_info.h"
@@ -31,6 +32,11 @@ constexpr bool kOptimized = false;
 }  // namespace
 
 Build this_build() { return {kCompiler, XFM_BENCH_CONFIGURATION, kFlags, kKernelFlags, processor()}; }
+
+double load() {
+  double average = 0;
+  return getloadavg(&average, 1) == 1 ? average : 0;
+}
 
 std::string objection() {
   // Bench and library are built together, with the same configuration.

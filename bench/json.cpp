@@ -38,6 +38,7 @@ std::string object(const Result& result) {
 
 std::string object(const Group& group) {
   std::vector<std::string> kernels;
+  kernels.reserve(group.results.size());
   for (const Result& result : group.results) kernels.push_back(object(result));
   std::string text = fmt::format(R"({{"family": {}, "type": {}, )", quoted(group.family), quoted(group.type));
   if (group.has_rival())
@@ -52,6 +53,7 @@ std::string object(const Group& group) {
 void write_json(std::FILE* file, const Conditions& conditions, const std::vector<Group>& groups) {
   const Build& build = conditions.build;
   std::vector<std::string> objects;
+  objects.reserve(groups.size());
   for (const Group& group : groups) objects.push_back(object(group));
   fmt::print(
       file, "{{\n  \"compiler\": {},\n  \"configuration\": {},\n  \"flags\": {},\n  \"kernel_flags\": {},\n",
@@ -59,8 +61,8 @@ void write_json(std::FILE* file, const Conditions& conditions, const std::vector
   fmt::print(file, "  \"processor\": {},\n  \"rival\": {},\n  \"unaligned\": {},\n  \"in_place\": {},\n",
              quoted(build.processor), quoted(conditions.rival), conditions.placement.unaligned,
              conditions.placement.in_place);
-  fmt::print(file, "  \"rounds\": {},\n  \"groups\": [\n    {}\n  ]\n}}\n", conditions.rounds,
-             fmt::join(objects, ",\n    "));
+  fmt::print(file, "  \"load\": {:.2f},\n  \"rounds\": {},\n  \"groups\": [\n    {}\n  ]\n}}\n",
+             conditions.load, conditions.rounds, fmt::join(objects, ",\n    "));
 }
 
 }  // namespace xfm::bench

@@ -27,7 +27,7 @@ using Kernels = std::vector<const catalogue::Kernel*>;
 
 struct Options {
   std::vector<std::string> only;
-  int rounds = 400;
+  int rounds = 1000;
   std::string json;
   bool list = false;
   Placement placement;
@@ -67,6 +67,7 @@ void show_progress(const char* work, std::size_t done, std::size_t all) {
 
 std::vector<std::unique_ptr<Race>> planned(const Kernels& kernels, Placement placement) {
   std::vector<std::unique_ptr<Race>> races;
+  races.reserve(kernels.size());
   for (const catalogue::Kernel* kernel : kernels) {
     races.push_back(std::make_unique<Race>(*kernel, placement));
     show_progress("planning", races.size(), kernels.size());
@@ -83,6 +84,7 @@ std::vector<Result> raced(const std::vector<std::unique_ptr<Race>>& races, int r
     show_progress("racing, round", static_cast<std::size_t>(done), static_cast<std::size_t>(rounds));
   }
   std::vector<Result> results;
+  results.reserve(races.size());
   for (const auto& race : races) results.push_back(race->result());
   return results;
 }
@@ -106,7 +108,7 @@ void measure(const Options& options) {
   if (const std::string reason = objection(); !reason.empty())
     throw std::runtime_error("refusing to measure: " + reason);
   const File json = opened(options.json);
-  const Conditions conditions{this_build(), rival_version(), options.placement, options.rounds};
+  const Conditions conditions{this_build(), rival_version(), options.placement, options.rounds, load()};
   print_heading(conditions);
   std::fflush(stdout);
   const auto groups = grouped(raced(planned(kernels, options.placement), options.rounds));
@@ -117,16 +119,14 @@ void measure(const Options& options) {
 
 }  // namespace
 
-int main(int argc, char** argv) {
+int main(int argc, char** argv) try {
   Options options;
   CLI::App app("Times every kernel beside a rival, in turns, and tells the ratio.");
   define(app, options);
   CLI11_PARSE(app, argc, argv);
-  try {
-    measure(options);
-  } catch (const std::exception& error) {
-    std::fflush(stdout);
-    fmt::print(stderr, "xfmbench: {}\n", error.what());
-    return 1;
-  }
+  measure(options);
+} catch (const std::exception& error) {
+  std::fflush(stdout);
+  std::fprintf(stderr, "xfmbench: %s\n", error.what());
+  return 1;
 }

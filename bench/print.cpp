@@ -53,7 +53,8 @@ void print_heading(const Conditions& conditions) {
   fmt::print("data       {}, {}, in the first-level cache; one transform a call\n",
              conditions.placement.unaligned ? "unaligned" : "aligned",
              conditions.placement.in_place ? "in place" : "out of place");
-  fmt::print("rounds     {}, interleaved\n", conditions.rounds);
+  fmt::print("rounds     {}, interleaved; load of the machine at the start {:.2f}\n", conditions.rounds,
+             conditions.load);
 }
 
 void print_tables(const std::vector<Group>& groups) {

@@ -32,6 +32,7 @@ struct Conditions {
   std::string rival;
   Placement placement;
   int rounds;
+  double load;  ///< of the machine when the run began
 };
 
 void print_heading(const Conditions& conditions);
