@@ -2,9 +2,9 @@
  * @file xfmcore.h
  * @brief xfmcore: the outside services of xfm, memory and processor features.
  *
- * libxfm takes these three functions from libxfmcore and nothing else from outside. A program may put its own in their
- * place: by defining them itself, with or without the shared libraries, or by a libxfmcore of its own, found first.
- * xfmMalloc and xfmFree belong together and are to be replaced together.
+ * libxfm takes these three functions from libxfmcore and nothing else from outside. A program may put its own
+ * in their place: by defining them, or by a libxfmcore of its own that the loader finds first. xfmMalloc and
+ * xfmFree belong together and are to be replaced together.
  *
  * All three may be called from any number of threads at once.
  */
@@ -21,10 +21,10 @@ extern "C" {
 #endif
 
 /**
- * Allocates a block of size bytes, aligned to 64 bytes: a cache line, and the widest vector of the processor family.
+ * Allocates a block of size bytes, aligned to 64 bytes: a cache line, and the widest vector there is.
  *
- * A size of zero gives a block too: its address is unlike that of any other block, it holds no byte that may be
- * touched, and it wants to be freed like the others.
+ * A size of zero gives a block too: its address is unlike that of any other block, it holds no byte that may
+ * be touched, and it wants to be freed like the others.
  *
  * @return the block, its content undetermined, or null when memory is exhausted.
  */
@@ -36,8 +36,8 @@ void xfmFree(void* block);
 /**
  * Tells whether the processor has the feature of the given code: nonzero if it has.
  *
- * This core knows no codes: it returns 0 for every one of them. That includes 128, the only one that xfm asks for, and
- * only to choose between the two records of xfmGetLibVersion. No transform depends on the answer.
+ * This core knows no codes: it returns 0 for every one of them. That includes 128, the only one that xfm asks
+ * for, and only to choose between the two records of xfmGetLibVersion. No transform depends on the answer.
  */
 int ownGetFeature(int feature);
 

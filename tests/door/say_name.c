@@ -1,0 +1,5 @@
+#include <stdio.h>
+
+#include "xfm.h"
+
+int main(void) { return puts(xfmGetLibVersion()->name) < 0; }
