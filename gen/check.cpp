@@ -127,6 +127,8 @@ void check_once(std::vector<int> seen, const std::string& what, const std::strin
 
 Counts count(const Network& network) { return LaneCounter(network).run(); }
 
+int instructions(const Network& network) { return static_cast<int>(schedule(network).size()); }
+
 void check_memory(const Network& network, int read, int written, const std::string& name) {
   std::vector<int> loads(static_cast<std::size_t>(read)), stores(static_cast<std::size_t>(written));
   for (const Step& step : schedule(network)) {

@@ -15,6 +15,9 @@ struct Counts {
 };
 Counts count(const Network& network);
 
+/// All live nodes and stores: what a processor has to issue, but for register copies and spills.
+int instructions(const Network& network);
+
 /// Every scalar of 0..scalars-1 is read exactly once; every one of 0..written-1 is written exactly once.
 void check_memory(const Network& network, int read, int written, const std::string& name);
 

@@ -5,22 +5,6 @@
 #include <stdexcept>
 
 namespace xfm::gen {
-
-Element source_element(int n) { return {.re_at = 2 * n, .im_at = 2 * n + 1, .split = {}}; }
-
-Element exchanged(Element e) {
-  e.weight.im = -e.weight.im;
-  std::swap(e.re_at, e.im_at);
-  e.split = exchanged(e.split);
-  return e;
-}
-
-Element weighted(Element e, const ComplexConstant& w) {
-  if (!e.weight.is_one()) throw std::logic_error("an element waits for two multiplications");
-  e.weight = w;
-  return e;
-}
-
 namespace {
 
 bool is_quarter_turn(const ComplexConstant& w) {
@@ -33,25 +17,82 @@ bool weighed_alike(std::span<const Element> elements) {
                      [&](const Element& e) { return e.weight.re == first.re && e.weight.im == first.im; });
 }
 
-}  // namespace
-
-Complex Lanes::gather(std::span<const Element> elements) {
-  if (elements.front().in_memory()) return weigh(elements, gather_memory(elements));
-  const bool quarter_turns = std::all_of(elements.begin(), elements.end(),
-                                         [](const Element& e) { return is_quarter_turn(e.weight); });
-  if (quarter_turns && !weighed_alike(elements)) return gather_turned(elements);
-  return weigh(elements, {gather_half(elements, &Complex::p), gather_half(elements, &Complex::q)});
+bool all_real(std::span<const Element> elements) {
+  return std::all_of(elements.begin(), elements.end(),
+                     [](const Element& e) { return e.weight.im.is_zero(); });
 }
 
-// Quarter turns that differ by the lane need no product: parts change places, and signs turn.
-Complex Lanes::gather_turned(std::span<const Element> elements) {
-  std::vector<Element> turned(elements.begin(), elements.end());
-  for (Element& e : turned) e.split = e.weight * e.split;
-  return {gather_half(turned, &Complex::p), gather_half(turned, &Complex::q)};
+// w times the element by its parts alone: a quarter turn moves and turns signs, and costs nothing.
+Element turned(const Element& e) {
+  const Constant &c = e.weight.re, &s = e.weight.im;
+  const auto with_sign = [](Part part, bool negative) {
+    return Part{negative ? -part.value : part.value, part.lane};
+  };
+  Element out;
+  out.re = s.is_zero() ? with_sign(e.re, c.is_negative()) : with_sign(e.im, !s.is_negative());
+  out.im = s.is_zero() ? with_sign(e.im, c.is_negative()) : with_sign(e.re, s.is_negative());
+  return out;
+}
+
+std::array<int, max_lanes> scalars(int low, int high) {
+  std::array<int, max_lanes> at{-1, -1, -1, -1};
+  if (low >= 0) at[0] = 2 * low, at[1] = 2 * low + 1;
+  if (high >= 0) at[2] = 2 * high, at[3] = 2 * high + 1;
+  return at;
+}
+
+}  // namespace
+
+Element source_element(int n) { return {.at = n}; }
+
+Element weighted(Element e, const ComplexConstant& w) {
+  if (!e.weight.is_one()) throw std::logic_error("an element waits for two multiplications");
+  e.weight = w;
+  return e;
+}
+
+std::size_t Lanes::instances(Form form) const {
+  const auto lanes = static_cast<std::size_t>(width());
+  return form == Form::split ? lanes : lanes / 2;
+}
+
+Complex Lanes::gather(std::span<const Element> elements, Form form) {
+  std::vector<Element> now(elements.begin(), elements.end());
+  // Quarter turns that differ by the lane need no product: parts change places, and signs turn.
+  const bool turns = std::all_of(
+      now.begin(), now.end(), [](const Element& e) { return !e.in_memory() && is_quarter_turn(e.weight); });
+  if (turns && !weighed_alike(now)) std::transform(now.begin(), now.end(), now.begin(), turned);
+  const bool memory = now.front().in_memory();
+  if (form == Form::split) return weigh_split(now, memory ? load_split(now) : gather_split(now));
+  if (memory) return {weigh_whole(now, load_whole(now)), {}};
+  std::vector<Part> parts;
+  for (const Element& e : now) parts.insert(parts.end(), {e.re, e.im});
+  return {weigh_whole(now, gather_parts(parts)), {}};
+}
+
+std::vector<Element> Lanes::scatter(const Complex& z, std::size_t count, Form form) {
+  std::vector<Element> elements(count);
+  const Value joined = form == Form::whole && !z.q.absent() ? z.p + times_i(z.q) : z.p;
+  for (std::size_t l = 0; l < count; ++l) {
+    const int lane = static_cast<int>(l);
+    if (form == Form::split) {
+      elements[l].re = {z.p, lane};
+      elements[l].im = {z.q, lane};
+    } else {
+      elements[l].re = {joined, 2 * lane};
+      elements[l].im = {joined, 2 * lane + 1};
+    }
+  }
+  return elements;
+}
+
+Value Lanes::times_i(Value whole) {
+  const NodeId swapped = shuffle(whole.node, whole.node, {1, 0, 7, 6});
+  return network_.flip({&network_, swapped, whole.negative}, {1, 0, 1, 0});
 }
 
 // Lane constants where the lanes differ, trivial ones included, since the lanes are multiplied together.
-Complex Lanes::weigh(std::span<const Element> elements, const Complex& z) {
+Complex Lanes::weigh_split(std::span<const Element> elements, const Complex& z) {
   const ComplexConstant& first = elements.front().weight;
   if (weighed_alike(elements)) return first * z;
   std::vector<Constant> re(static_cast<std::size_t>(width()), first.re);
@@ -60,49 +101,64 @@ Complex Lanes::weigh(std::span<const Element> elements, const Complex& z) {
     re[l] = elements[l].weight.re;
     im[l] = elements[l].weight.im;
   }
-  const bool real = std::all_of(im.begin(), im.end(), [](const Constant& c) { return c.is_zero(); });
-  if (real) return {network_.mul(re, z.p), network_.mul(re, z.q)};
+  if (all_real(elements)) return {network_.mul(re, z.p), network_.mul(re, z.q)};
   return {network_.mul(re, z.p) - network_.mul(im, z.q), network_.mul(im, z.p) + network_.mul(re, z.q)};
 }
 
-// Two loads of two complex numbers and two shuffles make a split value of four.
-Complex Lanes::gather_memory(std::span<const Element> elements) {
-  if (width() == 1) return {network_.load(elements[0].re_at), network_.load(elements[0].im_at)};
-  const auto address = [&](std::size_t l) { return std::min(elements[l].re_at, elements[l].im_at); };
-  const auto pair = [&](std::size_t l) {
-    const int a = address(l);
-    if (l + 1 >= elements.size()) return network_.load({a, a + 1, -1, -1});
-    const int b = address(l + 1);
-    return network_.load({a, a + 1, b, b + 1});
-  };
-  const auto part = [&](int Element::*at, Value low, Value high) {
-    std::array<int, max_lanes> picks{};
-    for (std::size_t l = 0; l < picks.size(); ++l) {
-      const std::size_t of = std::min(l, elements.size() - 1);
-      picks[l] = 2 * static_cast<int>(of % 2) + (elements[of].*at - address(of)) + (l < 2 ? 0 : 4);
-    }
-    if (picks[0] == 0 && elements.size() == 1) return low;
-    return Value{&network_, shuffle(low.node, high.node, picks), false};
-  };
-  const Value low = pair(0);
-  const Value high = elements.size() > 2 ? pair(2) : low;
-  return {part(&Element::re_at, low, high), part(&Element::im_at, low, high)};
+// c*(re, im) + s*(-im, re), the sign in the constants.
+Value Lanes::weigh_whole(std::span<const Element> elements, Value z) {
+  const ComplexConstant &a = elements.front().weight, &b = elements.back().weight;
+  if (a.is_one() && b.is_one()) return z;
+  if (weighed_alike(elements) && is_quarter_turn(a)) {
+    const Value turn = a.im.is_zero() ? z : times_i(z);
+    return a.re.is_negative() || a.im.is_negative() ? -turn : turn;
+  }
+  const Value cosines = network_.mul(std::vector<Constant>{a.re, a.re, b.re, b.re}, z);
+  if (all_real(elements)) return cosines;
+  const Value swapped{&network_, shuffle(z.node, z.node, {1, 0, 7, 6}), z.negative};
+  return cosines + network_.mul(std::vector<Constant>{-a.im, a.im, -b.im, b.im}, swapped);
 }
 
-Value Lanes::gather_half(std::span<const Element> elements, Value Complex::*half) {
+// Two loads of two complex numbers and two shuffles make a split value of four.
+Complex Lanes::load_split(std::span<const Element> elements) {
+  const int n = elements[0].at;
+  if (width() == 1) return {network_.load(2 * n), network_.load(2 * n + 1)};
+  const auto pair = [&](std::size_t l) {
+    return network_.load(scalars(elements[l].at, l + 1 < elements.size() ? elements[l + 1].at : -1)).node;
+  };
+  const NodeId low = pair(0);
+  const NodeId high = elements.size() > 2 ? pair(2) : low;
+  const int last = elements.size() == 3 ? 4 : 6;
+  return {{&network_, shuffle(low, high, {0, 2, 4, last}), false},
+          {&network_, shuffle(low, high, {1, 3, 5, last + 1}), false}};
+}
+
+Value Lanes::load_whole(std::span<const Element> elements) {
+  return network_.load(scalars(elements[0].at, elements.size() > 1 ? elements[1].at : -1));
+}
+
+Complex Lanes::gather_split(std::span<const Element> elements) {
+  std::vector<Part> re, im;
+  for (const Element& e : elements) {
+    re.push_back(e.re);
+    im.push_back(e.im);
+  }
+  return {gather_parts(re), gather_parts(im)};
+}
+
+Value Lanes::gather_parts(const std::vector<Part>& parts) {
+  if (width() == 1) return parts[0].value;
   Places wanted;
-  std::array<int, max_lanes> turned{};
-  for (std::size_t l = 0; l < elements.size(); ++l) {
-    const Value v = elements[l].split.*half;
-    if (v.absent()) throw std::logic_error("a lane without a value");
-    wanted[l] = content(v.node, elements[l].lane);
-    turned[l] = v.negative ? 1 : 0;
+  std::array<int, max_lanes> negative{};
+  for (std::size_t l = 0; l < parts.size(); ++l) {
+    if (parts[l].value.absent()) throw std::logic_error("a lane without a value");
+    wanted[l] = content(parts[l].value.node, parts[l].lane);
+    negative[l] = parts[l].value.negative ? 1 : 0;
   }
   const Value gathered{&network_, bring(wanted), false};
-  const auto negative = std::count(turned.begin(), turned.end(), 1);
-  if (negative == 0) return gathered;
-  if (negative == static_cast<long>(elements.size())) return -gathered;
-  return network_.flip(gathered, turned);
+  const auto count = std::count(negative.begin(), negative.end(), 1);
+  if (count == 0) return gathered;
+  return count == static_cast<long>(parts.size()) ? -gathered : network_.flip(gathered, negative);
 }
 
 // Where the content of a lane was computed: through shuffles to the arithmetic node behind them.
@@ -189,37 +245,35 @@ NodeId Lanes::bring(const Places& wanted) {
   return one_shuffle(near);
 }
 
+// All outputs that share registers leave together: split ones are interleaved, whole ones go as they are.
 void Lanes::store(std::span<const Element> elements) {
-  if (width() == 1) {
-    for (int k = 0; k < static_cast<int>(elements.size()); ++k) {
-      const Element& e = elements[static_cast<std::size_t>(k)];
-      network_.store(network_.factor(e.split.p), {2 * k, -1, -1, -1});
-      network_.store(network_.factor(e.split.q), {2 * k + 1, -1, -1, -1});
-    }
-    return;
-  }
-  // All outputs that share a split value leave together: interleave its low and its high half.
-  std::map<std::pair<NodeId, NodeId>, std::array<int, max_lanes>> groups;
+  std::map<std::pair<NodeId, NodeId>, Outputs> groups;
   for (std::size_t k = 0; k < elements.size(); ++k) {
     const Element& e = elements[k];
-    if (e.split.p.negative || e.split.q.negative) throw std::logic_error("an output would need a negation");
-    const auto [group, fresh] = groups.try_emplace({e.split.p.node, e.split.q.node});
-    if (fresh) group->second.fill(-1);
-    group->second[static_cast<std::size_t>(e.lane)] = static_cast<int>(k);
+    if (e.re.value.negative || e.im.value.negative) throw std::logic_error("an output would need a negation");
+    const auto [group, fresh] =
+        groups.try_emplace({e.re.value.node, e.im.value.node}, Outputs{-1, -1, -1, -1});
+    const bool whole = e.re.value.node == e.im.value.node;
+    group->second[static_cast<std::size_t>(whole ? e.re.lane / 2 : e.re.lane)] = static_cast<int>(k);
   }
   for (const auto& [nodes, outputs] : groups) {
-    for (int half = 0; half < 2; ++half) {
-      const int a = outputs[static_cast<std::size_t>(2 * half)],
-                b = outputs[static_cast<std::size_t>(2 * half + 1)];
-      if (a < 0 && b < 0) continue;
-      const int first = 2 * half;
-      const NodeId interleaved = shuffle(nodes.first, nodes.second, {first, 4 + first, first + 1, 5 + first});
-      std::array<int, max_lanes> to{-1, -1, -1, -1};
-      if (a >= 0) to[0] = 2 * a, to[1] = 2 * a + 1;
-      if (b >= 0) to[2] = 2 * b, to[3] = 2 * b + 1;
-      network_.store(network_.factor({&network_, interleaved, false}), to);
-    }
+    store_half(outputs, nodes.first, nodes.second, 0);
+    store_half(outputs, nodes.first, nodes.second, 1);
   }
+}
+
+void Lanes::store_half(const Outputs& outputs, NodeId re, NodeId im, int half) {
+  const auto first = static_cast<std::size_t>(2 * half);
+  if (outputs[first] < 0 && outputs[first + 1] < 0) return;
+  if (width() == 1) {
+    network_.store(network_.factor({&network_, re, false}), {2 * outputs[0], -1, -1, -1});
+    network_.store(network_.factor({&network_, im, false}), {2 * outputs[0] + 1, -1, -1, -1});
+    return;
+  }
+  const int lane = 2 * half;
+  const NodeId interleaved = re == im ? re : shuffle(re, im, {lane, 4 + lane, lane + 1, 5 + lane});
+  network_.store(network_.factor({&network_, interleaved, false}),
+                 scalars(outputs[first], outputs[first + 1]));
 }
 
 }  // namespace xfm::gen

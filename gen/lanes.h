@@ -1,9 +1,8 @@
-// Packing: like sub-transforms side by side in the lanes of split registers.
+// Packing: like sub-transforms side by side in the lanes of registers.
 //
 // A packed recipe keeps complex numbers as elements: where each one lives, not a value of its own. Before a
-// block of the recipe runs, gather() brings the elements of up to `width` like instances into the lanes of
-// one split value (a register of real parts, a register of imaginary parts); afterwards each lane is an
-// element again. Gathering is where transpositions arise: a 4 by 4 transposition is eight unpack and
+// block of the recipe runs, gather() brings the elements of like instances into lanes; afterwards each lane
+// is an element again. Gathering is where transpositions arise: a 4 by 4 transposition is eight unpack and
 // half-move shuffles, shared by hash-consing. With a width of one the same recipe gives the plain scalar
 // network.
 #pragma once
@@ -15,22 +14,29 @@
 
 namespace xfm::gen {
 
-/// A complex number on its way through a packed network: still in memory, or in one lane of a split value.
-struct Element {
-  int re_at = -1, im_at = -1;  ///< scalar indices of the parts in memory, or -1
-  Complex split{};             ///< the registers that hold the parts
+/// How instances fill registers. Both forms take the same arithmetic and give the same bits.
+enum class Form {
+  split,  ///< four instances: a register of real parts, a register of imaginary parts; a turn by i is free
+  whole,  ///< two instances in one register, as they stand in memory; a turn by i is a shuffle and a flip
+};
+
+/// A part of a complex number: a lane of a node.
+struct Part {
+  Value value{};
   int lane = 0;
+};
+
+/// A complex number on its way through a packed network: still in memory, or in registers.
+struct Element {
+  int at = -1;  ///< index in the source array, or -1
+  Part re{}, im{};
   ComplexConstant weight{{"1", 1}, {"0", 0}};  ///< a multiplication that waits for the next gathering
 
-  bool in_memory() const { return re_at >= 0; }
+  bool in_memory() const { return at >= 0; }
 };
 
 /// Complex number n of the source array.
 Element source_element(int n);
-
-/// Real and imaginary part change places. Costs nothing: the exchange of w*z is conj(w) times the exchange of
-/// z.
-Element exchanged(Element e);
 
 /// The element times w, at the next gathering.
 Element weighted(Element e, const ComplexConstant& w);
@@ -41,8 +47,15 @@ class Lanes {
 
   int width() const { return network_.width(); }
 
-  /// Elements, at most width() of them, in the lanes of one split value, each times its weight.
-  Complex gather(std::span<const Element> elements);
+  /// How many instances stand side by side.
+  std::size_t instances(Form form) const;
+
+  /// Like elements side by side, each times its weight. In the whole form the value is real in the sense of a
+  /// lane-real network: its q is absent.
+  Complex gather(std::span<const Element> elements, Form form);
+
+  /// The first `count` instances of a value. In the whole form p + i*q is joined here.
+  std::vector<Element> scatter(const Complex& z, std::size_t count, Form form);
 
   /// Stores elements[k] times the factor as complex number k of the destination.
   void store(std::span<const Element> elements);
@@ -54,11 +67,16 @@ class Lanes {
     bool operator==(const Place&) const = default;
   };
   using Places = std::array<Place, max_lanes>;
+  using Outputs = std::array<int, max_lanes>;
 
-  Complex gather_memory(std::span<const Element> elements);
-  Value gather_half(std::span<const Element> elements, Value Complex::*half);
-  Complex gather_turned(std::span<const Element> elements);
-  Complex weigh(std::span<const Element> elements, const Complex& z);
+  Complex load_split(std::span<const Element> elements);
+  Value load_whole(std::span<const Element> elements);
+  Complex gather_split(std::span<const Element> elements);
+  Value gather_parts(const std::vector<Part>& parts);
+  Complex weigh_split(std::span<const Element> elements, const Complex& z);
+  Value weigh_whole(std::span<const Element> elements, Value z);
+  Value times_i(Value whole);
+  void store_half(const Outputs& outputs, NodeId re, NodeId im, int half);
   NodeId bring(const Places& wanted);
   NodeId find(const Places& wanted) const;
   NodeId one_shuffle(const Places& wanted);

@@ -20,10 +20,13 @@ inline bool aligned(const void* src, const void* dst) {
   return ((reinterpret_cast<std::uintptr_t>(src) | reinterpret_cast<std::uintptr_t>(dst)) & 15) == 0;
 }
 
-/// The valid flags are 1, 2, 4 and 8: powers of two, and at most 8.
+/// The row of a flag in a kernel's factors. The valid flags are 1, 2, 4 and 8, in the rows 0, 1, 3 and 7.
+inline std::uint32_t row_of(std::int32_t flag) { return static_cast<std::uint32_t>(flag) - 1; }
+
+/// One comparison and one bit test tell the valid flags from all others.
 inline bool valid_flag(std::int32_t flag) {
-  const auto bits = static_cast<std::uint32_t>(flag), below = bits - 1;
-  return below < XFM_SCALE_NONE && (bits & below) == 0;
+  constexpr std::uint32_t rows = 1U << 0 | 1U << 1 | 1U << 3 | 1U << 7;
+  return row_of(flag) < XFM_SCALE_NONE && (rows >> row_of(flag) & 1U) != 0;
 }
 
 /// The status that the arguments deserve: pointers first, the flag last.
@@ -36,22 +39,21 @@ inline xfmStatus check(const void* src, const void* dst, std::int32_t flag) {
 }
 
 /// The stored factors of a kernel, one for each valid flag and as often as it has lanes: no arithmetic and no
-/// branch leads from the flag to its factor. The flag itself is the index; the rows between the flags are
-/// never read.
+/// branch leads from the flag to its factor. The rows between those of the flags are never read.
 template <class T, int lanes>
 struct Factors {
-  alignas(lanes * sizeof(T)) T by_flag[XFM_SCALE_NONE + 1][lanes];
+  alignas(lanes * sizeof(T)) T rows[XFM_SCALE_NONE][lanes];
 
-  constexpr Factors(T forward_by_n, T inverse_by_n, T by_sqrt_n) : by_flag{} {
+  constexpr Factors(T forward_by_n, T inverse_by_n, T by_sqrt_n) : rows{} {
     for (int l = 0; l < lanes; ++l) {
-      by_flag[XFM_SCALE_FWD_BY_N][l] = forward_by_n;
-      by_flag[XFM_SCALE_INV_BY_N][l] = inverse_by_n;
-      by_flag[XFM_SCALE_BY_SQRT_N][l] = by_sqrt_n;
-      by_flag[XFM_SCALE_NONE][l] = 1;
+      rows[XFM_SCALE_FWD_BY_N - 1][l] = forward_by_n;
+      rows[XFM_SCALE_INV_BY_N - 1][l] = inverse_by_n;
+      rows[XFM_SCALE_BY_SQRT_N - 1][l] = by_sqrt_n;
+      rows[XFM_SCALE_NONE - 1][l] = 1;
     }
   }
 
-  const T* of(std::int32_t flag) const { return by_flag[static_cast<std::uint32_t>(flag)]; }
+  const T* of(std::int32_t flag) const { return rows[row_of(flag)]; }
 };
 
 }  // namespace xfm

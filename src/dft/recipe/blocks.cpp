@@ -45,12 +45,6 @@ Points dft5(const Points& x, Five form) {
   return {x0, t1 - times_i(u1), t2 - times_i(u2), t2 + times_i(u2), t1 + times_i(u1)};
 }
 
-Complex direct_total(const Points& x0_and_sums) {
-  Complex total = x0_and_sums.back();
-  for (std::size_t j = x0_and_sums.size() - 1; j-- > 0;) total = x0_and_sums[j] + total;
-  return total;
-}
-
 Points direct(const Points& x) {
   const int n = static_cast<int>(x.size()), h = (n - 1) / 2;
   const auto at = [&](int j) { return x[static_cast<std::size_t>(j)]; };
@@ -59,9 +53,9 @@ Points direct(const Points& x) {
     a[static_cast<std::size_t>(j)] = at(j) + at(n - j);
     b[static_cast<std::size_t>(j)] = at(j) - at(n - j);
   }
-  a.resize(static_cast<std::size_t>(h) + 1);
-  a[0] = at(0);
-  out[0] = direct_total(a);
+  Complex total = a[static_cast<std::size_t>(h)];
+  for (int j = h - 1; j >= 1; --j) total = a[static_cast<std::size_t>(j)] + total;
+  out[0] = at(0) + total;
   for (int k = 1; k <= h; ++k) {
     std::vector<ScaledComplex> t{at(0)}, u;
     for (int j = 1; j <= h; ++j) {

@@ -25,7 +25,4 @@ Points dft5(const Points& x, Five form);
 ///   t_k = x0 + sum_j cos(2 pi j k/n) a_j,  u_k = sum_j sin(2 pi j k/n) b_j,  X_k, X_(n-k) = t_k -+ i u_k.
 Points direct(const Points& x);
 
-/// Its output 0 from x0, a_1 .. a_h: x0 + (a_1 + (a_2 + ...)).
-Complex direct_total(const Points& x0_and_sums);
-
 }  // namespace xfm::dft

@@ -9,7 +9,7 @@
 namespace xfm::dft {
 namespace {
 
-using gen::Element;
+using gen::Form;
 using gen::Kernel;
 using gen::Network;
 using gen::Precision;
@@ -41,21 +41,25 @@ std::unique_ptr<Network> lane_real_network(int length, const Tree& tree, Directi
   return network;
 }
 
-// Four split lanes, or one for the scalar kernels. An inverse kernel exchanges real and imaginary parts at
-// both ends.
-std::unique_ptr<Network> split_network(int length, const Tree& tree, Direction direction, int width) {
+std::unique_ptr<Network> packed_network(int length, const Tree& tree, Direction direction, int width,
+                                        Form form) {
   const bool scalar_kernel = length <= longest_scalar;
   const bool mixed = length == 3 || length == 5;
   auto network = std::make_unique<Network>(width, mixed ? gen::Rounding::statement : gen::Rounding::each);
   gen::Lanes lanes(*network);
-  const auto bind = [&](const Element& e) { return direction == Direction::forward ? e : exchanged(e); };
   Line x;
-  for (int n = 0; n < length; ++n) x.push_back(bind(gen::source_element(n)));
-  Packed packed(lanes, scalar_kernel ? Five::outer_first : Five::inner_first);
-  Line out = packed.transform(tree, {x}).front();
-  for (Element& e : out) e = bind(e);
-  lanes.store(out);
+  for (int n = 0; n < length; ++n) x.push_back(gen::source_element(n));
+  Packed packed(lanes, form, scalar_kernel ? Five::outer_first : Five::inner_first);
+  lanes.store(packed.transform(tree, {x}, direction).front());
   return network;
+}
+
+// Scalar code, or four lanes in the form that takes fewer instructions.
+std::unique_ptr<Network> single_network(int length, const Tree& tree, Direction direction) {
+  if (length <= longest_scalar) return packed_network(length, tree, direction, 1, Form::split);
+  auto split = packed_network(length, tree, direction, gen::max_lanes, Form::split);
+  auto whole = packed_network(length, tree, direction, gen::max_lanes, Form::whole);
+  return gen::instructions(*split) < gen::instructions(*whole) ? std::move(split) : std::move(whole);
 }
 
 // The definition, as a real matrix on interleaved parts: exp(-+2 pi i n k/N).
@@ -102,8 +106,7 @@ Kernel make_kernel(int length, Precision precision, Direction direction, const s
                 kernel.type.suffix();
   const Tree parsed = gen::parse_tree(text);
   kernel.network =
-      single ? split_network(length, parsed, direction, length <= longest_scalar ? 1 : gen::max_lanes)
-             : lane_real_network(length, parsed, direction);
+      single ? single_network(length, parsed, direction) : lane_real_network(length, parsed, direction);
   check(kernel, direction);
   return kernel;
 }

@@ -5,10 +5,9 @@
 #include <vector>
 
 #include "gen/kernel.h"
+#include "src/dft/recipe/rules.h"
 
 namespace xfm::dft {
-
-enum class Direction { forward, inverse };
 
 /// Lengths that have a row.
 std::vector<int> lengths();

@@ -1,4 +1,4 @@
-// The split arithmetic: a tree run flat on batches of like transforms, four at a time in the lanes.
+// The packed arithmetic: a tree run flat on batches of like transforms, several at a time in the lanes.
 //
 // A stage that has I like transforms of length a*b runs I*b transforms of length a, then I*a of length b, and
 // so on down; only the base blocks are packed. So the parallelism inside a transform fills lanes that the
@@ -10,6 +10,7 @@
 #include "gen/lanes.h"
 #include "gen/tree.h"
 #include "src/dft/recipe/blocks.h"
+#include "src/dft/recipe/rules.h"
 
 namespace xfm::dft {
 
@@ -18,19 +19,18 @@ using Batch = std::vector<Line>;         ///< like transforms, side by side
 
 class Packed {
  public:
-  Packed(gen::Lanes& lanes, Five five) : lanes_(lanes), five_(five) {}
+  Packed(gen::Lanes& lanes, gen::Form form, Five five) : lanes_(lanes), form_(form), five_(five) {}
 
-  Batch transform(const gen::Tree& tree, const Batch& x);
+  Batch transform(const gen::Tree& tree, const Batch& x, Direction direction);
 
  private:
   using Block = Points (*)(const Points&, Five);
-  Batch each(const Batch& x, Block block);
-  Batch four_flat(const Batch& x);
-  Batch direct_flat(const Batch& x);
-  Batch two_stages(const gen::Tree& tree, const Batch& x);
-  Batch rader(const gen::Tree& inner, const Batch& x);
+  Batch each(const Batch& x, Block block, Direction direction);
+  Batch two_stages(const gen::Tree& tree, const Batch& x, Direction direction);
+  Batch rader(const gen::Tree& inner, const Batch& x, Direction direction);
 
   gen::Lanes& lanes_;
+  gen::Form form_;
   Five five_;
 };
 

@@ -20,7 +20,7 @@ using gen::Wide;
 namespace {
 
 // |B[0]| is 1/M exactly, and B[M/2] is real or imaginary; the other halves are true numbers.
-ComplexConstant spectrum(int n, int g, int r) {
+ComplexConstant root_spectrum(int n, int g, int r) {
   const int m = n - 1, inverse = gen::inverse_modulo(g, n);
   Wide re = 0, im = 0;
   for (int q = 0; q < m; ++q) {
@@ -41,41 +41,45 @@ ComplexConstant spectrum(int n, int g, int r) {
 
 }  // namespace
 
-Batch Packed::rader(const Tree& inner, const Batch& x) {
+Batch Packed::rader(const Tree& inner, const Batch& x, Direction direction) {
   const int m = length_of(inner), n = m + 1, g = gen::smallest_primitive_root(n);
   Batch permuted(x.size());
   for (std::size_t i = 0; i < x.size(); ++i) {
     for (int q = 0; q < m; ++q)
       permuted[i].push_back(x[i][static_cast<std::size_t>(gen::power_modulo(g, q, n))]);
   }
-  const Batch forward = transform(inner, permuted);
+  const Batch spectrum = transform(inner, permuted, direction);
+  const auto factor = [&](int r) { return turned(root_spectrum(n, g, r), direction); };
 
   // The bin of frequency zero gives X0 = x0 + A[0] and Y[0] = x0 + B[0]*A[0].
-  Batch zero(x.size());
-  for (std::size_t i = 0; i < x.size(); ++i) zero[i] = {x[i][0], forward[i][0]};
-  const Batch zero_out = each(zero, [](const Points& z, Five) -> Points { return {z[0] + z[1], z[0]}; });
-  Batch joined(x.size());
+  Batch zero;
+  for (std::size_t i = 0; i < x.size(); ++i) zero.push_back({x[i][0], spectrum[i][0]});
+  zero = each(
+      zero,
+      [](const Points& z, Five) {
+        return Points{z[0] + z[1], z[0]};
+      },
+      direction);
+  Batch joined;
   for (std::size_t i = 0; i < x.size(); ++i)
-    joined[i] = {zero_out[i][1], weighted(forward[i][0], spectrum(n, g, 0))};
-  joined = each(joined, [](const Points& z, Five) -> Points { return {z[0] + z[1]}; });
+    joined.push_back({zero[i][1], weighted(spectrum[i][0], factor(0))});
+  joined = each(
+      joined, [](const Points& z, Five) { return Points{z[0] + z[1]}; }, direction);
 
-  // The inverse inner transform is the forward one between two exchanges of real and imaginary part.
-  Batch product(x.size());
+  Batch product;
   for (std::size_t i = 0; i < x.size(); ++i) {
-    product[i].push_back(exchanged(joined[i][0]));
-    for (int r = 1; r < m; ++r) {
-      product[i].push_back(exchanged(weighted(forward[i][static_cast<std::size_t>(r)], spectrum(n, g, r))));
-    }
+    Line& line = product.emplace_back(Line{joined[i][0]});
+    for (int r = 1; r < m; ++r) line.push_back(weighted(spectrum[i][static_cast<std::size_t>(r)], factor(r)));
   }
-  const Batch backward = transform(inner, product);
+  const Batch convolution = transform(inner, product, opposite(direction));
 
   Batch out(x.size(), Line(static_cast<std::size_t>(n)));
   const int inverse = gen::inverse_modulo(g, n);
   for (std::size_t i = 0; i < x.size(); ++i) {
-    out[i][0] = zero_out[i][0];
+    out[i][0] = zero[i][0];
     for (int p = 0; p < m; ++p) {
-      out[i][static_cast<std::size_t>(gen::power_modulo(inverse, p, n))] =
-          exchanged(backward[i][static_cast<std::size_t>(p)]);
+      const auto k = static_cast<std::size_t>(gen::power_modulo(inverse, p, n));
+      out[i][k] = convolution[i][static_cast<std::size_t>(p)];
     }
   }
   return out;

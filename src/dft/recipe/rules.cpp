@@ -4,6 +4,14 @@ namespace xfm::dft {
 
 using gen::Tree;
 
+gen::ComplexConstant root(gen::Turn t, Direction direction) {
+  return turned(gen::root_of_unity(t), direction);
+}
+
+gen::ComplexConstant turned(const gen::ComplexConstant& w, Direction direction) {
+  return direction == Direction::forward ? w : gen::ComplexConstant{w.re, -w.im};
+}
+
 int length_of(const Tree& tree) {
   if (tree.is_number()) return tree.number;
   if (tree.rule == "R") return length_of(tree.args.back()) + 1;

@@ -1,10 +1,23 @@
 // What the rules of the breakdown tables mean, apart from how they are carried out.
 #pragma once
 
+#include "gen/constant.h"
 #include "gen/number.h"
 #include "gen/tree.h"
 
 namespace xfm::dft {
+
+/// The sign of i in the exponent: forward transforms have -.
+enum class Direction { forward, inverse };
+
+/// The root of unity of a direction, exp(-+2 pi i t), and any other constant of the forward transform turned
+/// so.
+gen::ComplexConstant root(gen::Turn t, Direction direction);
+gen::ComplexConstant turned(const gen::ComplexConstant& w, Direction direction);
+
+inline Direction opposite(Direction d) {
+  return d == Direction::forward ? Direction::inverse : Direction::forward;
+}
 
 /// The transform length of a tree.
 int length_of(const gen::Tree& tree);

@@ -15,18 +15,17 @@ Points split_radix(const Points& x) {
   if (x.size() == 2) return dft2(x);
   if (x.size() == 4) return dft4(x);
   const std::size_t n = x.size(), half = n / 2, quarter = n / 4;
-  Points sums, differences, first, third;
-  for (std::size_t j = 0; j < half; ++j) {
-    sums.push_back(x[j] + x[j + half]);
-    differences.push_back(x[j] - x[j + half]);
-  }
+  Points sums(half), first, third;
   for (std::size_t j = 0; j < quarter; ++j) {
     const auto w = [&](std::size_t power) {
       return root_of_unity(turn(static_cast<long long>(power * j), static_cast<long long>(n)));
     };
-    const Complex turned = times_i(differences[j + quarter]);
-    first.push_back(w(1) * (differences[j] - turned));
-    third.push_back(w(3) * (differences[j] + turned));
+    sums[j] = x[j] + x[j + half];
+    sums[j + quarter] = x[j + quarter] + x[j + quarter + half];
+    const Complex difference = x[j] - x[j + half];
+    const Complex turned = times_i(x[j + quarter] - x[j + quarter + half]);
+    first.push_back(w(1) * (difference - turned));
+    third.push_back(w(3) * (difference + turned));
   }
   Points out(n);
   const Points even = split_radix(sums), odd1 = split_radix(first), odd3 = split_radix(third);

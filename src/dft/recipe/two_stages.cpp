@@ -44,7 +44,7 @@ Points LaneReal::two_stages(const Tree& tree, const Points& x) const {
   return out;
 }
 
-Batch Packed::two_stages(const Tree& tree, const Batch& x) {
+Batch Packed::two_stages(const Tree& tree, const Batch& x, Direction direction) {
   const TwoStages map = stages_of(tree);
   const int n = map.a * map.b;
   Batch columns;
@@ -54,19 +54,19 @@ Batch Packed::two_stages(const Tree& tree, const Batch& x) {
       for (int m = 0; m < map.a; ++m) column.push_back(line[static_cast<std::size_t>(map.input(m, c))]);
     }
   }
-  columns = transform(first_of(tree), columns);
+  columns = transform(first_of(tree), columns, direction);
   Batch rows;
   for (int k1 = 0; k1 < map.a; ++k1) {
     for (std::size_t i = 0; i < x.size(); ++i) {
       Line& row = rows.emplace_back();
       for (int c = 0; c < map.b; ++c) {
         const Line& column = columns[static_cast<std::size_t>(c) * x.size() + i];
-        const gen::ComplexConstant twiddle = root_of_unity(turn(map.twiddle(c, k1), n));
+        const gen::ComplexConstant twiddle = root(turn(map.twiddle(c, k1), n), direction);
         row.push_back(weighted(column[static_cast<std::size_t>(k1)], twiddle));
       }
     }
   }
-  rows = transform(rest_of(tree), rows);
+  rows = transform(rest_of(tree), rows, direction);
   Batch out(x.size(), Line(static_cast<std::size_t>(n)));
   for (int k1 = 0; k1 < map.a; ++k1) {
     for (std::size_t i = 0; i < x.size(); ++i) {
