@@ -1,0 +1,100 @@
+// Kernels allocate nothing. The allocation functions of the C library and of the core library are replaced
+// here by ones that count.
+#include <cstdlib>
+
+#include "tests/support/kernel_test.h"
+#include "tests/support/reference.h"
+
+// The address sanitizer replaces the same functions.
+#if defined(__SANITIZE_ADDRESS__)
+#define XFM_COUNT_ALLOCATIONS 0
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define XFM_COUNT_ALLOCATIONS 0
+#endif
+#endif
+#ifndef XFM_COUNT_ALLOCATIONS
+#define XFM_COUNT_ALLOCATIONS 1
+#endif
+
+namespace {
+long allocations = 0;
+}
+
+#if XFM_COUNT_ALLOCATIONS
+// glibc's own entries stand behind the names that a program may replace.
+extern "C" {
+void* __libc_malloc(std::size_t);
+void* __libc_calloc(std::size_t, std::size_t);
+void* __libc_realloc(void*, std::size_t);
+void* __libc_memalign(std::size_t, std::size_t);
+
+void* malloc(std::size_t size) {
+  ++allocations;
+  return __libc_malloc(size);
+}
+void* calloc(std::size_t count, std::size_t size) {
+  ++allocations;
+  return __libc_calloc(count, size);
+}
+void* realloc(void* block, std::size_t size) {
+  ++allocations;
+  return __libc_realloc(block, size);
+}
+void* aligned_alloc(std::size_t alignment, std::size_t size) {
+  ++allocations;
+  return __libc_memalign(alignment, size);
+}
+int posix_memalign(void** block, std::size_t alignment, std::size_t size) {
+  ++allocations;
+  *block = __libc_memalign(alignment, size);
+  return *block == nullptr;
+}
+}
+#endif
+
+namespace xfm::test {
+namespace {
+
+/// The count of one call, taken next to it: all that a test does around it may allocate.
+long allocations_of(const Kernel& kernel, const void* src, void* dst, std::int32_t flag) {
+  long count = 0;
+  attempt([&] {
+    const long before = allocations;
+    const xfmStatus status = kernel.call(src, dst, flag);
+    count = allocations - before;
+    return status;
+  });
+  return count;
+}
+
+class Allocation : public KernelTest {
+ protected:
+  void SetUp() override {
+    if (!XFM_COUNT_ALLOCATIONS) GTEST_SKIP() << "the address sanitizer owns malloc";
+  }
+};
+
+TEST_P(Allocation, None) {
+  for (int offset = 0; offset < 16; offset += step()) {
+    Array src(kernel().precision, kernel().read, offset), dst = output();
+    random.fill(src, Kind::ordinary);
+    for (const std::int32_t flag : {1, 2, 4, 8, 3})
+      ASSERT_EQ(allocations_of(kernel(), src.data(), dst.data(), flag), 0)
+          << "flag " << flag << ", offset " << offset;
+  }
+}
+
+XFM_FOR_ALL_KERNELS(Allocation);
+
+// The counter sees what the core library does, so that a zero above means something.
+TEST(AllocationCounter, SeesTheCoreLibrary) {
+  if (!XFM_COUNT_ALLOCATIONS) GTEST_SKIP() << "the address sanitizer owns malloc";
+  const long before = allocations;
+  void* volatile block = std::malloc(10);
+  EXPECT_EQ(allocations, before + 1);
+  std::free(block);
+}
+
+}  // namespace
+}  // namespace xfm::test

@@ -1,0 +1,160 @@
+// The code of every kernel, body and twin: straight, self-contained, within the instruction set, and with no
+// more operations than its row allows.
+#include <cstdio>
+
+#include "paths.h"
+#include "tests/binary/disassembly.h"
+#include "tests/binary/tools.h"
+#include "tests/support/kernel_test.h"
+
+namespace xfm::test {
+namespace {
+
+const Disassembly& code() {
+  static const Disassembly disassembly(paths::library);
+  return disassembly;
+}
+
+/// Each body is traced once, for all the tests that look at it.
+const Body& traced(const std::string& function, const std::string& twin) {
+  static std::map<std::string, Body> known;
+  const auto found = known.find(function);
+  return found != known.end() ? found->second
+                              : known.emplace(function, trace(code(), function, twin)).first->second;
+}
+
+class Code : public KernelTest {
+ protected:
+  void SetUp() override {
+    const std::string name = kernel().name, twin = name + "_twin";
+    ASSERT_TRUE(code().has(name));
+    ASSERT_EQ(code().has(twin), kernel().packed) << "a packed kernel, and no other, has a twin";
+    bodies_.emplace(name, traced(name, kernel().packed ? twin : ""));
+    if (kernel().packed) bodies_.emplace(twin, traced(twin, ""));
+  }
+
+  /// By name.
+  const std::map<std::string, const Body&>& bodies() const { return bodies_; }
+
+  static Tally tally(const Body& body) {
+    Tally result;
+    for (const Instruction* instruction : body.instructions) result.add(*instruction);
+    return result;
+  }
+
+  /// Binary64 and packed: a register is one complex number.
+  bool in_pairs() const { return kernel().packed_math && kernel().precision == Precision::twofold; }
+
+ private:
+  std::map<std::string, const Body&> bodies_;
+};
+
+TEST_P(Code, NoLoop) {
+  for (const auto& [name, body] : bodies()) EXPECT_FALSE(body.has_loop) << name;
+}
+
+TEST_P(Code, StaysInTheFunctionOrGoesToTheTwin) {
+  for (const auto& [name, body] : bodies())
+    for (const std::string& departure : body.departures) ADD_FAILURE() << name << " " << departure;
+}
+
+TEST_P(Code, BaselineInstructions) {
+  for (const auto& [name, body] : bodies()) {
+    std::set<std::string> strangers;
+    for (const Instruction* instruction : body.instructions)
+      if (!instruction->is_expected()) strangers.insert(instruction->mnemonic);
+    for (const std::string& stranger : strangers)
+      ADD_FAILURE() << name << " has " << stranger << ", which is beyond SSE2 or of no use to a kernel";
+  }
+}
+
+TEST_P(Code, ConstantsAreReadOnly) {
+  static const std::vector<Section> all = sections(paths::library);
+  for (const auto& [name, body] : bodies()) {
+    for (const Instruction* instruction : body.instructions) {
+      if (!instruction->constant) continue;
+      bool read_only = false;
+      for (const Section& section : all)
+        read_only |= section.holds(*instruction->constant) && !section.writable && !section.executable;
+      EXPECT_TRUE(read_only) << name << ": " << instruction->mnemonic << " " << instruction->operands;
+    }
+  }
+}
+
+// The row bounds real operations; a packed instruction of four lanes may carry idle ones, so there the
+// generator's own count of instructions is what the code must have.
+TEST_P(Code, OperationCounts) {
+  const int adds = kernel().adds, mults = kernel().mults + kernel().written;
+  for (const auto& [name, body] : bodies()) {
+    const Tally count = tally(body);
+    if (kernel().packed_math) {
+      EXPECT_EQ(count.scalar_adds, 0) << name;
+      EXPECT_EQ(count.scalar_mults, 0) << name;
+      EXPECT_EQ(count.packed_adds, kernel().add_instructions) << name;
+      EXPECT_EQ(count.packed_mults, kernel().mult_instructions) << name;
+    } else {
+      EXPECT_EQ(count.packed_adds, 0) << name;
+      EXPECT_EQ(count.packed_mults, 0) << name;
+      EXPECT_LE(count.scalar_adds, adds) << name;
+      EXPECT_LE(count.scalar_mults, mults) << name;
+    }
+    if (in_pairs()) {
+      EXPECT_LE(2 * count.packed_adds, adds) << name;
+      EXPECT_LE(2 * count.packed_mults, mults) << name;
+    }
+    EXPECT_GE(count.packed_mults + count.scalar_mults,
+              kernel().packed_math ? kernel().written / 4 : kernel().written)
+        << name << " does not multiply every output by the factor";
+  }
+}
+
+// Aligned pairs are complex numbers at multiples of 16, and the body's frame is aligned too.
+TEST_P(Code, BodyOfPairsMovesAligned) {
+  if (!in_pairs()) return;
+  for (const Instruction* instruction : bodies().at(kernel().name).instructions)
+    EXPECT_NE(instruction->mnemonic.substr(0, 4), "movu")
+        << instruction->mnemonic << " " << instruction->operands;
+}
+
+TEST_P(Code, LaneExchanges) {
+  if (kernel().exchanges < 0) return;  // not prescribed
+  for (const auto& [name, body] : bodies()) EXPECT_EQ(tally(body).exchanges, kernel().exchanges) << name;
+}
+
+XFM_FOR_ALL_KERNELS(Code);
+
+// The reader of the disassembly, on lines as objdump prints them.
+TEST(Disassembler, Lines) {
+  const auto jump = parse_instruction("    266a:\tjmp    23a0 <f_twin>");
+  ASSERT_TRUE(jump.has_value());
+  EXPECT_TRUE(jump->is_unconditional_jump());
+  EXPECT_EQ(jump->target, 0x23a0U);
+  const auto constant = parse_instruction("    270a:\tmovss  0x4bde(%rip),%xmm5        # 72f0 <f+0x50>");
+  ASSERT_TRUE(constant.has_value());
+  EXPECT_EQ(constant->constant, 0x72f0U);
+  EXPECT_EQ(constant->operand_list(), (std::vector<std::string>{"0x4bde(%rip)", "%xmm5"}));
+  EXPECT_FALSE(parse_instruction("0000000000002660 <f>:").has_value());
+  for (const std::string line : {"  10:\tvfmadd231ps %xmm0,%xmm1,%xmm2", "  10:\thaddps %xmm0,%xmm1",
+                                 "  10:\tmovddup %xmm0,%xmm1", "  10:\tdivsd %xmm0,%xmm1"})
+    EXPECT_FALSE(parse_instruction(line)->is_expected()) << line;
+  const auto nop = parse_instruction("  10:\tcs nopw 0x0(%rax,%rax,1)");
+  EXPECT_EQ(nop->mnemonic, "nopw");
+}
+
+TEST(Disassembler, Tally) {
+  const auto tally = [](const std::string& text) {
+    Tally result;
+    result.add(*parse_instruction("  10:\t" + text));
+    return result;
+  };
+  EXPECT_EQ(tally("addpd (%rdi),%xmm0").packed_adds, 1);
+  EXPECT_EQ(tally("addsd %xmm1,%xmm1").scalar_mults, 1);
+  EXPECT_EQ(tally("subsd %xmm1,%xmm1").scalar_adds, 1);
+  EXPECT_EQ(tally("shufpd $0x1,%xmm0,%xmm0").exchanges, 1);
+  EXPECT_EQ(tally("pshufd $0x4e,%xmm0,%xmm1").exchanges, 1);
+  EXPECT_EQ(tally("movhpd %xmm0,0x8(%rsp)").exchanges, 1);
+  EXPECT_EQ(tally("movhpd 0x8(%rdi),%xmm0").exchanges, 0);
+}
+
+}  // namespace
+}  // namespace xfm::test

@@ -1,0 +1,83 @@
+// The library holds no writable data of its own and starts nothing: its constants are read-only, and what can
+// be written is what the toolchain puts into any shared library.
+#include <gtest/gtest.h>
+
+#include <map>
+#include <set>
+
+#include "paths.h"
+#include "tests/binary/tools.h"
+
+namespace xfm::test {
+namespace {
+
+std::map<std::string, Section> writable_sections(const std::string& path) {
+  std::map<std::string, Section> result;
+  for (const Section& section : sections(path))
+    if (section.writable) result.emplace(section.name, section);
+  return result;
+}
+
+// Addresses inside constants are filled in by the loader, which then protects these sections.
+const std::set<std::string> protected_after_loading = {".data.rel.ro", ".dynamic", ".got"};
+
+TEST(Data, NothingWritableOfItsOwn) {
+  const auto of_toolchain = writable_sections(paths::empty_library);
+  for (const auto& [name, section] : writable_sections(paths::library)) {
+    if (protected_after_loading.contains(name)) continue;
+    const auto usual = of_toolchain.find(name);
+    if (usual == of_toolchain.end()) {
+      EXPECT_EQ(section.size, 0U) << name << " is writable";
+    } else {
+      EXPECT_LE(section.size, usual->second.size) << name << " holds more than start-up code";
+    }
+  }
+}
+
+// A small object can hide where sections are padded; its name cannot.
+TEST(Data, NoWritableObjectOfItsOwn) {
+  std::set<std::string> of_toolchain;
+  for (const Symbol& symbol : symbols(paths::empty_library)) of_toolchain.insert(symbol.name);
+  const auto writable = writable_sections(paths::library);
+  for (const Symbol& symbol : symbols(paths::library)) {
+    for (const auto& [name, section] : writable) {
+      if (protected_after_loading.contains(name) || !section.holds(symbol.address)) continue;
+      EXPECT_TRUE(of_toolchain.contains(symbol.name)) << symbol.name << " is writable, in " << name;
+    }
+  }
+}
+
+TEST(Data, ConstantsWithAddressesAreProtected) {
+  bool protects = false, at_once = false;
+  std::uint64_t start = 0, end = 0;
+  for (const std::string& line : lines_of(std::string(paths::readelf) + " -ldW '" + paths::library + "'")) {
+    const auto words = words_of(line);
+    if (!words.empty() && words[0] == "GNU_RELRO") {
+      protects = true;
+      start = std::stoull(words[2], nullptr, 16);
+      end = start + std::stoull(words[5], nullptr, 16);
+    }
+    if (line.find("BIND_NOW") != std::string::npos || line.find("Flags: NOW") != std::string::npos)
+      at_once = true;
+    EXPECT_EQ(line.find("(TEXTREL)"), std::string::npos) << "code is rewritten when the library is loaded";
+  }
+  EXPECT_TRUE(protects);
+  EXPECT_TRUE(at_once);
+  for (const auto& [name, section] : writable_sections(paths::library)) {
+    if (!protected_after_loading.contains(name)) continue;
+    EXPECT_GE(section.address, start) << name;
+    EXPECT_LE(section.address + section.size, end) << name;
+  }
+}
+
+// Everything else that a kernel needs it carries itself.
+TEST(Data, ImportsCoreServicesOnly) {
+  const std::set<std::string> core = {"xfmMalloc", "xfmFree", "ownGetFeature"};
+  for (const Symbol& symbol : dynamic_symbols(paths::library)) {
+    if (symbol.kind != 'U') continue;
+    EXPECT_TRUE(core.contains(symbol.name)) << symbol.name << " is imported";
+  }
+}
+
+}  // namespace
+}  // namespace xfm::test

@@ -1,0 +1,83 @@
+// The kernel against the definition of its transform in binary128: its matrix, column by column, and random
+// vectors.
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <map>
+
+#include "tests/support/kernel_test.h"
+#include "tests/support/reference.h"
+
+namespace xfm::test {
+namespace {
+
+struct Errors {
+  double worst = 0, squares = 0;
+  long entries = 0;
+
+  void add(Wide got, Wide expected) {
+    const auto error = static_cast<double>(got - expected);
+    worst = std::max(worst, std::abs(error));
+    squares += error * error;
+    ++entries;
+  }
+  double rms() const { return std::sqrt(squares / static_cast<double>(entries)); }
+};
+
+class Matrix : public KernelTest {
+ public:
+  static void SetUpTestSuite() {
+    std::printf("%-32s %12s %12s\n", "entries of the matrix", "worst error", "rms error");
+  }
+  static void TearDownTestSuite() {
+    for (const auto& [type, errors] : all)
+      std::printf("%-32s %12.3g %12.3g\n", ("all _" + type).c_str(), errors.worst, errors.rms());
+  }
+
+ protected:
+  void add_column(Errors& errors, int in, const Definition& reference) const;
+  static inline std::map<std::string, Errors> all;
+};
+
+void Matrix::add_column(Errors& errors, int in, const Definition& reference) const {
+  Array unit(kernel().precision, kernel().read);
+  unit.fill(0.0);
+  unit.set(in, 1.0);
+  const Array dst = separate(unit, XFM_SCALE_NONE);
+  for (int out = 0; out < kernel().written; ++out) {
+    const Wide expected = reference.entry(out, in);
+    errors.add(Wide{dst[out]}, expected);
+    all[kernel().type].add(Wide{dst[out]}, expected);
+    ASSERT_LE(std::abs(dst[out] - static_cast<double>(expected)), matrix_bound(kernel().precision))
+        << "output scalar " << out << " of a unit at input scalar " << in;
+  }
+}
+
+TEST_P(Matrix, MeetsTheDefinition) {
+  const auto reference = definition(kernel());
+  Errors errors;
+  for (int in = 0; in < kernel().read; ++in) ASSERT_NO_FATAL_FAILURE(add_column(errors, in, *reference));
+  std::printf("%-32s %12.3g %12.3g\n", kernel().name, errors.worst, errors.rms());
+}
+
+// What holds for the columns holds for their sums, within the same bound times the sum of magnitudes.
+TEST_P(Matrix, RandomVectors) {
+  const auto reference = definition(kernel());
+  for (int round = 0; round < 4; ++round) {
+    const Array src = random_input(round == 3 ? Kind::wide : Kind::ordinary);
+    double magnitudes = 0;
+    for (int i = 0; i < src.count(); ++i) magnitudes += std::abs(src[i]);
+    const std::vector<Wide> expected = transform(*reference, src, kernel().written);
+    const Array dst = separate(src, XFM_SCALE_NONE);
+    for (int out = 0; out < dst.count(); ++out) {
+      const auto error = static_cast<double>(Wide{dst[out]} - expected[static_cast<std::size_t>(out)]);
+      ASSERT_LE(std::abs(error), matrix_bound(kernel().precision) * magnitudes)
+          << "round " << round << ", scalar " << out;
+    }
+  }
+}
+
+XFM_FOR_ALL_KERNELS(Matrix);
+
+}  // namespace
+}  // namespace xfm::test

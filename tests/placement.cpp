@@ -1,0 +1,86 @@
+// Where the arrays lie is no matter: neither their alignment nor any overlap of them changes a bit. Every
+// input is read before the first output is written, and the aligned body and its twin do the same arithmetic.
+#include <algorithm>
+
+#include "tests/support/kernel_test.h"
+#include "tests/support/reference.h"
+
+namespace xfm::test {
+namespace {
+
+class Placement : public KernelTest {
+ protected:
+  void expect_same_at_any_offset(const Array& data, std::int32_t flag);
+  /// A call inside one block of memory, src at one scalar and dst at another. All of the block must come out
+  /// as if the output, made in separate arrays, had been laid over it.
+  void expect_overlaid(const Array& src, const Array& result, int src_at, int dst_at, std::int32_t flag);
+
+  int reach() const { return std::max(kernel().read, kernel().written); }
+  /// Scalars between two multiples of 16 bytes.
+  int positions() const { return 16 / step(); }
+};
+
+void Placement::expect_overlaid(const Array& src, const Array& result, int src_at, int dst_at,
+                                std::int32_t flag) {
+  Array block(kernel().precision, 3 * reach() + positions());
+  block.fill(Poison::bytes_aa);
+  std::copy_n(static_cast<const std::byte*>(src.data()), src.bytes(), block.at(src_at));
+  Array expected(block);
+  std::copy_n(static_cast<const std::byte*>(result.data()), result.bytes(), expected.at(dst_at));
+  ASSERT_EQ(run(kernel(), block.at(src_at), block.at(dst_at), flag), xfmStsOk);
+  ASSERT_TRUE(same_bits(block, expected)) << "in a block of memory: src at scalar " << src_at
+                                          << ", dst at scalar " << dst_at << ", flag " << flag;
+}
+
+void Placement::expect_same_at_any_offset(const Array& data, std::int32_t flag) {
+  const Array expected = separate(data, flag);
+  for (int src_offset = 0; src_offset < 16; src_offset += step()) {
+    for (int dst_offset = 0; dst_offset < 16; dst_offset += step()) {
+      Array src(kernel().precision, kernel().read, src_offset);
+      Array dst(kernel().precision, kernel().written, dst_offset);
+      src.copy(data);
+      dst.fill(Poison::quiet_nan);
+      ASSERT_EQ(run(kernel(), src.data(), dst.data(), flag), xfmStsOk);
+      ASSERT_TRUE(same_bits(dst, expected))
+          << "flag " << flag << ", src offset " << src_offset << ", dst offset " << dst_offset;
+      ASSERT_TRUE(same_bits(src, data)) << "src was written";
+    }
+  }
+}
+
+TEST_P(Placement, AnyAlignment) {
+  for (const Kind kind : kinds) {
+    for (int round = 0; round < 8; ++round) {
+      const Array data = random_input(kind);
+      for (const std::int32_t flag : flags)
+        ASSERT_NO_FATAL_FAILURE(expect_same_at_any_offset(data, flag))
+            << to_string(kind) << " data, round " << round;
+    }
+  }
+}
+
+TEST_P(Placement, InPlace) {
+  for (const Kind kind : kinds) {
+    const Array src = random_input(kind);
+    for (const std::int32_t flag : flags) {
+      const Array result = separate(src, flag);
+      for (int at = 0; at < positions(); ++at)
+        ASSERT_NO_FATAL_FAILURE(expect_overlaid(src, result, reach() + at, reach() + at, flag));
+    }
+  }
+}
+
+TEST_P(Placement, AnyOverlap) {
+  const Array src = random_input();
+  const Array result = separate(src, XFM_SCALE_BY_SQRT_N);
+  for (int at = 0; at < positions(); ++at) {
+    const int src_at = reach() + at;
+    for (int shift = -reach(); shift <= reach(); ++shift)
+      ASSERT_NO_FATAL_FAILURE(expect_overlaid(src, result, src_at, src_at + shift, XFM_SCALE_BY_SQRT_N));
+  }
+}
+
+XFM_FOR_ALL_KERNELS(Placement);
+
+}  // namespace
+}  // namespace xfm::test

@@ -1,0 +1,68 @@
+// Real scalars of one precision at a place of the test's choosing. Tests speak of scalars as binary64 values,
+// which hold binary32 exactly, so that no test is written twice.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+#include "tools/catalogue.h"
+
+namespace xfm::test {
+
+using catalogue::Precision;
+
+constexpr int scalar_size(Precision precision) { return precision == Precision::single ? 4 : 8; }
+
+double load_scalar(Precision precision, const void* base, int index);
+/// Rounds the value to the precision.
+void store_scalar(Precision precision, void* base, int index, double value);
+/// The value rounded to the precision.
+double rounded(Precision precision, double value);
+
+/// Contents that no transform of ordinary data leaves behind, to see what a call wrote.
+enum class Poison { bytes_aa, quiet_nan, signalling_nan };
+constexpr Poison poisons[] = {Poison::bytes_aa, Poison::quiet_nan, Poison::signalling_nan};
+void poison(Precision precision, void* base, int count, Poison pattern);
+
+/// An array that owns its scalars. The first one lies `offset` bytes past a multiple of 64.
+class Array {
+ public:
+  Array(Precision precision, int count, int offset = 0);
+
+  Precision precision() const { return precision_; }
+  int count() const { return count_; }
+  std::size_t bytes() const { return static_cast<std::size_t>(count_ * scalar_size(precision_)); }
+  void* data() { return start_; }
+  const void* data() const { return start_; }
+  /// Where scalar `index` lies; one past the last is allowed.
+  std::byte* at(int index) { return start_ + index * scalar_size(precision_); }
+
+  double operator[](int index) const { return load_scalar(precision_, start_, index); }
+  void set(int index, double value) { store_scalar(precision_, start_, index, value); }
+  void fill(double value);
+  void fill(Poison pattern) { poison(precision_, start_, count_, pattern); }
+  /// Takes over the scalars of an array of the same shape, whatever its offset.
+  void copy(const Array& other);
+
+  Array(const Array& other);
+  Array& operator=(const Array&) = delete;
+
+ private:
+  Precision precision_;
+  int count_;
+  std::vector<std::byte> storage_;
+  std::byte* start_;
+};
+
+/// Equal bit for bit; tells the first scalar that differs.
+testing::AssertionResult same_bits(const void* got, const void* expected, Precision precision, int count);
+testing::AssertionResult same_bits(const Array& got, const Array& expected);
+
+/// Steps between two neighbouring values of the precision, counted from one value to the other; NaN is far
+/// away from everything.
+std::uint64_t ulp_distance(Precision precision, double a, double b);
+
+}  // namespace xfm::test

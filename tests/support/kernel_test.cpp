@@ -1,0 +1,35 @@
+#include "tests/support/kernel_test.h"
+
+#include <ostream>
+
+namespace xfm::catalogue {
+void PrintTo(const Kernel& kernel, std::ostream* out) { *out << kernel.name; }
+void PrintTo(const Generic& generic, std::ostream* out) { *out << generic.name; }
+}  // namespace xfm::catalogue
+
+namespace xfm::test {
+
+std::string heading(const std::string& name) { return name + ", XFM_SEED=" + std::to_string(seed()); }
+
+KernelTest::KernelTest() : random(GetParam().name), trace_(__FILE__, __LINE__, heading(GetParam().name)) {}
+
+Array KernelTest::separate(const Array& src, std::int32_t flag) const {
+  const Array aligned(src);
+  Array dst = output();
+  dst.fill(Poison::quiet_nan);
+  EXPECT_EQ(run(kernel(), aligned.data(), dst.data(), flag), xfmStsOk);
+  return dst;
+}
+
+GenericTest::GenericTest() : random(GetParam().name), trace_(__FILE__, __LINE__, heading(GetParam().name)) {}
+
+const Kernel* GenericTest::kernel_of(int length) const {
+  for (const Kernel& kernel : catalogue::kernels()) {
+    if (std::string(kernel.family) == generic().family && std::string(kernel.type) == generic().type &&
+        kernel.length == length)
+      return &kernel;
+  }
+  return nullptr;
+}
+
+}  // namespace xfm::test

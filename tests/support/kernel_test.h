@@ -1,0 +1,74 @@
+// The catalogue as test parameters, and a fixture that puts the kernel's name and the seed into every
+// failure.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <iosfwd>
+#include <string>
+
+#include "tests/support/attempt.h"
+#include "tests/support/random.h"
+
+namespace xfm::catalogue {
+// Found by GoogleTest: how a parameter is printed.
+void PrintTo(const Kernel& kernel, std::ostream* out);
+void PrintTo(const Generic& generic, std::ostream* out);
+}  // namespace xfm::catalogue
+
+namespace xfm::test {
+
+using catalogue::Generic;
+using catalogue::Kernel;
+
+class KernelTest : public testing::TestWithParam<Kernel> {
+ protected:
+  KernelTest();
+
+  const Kernel& kernel() const { return GetParam(); }
+  /// Bytes between the offsets that the element type allows.
+  int step() const { return scalar_size(kernel().precision); }
+  Array random_input(Kind kind = Kind::ordinary) {
+    return random.array(kernel().precision, kernel().read, kind);
+  }
+  Array output() const { return Array(kernel().precision, kernel().written); }
+  /// What the kernel makes of src in separate, aligned arrays. The tests of matrix and definition vouch for
+  /// it.
+  Array separate(const Array& src, std::int32_t flag) const;
+
+  Random random;
+
+ private:
+  testing::ScopedTrace trace_;
+};
+
+class GenericTest : public testing::TestWithParam<Generic> {
+ protected:
+  GenericTest();
+  const Generic& generic() const { return GetParam(); }
+  /// The kernel that serves the length, or null.
+  const Kernel* kernel_of(int length) const;
+
+  Random random;
+
+ private:
+  testing::ScopedTrace trace_;
+};
+
+/// Names an instance after its function.
+struct ByName {
+  template <class Parameter>
+  std::string operator()(const testing::TestParamInfo<Parameter>& info) const {
+    return info.param.name;
+  }
+};
+
+/// What stands in every failure: the name, and how to get the same data again.
+std::string heading(const std::string& name);
+
+}  // namespace xfm::test
+
+#define XFM_FOR_ALL_KERNELS(suite) \
+  INSTANTIATE_TEST_SUITE_P(All, suite, testing::ValuesIn(xfm::catalogue::kernels()), xfm::test::ByName())
+#define XFM_FOR_ALL_GENERICS(suite) \
+  INSTANTIATE_TEST_SUITE_P(All, suite, testing::ValuesIn(xfm::catalogue::generics()), xfm::test::ByName())

@@ -1,0 +1,38 @@
+// The transforms by their definitions, from MPFR: nothing of the workshop is used, so that a mistake there
+// cannot hide here.
+#pragma once
+
+#include <memory>
+
+#include "tests/support/array.h"
+
+namespace xfm::test {
+
+using Wide = __float128;
+
+/// Integer c in exp(c * i pi / 2), or the like of it: the definition of a family as a matrix of real scalars.
+class Definition {
+ public:
+  virtual ~Definition() = default;
+  /// How real scalar `in` of src enters real scalar `out` of dst, without a factor. The values 0, 1 and -1
+  /// are exact.
+  virtual Wide entry(int out, int in) const = 0;
+};
+
+/// Throws where the family has no definition here yet: each family adds its own.
+std::unique_ptr<Definition> definition(const catalogue::Kernel& kernel);
+
+/// The output by direct summation in binary128, without a factor.
+std::vector<Wide> transform(const Definition& definition, const Array& src, int written);
+
+/// The bound on an entry of a kernel's matrix: 2e-7 in binary32, 2e-15 in binary64.
+double matrix_bound(Precision precision);
+
+/// The stored factor that a flag selects. In binary32 the exact value rounded once; in binary64 the quotient
+/// of 1.0 by the length or by its rounded root.
+double factor(const catalogue::Kernel& kernel, std::int32_t flag);
+
+constexpr std::int32_t flags[] = {XFM_SCALE_FWD_BY_N, XFM_SCALE_INV_BY_N, XFM_SCALE_BY_SQRT_N,
+                                  XFM_SCALE_NONE};
+
+}  // namespace xfm::test

@@ -1,0 +1,110 @@
+// The tools of the tests must themselves be able to say no.
+#include <cmath>
+#include <limits>
+
+#include "tests/support/attempt.h"
+#include "tests/support/guarded.h"
+#include "tests/support/random.h"
+#include "tests/support/reference.h"
+
+namespace xfm::test {
+namespace {
+
+TEST(Guards, CatchEveryStep) {
+  Guarded region(100);
+  const auto touch = [](std::byte* place) {
+    return [place] { *const_cast<volatile std::byte*>(place) = std::byte{1}; };
+  };
+  EXPECT_FALSE(faults(touch(region.begin())));
+  EXPECT_FALSE(faults(touch(region.end() - 1)));
+  EXPECT_TRUE(faults(touch(region.begin() - 1)));
+  EXPECT_TRUE(faults(touch(region.end())));
+  region.forbid_writing();
+  EXPECT_TRUE(faults(touch(region.begin())));
+  region.allow_writing();
+  EXPECT_FALSE(faults(touch(region.begin())));
+}
+
+TEST(Arrays, CompareBits) {
+  for (const Precision precision : {Precision::single, Precision::twofold}) {
+    Array one(precision, 3), other(precision, 3, 8);
+    one.fill(0.0);
+    other.fill(0.0);
+    EXPECT_TRUE(same_bits(one, other));
+    other.set(2, -0.0);
+    EXPECT_FALSE(same_bits(one, other));
+    other.fill(Poison::signalling_nan);
+    const Array same(other);
+    EXPECT_TRUE(same_bits(same, other));
+    other.fill(Poison::quiet_nan);
+    EXPECT_FALSE(same_bits(same, other));
+  }
+}
+
+TEST(Arrays, UlpDistance) {
+  EXPECT_EQ(ulp_distance(Precision::single, 1, 1 + 0x1p-23), 1U);
+  EXPECT_EQ(ulp_distance(Precision::twofold, 1, 1 - 0x1p-53), 1U);
+  EXPECT_EQ(ulp_distance(Precision::twofold, -0x1p-1074, 0x1p-1074), 2U);
+  EXPECT_EQ(ulp_distance(Precision::single, 0.0, -0.0), 0U);
+  EXPECT_GT(ulp_distance(Precision::single, NAN, 1), 1U << 31);
+}
+
+TEST(RandomData, OneStreamAName) {
+  Random one("name"), same("name"), other("another");
+  const double first = one.even();
+  EXPECT_EQ(first, same.even());
+  EXPECT_NE(first, other.even());
+}
+
+TEST(RandomData, Kinds) {
+  Random random("kinds");
+  for (const Precision precision : {Precision::single, Precision::twofold}) {
+    const bool single = precision == Precision::single;
+    const double least_normal = single ? 0x1p-126 : 0x1p-1022, greatest = single ? 0x1p127 : 0x1p1023;
+    for (int i = 0; i < 1000; ++i) {
+      EXPECT_LT(std::abs(random.next(Kind::subnormal, precision)), least_normal);
+      EXPECT_LT(std::abs(random.next(Kind::huge, precision)) * 16384, greatest);
+    }
+  }
+}
+
+// Values known from elsewhere: the angles of a regular hexagon, octagon and pentagon.
+TEST(Reference, KnownEntries) {
+  const auto entry = [](int length, int out, int in) {
+    catalogue::Kernel kernel = {};
+    kernel.family = "DFTFwd_CToC";
+    kernel.length = length;
+    return definition(kernel)->entry(out, in);
+  };
+  const auto near = [](Wide a, Wide b) { return (a < b ? b - a : a - b) < Wide{1e-31}; };
+  EXPECT_TRUE(entry(8, 0, 0) == 1);
+  EXPECT_TRUE(entry(8, 4, 4) == -1);  // half a turn
+  EXPECT_TRUE(entry(8, 5, 4) == 0);
+  EXPECT_TRUE(entry(8, 3, 4) == -1);  // a quarter of a turn, clockwise
+  const Wide half_root = entry(8, 2, 2);
+  EXPECT_TRUE(near(half_root * half_root * 2, 1));
+  EXPECT_TRUE(near(entry(6, 2, 2) * 2, 1));
+  const Wide golden = 4 * entry(5, 2, 2) + 1;
+  EXPECT_TRUE(near(golden * golden, 5));
+}
+
+TEST(Reference, Factors) {
+  catalogue::Kernel kernel = {};
+  kernel.length = 3;
+  kernel.precision = Precision::single;
+  kernel.scaling = catalogue::Scaling::forward;
+  EXPECT_EQ(factor(kernel, XFM_SCALE_FWD_BY_N), double{0.33333334F});
+  EXPECT_EQ(factor(kernel, XFM_SCALE_INV_BY_N), 1);
+  EXPECT_EQ(factor(kernel, XFM_SCALE_BY_SQRT_N), double{0.57735026F});
+  EXPECT_EQ(factor(kernel, XFM_SCALE_NONE), 1);
+  kernel.scaling = catalogue::Scaling::inverse;
+  EXPECT_EQ(factor(kernel, XFM_SCALE_FWD_BY_N), 1);
+  EXPECT_EQ(factor(kernel, XFM_SCALE_INV_BY_N), double{0.33333334F});
+  kernel.scaling = catalogue::Scaling::symmetric;
+  EXPECT_EQ(factor(kernel, XFM_SCALE_FWD_BY_N), factor(kernel, XFM_SCALE_INV_BY_N));
+  kernel.precision = Precision::twofold;
+  EXPECT_EQ(factor(kernel, XFM_SCALE_FWD_BY_N), 1.0 / 3.0);
+}
+
+}  // namespace
+}  // namespace xfm::test
