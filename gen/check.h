@@ -1,7 +1,9 @@
 // Checks of a finished network, at generation: a kernel that fails one stops the build by name.
 #pragma once
 
+#include <functional>
 #include <string>
+#include <vector>
 
 #include "gen/network.h"
 
@@ -24,9 +26,8 @@ void check_memory(const Network& network, int read, int written, const std::stri
 /// Counts against the row.
 void check_counts(const Counts& counts, int adds, int mults, const std::string& name);
 
-/// The network as a matrix against a definition, in binary128: entry(output scalar, input scalar).
-using Definition = Wide (*)(int output, int input, int length);
-void check_matrix(const Network& network, Definition entry, int length, int read, int written,
-                  const std::string& name);
+/// The network against a definition, in binary128 on a few fixed vectors. The definition maps src to dst.
+using Definition = std::function<void(const std::vector<Wide>& src, std::vector<Wide>& dst)>;
+void check_definition(const Network& network, const Definition& definition, int read, int written, const std::string& name);
 
 }  // namespace xfm::gen

@@ -26,13 +26,14 @@ struct Part {
   int lane = 0;
 };
 
-/// A complex number on its way through a packed network: still in memory, or in registers.
+/// A complex number on its way through a packed network: still in memory, in registers, or zero by structure.
 struct Element {
   int at = -1;  ///< index in the source array, or -1
   Part re{}, im{};
   ComplexConstant weight{{"1", 1}, {"0", 0}};  ///< a multiplication that waits for the next gathering
 
   bool in_memory() const { return at >= 0; }
+  bool absent() const { return !in_memory() && re.value.absent(); }
 };
 
 /// Complex number n of the source array.

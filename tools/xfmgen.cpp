@@ -75,7 +75,7 @@ void costs() {
   for (const Family& family : families()) {
     for (const auto& type : family.types) {
       for (const int length : family.lengths) {
-        const Kernel kernel = family.make(length, type.precision, "");
+        Kernel kernel;try { kernel = family.make(length, type.precision, ""); } catch (const std::exception& e) { fmt::print("{}\n", e.what()); continue; }
         const xfm::gen::Counts counts = count(*kernel.network);
         fmt::print("{:<32} {:>6} {:>6} {:>6} {:>6}  {}\n", kernel.name, counts.adds, kernel.adds,
                    counts.mults, kernel.mults, kernel.tree);

@@ -30,13 +30,19 @@ Points dft5(const Points& x, Five form) {
   const Constant s1 = sine(turn(1, 5)), s2 = sine(turn(2, 5));
   const Complex a1 = x[1] + x[4], a2 = x[2] + x[3];
   const Complex b1 = x[1] - x[4], b2 = x[2] - x[3];
-  if (form == Five::six_products) {
+  if (form == Five::six_products || form == Five::five_products) {
     const Constant quarter = gen::constant("0.25", gen::Wide(1) / 4);
     const Constant root = gen::constant("sqrt(5)/4", gen::wide_sqrt(5) / 4);
     const Complex s = a1 + a2;
     const Complex t = x[0] - Complex(quarter * s), w = root * (a1 - a2);
     const Complex t1 = t + w, t2 = t - w;
-    const Complex u1 = sum({s1 * b1, s2 * b2}), u2 = sum({s1 * b2, -(s2 * b1)});
+    // (u1, u2) is (b1, b2) turned and stretched; a rotation takes three products where an addition more is cheaper.
+    Complex u1 = sum({s1 * b1, s2 * b2}), u2 = sum({s1 * b2, -(s2 * b1)});
+    if (form == Five::five_products) {
+      const Complex m = s2 * (b1 + b2);
+      u1 = Complex(gen::constant("sin 1/5 - sin 2/5", s1.value - s2.value) * b1) + m;
+      u2 = Complex(gen::constant("sin 1/5 + sin 2/5", s1.value + s2.value) * b2) - m;
+    }
     return {x[0] + s, t1 - times_i(u1), t2 + times_i(u2), t2 - times_i(u2), t1 + times_i(u1)};
   }
   const Complex x0 = form == Five::outer_first ? (x[0] + a1) + a2 : (a1 + a2) + x[0];

@@ -1,6 +1,7 @@
 #include "src/dft/recipe/dft.h"
 
 #include "gen/check.h"
+#include "gen/fold.h"
 #include "gen/lanes.h"
 #include "src/dft/recipe/lane_real.h"
 #include "src/dft/recipe/packed.h"
@@ -28,7 +29,7 @@ std::unique_ptr<Network> lane_real_network(int length, const Tree& tree, Directi
   const auto store = [&](int k, Value v) { network->store(network->factor(v), pair(k)); };
   Points x;
   for (int n = 0; n < length; ++n) x.push_back({network->load(pair(n)), {}});
-  const Points out = LaneReal(length).transform(tree, x);
+  const Points out = LaneReal({length, Precision::twofold}).transform(tree, x);
   store(0, out[0].p);
   for (int k = 1; 2 * k < length; ++k) {
     const auto [p, q] = out[static_cast<std::size_t>(k)];
@@ -43,13 +44,12 @@ std::unique_ptr<Network> lane_real_network(int length, const Tree& tree, Directi
 
 std::unique_ptr<Network> packed_network(int length, const Tree& tree, Direction direction, int width,
                                         Form form) {
-  const bool scalar_kernel = length <= longest_scalar;
   const bool mixed = length == 3 || length == 5;
   auto network = std::make_unique<Network>(width, mixed ? gen::Rounding::statement : gen::Rounding::each);
   gen::Lanes lanes(*network);
   Line x;
   for (int n = 0; n < length; ++n) x.push_back(gen::source_element(n));
-  Packed packed(lanes, form, scalar_kernel ? Five::outer_first : Five::inner_first);
+  Packed packed(lanes, form, {length, Precision::single});
   lanes.store(packed.transform(tree, {x}, direction).front());
   return network;
 }
@@ -62,22 +62,29 @@ std::unique_ptr<Network> single_network(int length, const Tree& tree, Direction 
   return gen::instructions(*split) < gen::instructions(*whole) ? std::move(split) : std::move(whole);
 }
 
-// The definition, as a real matrix on interleaved parts: exp(-+2 pi i n k/N).
-gen::Wide entry(int output, int input, int length, int sign) {
-  const auto angle = gen::turn(static_cast<long long>(sign) * (output / 2) * (input / 2), length);
-  const gen::Wide c = gen::cosine(angle).value, s = gen::sine(angle).value;
-  if (output % 2 == input % 2) return c;
-  return output % 2 == 0 ? -s : s;
+// dst[k] = sum over n of src[n] * exp(-+2 pi i n k/N), on interleaved parts.
+void definition(Direction direction, const std::vector<gen::Wide>& src, std::vector<gen::Wide>& dst) {
+  const std::size_t length = src.size() / 2;
+  std::vector<gen::ComplexConstant> roots;
+  for (std::size_t j = 0; j < length; ++j) {
+    roots.push_back(root(gen::turn(static_cast<long long>(j), static_cast<long long>(length)), direction));
+  }
+  dst.assign(dst.size(), 0);
+  for (std::size_t k = 0; k < length; ++k) {
+    for (std::size_t n = 0; n < length; ++n) {
+      const auto& [c, s] = roots[n * k % length];
+      dst[2 * k] += c.value * src[2 * n] - s.value * src[2 * n + 1];
+      dst[2 * k + 1] += s.value * src[2 * n] + c.value * src[2 * n + 1];
+    }
+  }
 }
 
 void check(const Kernel& kernel, Direction direction) {
-  const gen::Counts counts = gen::count(*kernel.network);
-  gen::check_counts(counts, kernel.adds, kernel.mults, kernel.name);
+  gen::check_counts(gen::count(*kernel.network), kernel.adds, kernel.mults, kernel.name);
   gen::check_memory(*kernel.network, kernel.read, kernel.written, kernel.name);
-  const gen::Definition forward = [](int k, int n, int length) { return entry(k, n, length, -1); };
-  const gen::Definition inverse = [](int k, int n, int length) { return entry(k, n, length, +1); };
-  gen::check_matrix(*kernel.network, direction == Direction::forward ? forward : inverse, kernel.length,
-                    kernel.read, kernel.written, kernel.name);
+  gen::check_definition(
+      *kernel.network, [&](const auto& src, auto& dst) { definition(direction, src, dst); }, kernel.read,
+      kernel.written, kernel.name);
 }
 
 }  // namespace
@@ -107,6 +114,7 @@ Kernel make_kernel(int length, Precision precision, Direction direction, const s
   const Tree parsed = gen::parse_tree(text);
   kernel.network =
       single ? single_network(length, parsed, direction) : lane_real_network(length, parsed, direction);
+  if (uses_rader_split(parsed)) kernel.network = gen::fold(*kernel.network);
   check(kernel, direction);
   return kernel;
 }

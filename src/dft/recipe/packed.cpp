@@ -1,8 +1,8 @@
 #include "src/dft/recipe/packed.h"
 
-#include <algorithm>
-#include <stdexcept>
+#include <map>
 
+#include "src/dft/recipe/lane_real.h"
 #include "src/dft/recipe/rules.h"
 
 namespace xfm::dft {
@@ -16,48 +16,50 @@ using gen::Tree;
 Batch Packed::transform(const Tree& tree, const Batch& x, Direction direction) {
   if (tree.rule == "PFA" || tree.rule == "CT") return two_stages(tree, x, direction);
   if (tree.rule == "R") return rader(tree.args.back(), x, direction);
-  const Block block = [&]() -> Block {
-    switch (length_of(tree)) {
-      case 2:
-        return [](const Points& z, Five) { return dft2(z); };
-      case 3:
-        return [](const Points& z, Five) { return dft3(z); };
-      case 4:
-        return [](const Points& z, Five) { return dft4(z); };
-      case 5:
-        return [](const Points& z, Five five) { return dft5(z, five); };
-      case 7:
-      case 11:
-        return [](const Points& z, Five) { return direct(z); };
-      default:
-        throw std::invalid_argument("no packed rule for " + to_string(tree));
-    }
-  }();
-  return each(x, block, direction);
+  if (tree.rule == "B") return bluestein(tree, x, direction);
+  const int length = length_of(tree);
+  return each(x, [&](const Points& z) { return LaneReal(choices_).block(length, z); }, direction);
 }
 
-// The block on all instances, as many at a time as there are lanes. The blocks are forward; an inverse one is
-// the exchange of real and imaginary parts around it, or the conjugate of its pairs (P, Q) in the whole form.
-Batch Packed::each(const Batch& x, Block block, Direction direction) {
+// The block on all instances, as many at a time as there are lanes. Instances whose inputs are zero at the same places
+// go together, so that a block computes nothing with zeros. The blocks are forward; an inverse one is the exchange of
+// real and imaginary parts around it, or the conjugate of its pairs (P, Q) in the whole form.
+Batch Packed::each(const Batch& x, const Block& block, Direction direction) {
   Batch out(x.size());
-  for (std::size_t start = 0; start < x.size();) {
-    const std::size_t count = std::min(lanes_.instances(form_), x.size() - start);
+  for (const std::vector<std::size_t>& group : groups(x)) {
     const bool exchange = direction == Direction::inverse && form_ == Form::split;
     Points inputs;
-    for (std::size_t j = 0; j < x[start].size(); ++j) {
-      std::vector<Element> group;
-      for (std::size_t l = 0; l < count; ++l) group.push_back(x[start + l][j]);
-      const Complex z = lanes_.gather(group, form_);
+    for (std::size_t j = 0; j < x[group[0]].size(); ++j) {
+      std::vector<Element> elements;
+      for (const std::size_t i : group) elements.push_back(x[i][j]);
+      const Complex z = elements[0].absent() ? Complex{} : lanes_.gather(elements, form_);
       inputs.push_back(exchange ? exchanged(z) : z);
     }
-    for (const Complex& z : block(inputs, five_)) {
+    for (const Complex& z : block(inputs)) {
       const Complex turned = exchange ? exchanged(z) : direction == Direction::inverse ? conjugate(z) : z;
-      const std::vector<Element> elements = lanes_.scatter(turned, count, form_);
-      for (std::size_t l = 0; l < count; ++l) out[start + l].push_back(elements[l]);
+      const std::vector<Element> elements = lanes_.scatter(turned, group.size(), form_);
+      for (std::size_t l = 0; l < group.size(); ++l) out[group[l]].push_back(elements[l]);
     }
-    start += count;
   }
   return out;
+}
+
+// Instances of the same pattern of zeros, in groups that fill the lanes.
+std::vector<std::vector<std::size_t>> Packed::groups(const Batch& x) const {
+  std::vector<std::vector<std::size_t>> groups;
+  std::map<std::vector<bool>, std::size_t> open;
+  for (std::size_t i = 0; i < x.size(); ++i) {
+    std::vector<bool> pattern;
+    for (const Element& e : x[i]) pattern.push_back(e.absent());
+    const auto found = open.find(pattern);
+    if (found != open.end() && groups[found->second].size() < lanes_.instances(form_)) {
+      groups[found->second].push_back(i);
+    } else {
+      open[pattern] = groups.size();
+      groups.push_back({i});
+    }
+  }
+  return groups;
 }
 
 }  // namespace xfm::dft

@@ -7,9 +7,11 @@
 // this is the plain composition.
 #pragma once
 
+#include <functional>
+
 #include "gen/lanes.h"
 #include "gen/tree.h"
-#include "src/dft/recipe/blocks.h"
+#include "src/dft/recipe/choices.h"
 #include "src/dft/recipe/rules.h"
 
 namespace xfm::dft {
@@ -19,19 +21,21 @@ using Batch = std::vector<Line>;         ///< like transforms, side by side
 
 class Packed {
  public:
-  Packed(gen::Lanes& lanes, gen::Form form, Five five) : lanes_(lanes), form_(form), five_(five) {}
+  Packed(gen::Lanes& lanes, gen::Form form, const Choices& choices) : lanes_(lanes), form_(form), choices_(choices) {}
 
   Batch transform(const gen::Tree& tree, const Batch& x, Direction direction);
 
  private:
-  using Block = Points (*)(const Points&, Five);
-  Batch each(const Batch& x, Block block, Direction direction);
+  using Block = std::function<Points(const Points&)>;
+  Batch each(const Batch& x, const Block& block, Direction direction);
+  std::vector<std::vector<std::size_t>> groups(const Batch& x) const;
   Batch two_stages(const gen::Tree& tree, const Batch& x, Direction direction);
   Batch rader(const gen::Tree& inner, const Batch& x, Direction direction);
+  Batch bluestein(const gen::Tree& tree, const Batch& x, Direction direction);
 
   gen::Lanes& lanes_;
   gen::Form form_;
-  Five five_;
+  Choices choices_;
 };
 
 }  // namespace xfm::dft

@@ -1,5 +1,7 @@
 #include "src/dft/recipe/rules.h"
 
+#include <algorithm>
+
 namespace xfm::dft {
 
 using gen::Tree;
@@ -14,7 +16,7 @@ gen::ComplexConstant turned(const gen::ComplexConstant& w, Direction direction) 
 
 int length_of(const Tree& tree) {
   if (tree.is_number()) return tree.number;
-  if (tree.rule == "R") return length_of(tree.args.back()) + 1;
+  if (tree.rule == "R" || tree.rule == "RS") return length_of(tree.args.back()) + 1;
   int product = 1;
   for (const Tree& arg : tree.args) product *= length_of(arg);
   return product;
@@ -25,6 +27,11 @@ Tree first_of(const Tree& tree) { return tree.args.front(); }
 Tree rest_of(const Tree& tree) {
   if (tree.args.size() == 2) return tree.args.back();
   return {tree.rule, 0, {tree.args.begin() + 1, tree.args.end()}};
+}
+
+bool uses_rader_split(const Tree& tree) {
+  if (tree.is_number()) return tree.number >= 13;
+  return tree.rule == "RS" || std::any_of(tree.args.begin(), tree.args.end(), uses_rader_split);
 }
 
 gen::TwoStages stages_of(const Tree& tree) {

@@ -10,10 +10,12 @@ using gen::root_of_unity;
 using gen::times_i;
 using gen::turn;
 
-Points split_radix(const Points& x) {
+namespace {
+
+Points split_radix(const Points& x, bool open) {
   if (x.size() == 1) return x;
-  if (x.size() == 2) return dft2(x);
-  if (x.size() == 4) return dft4(x);
+  if (x.size() == 2) return open ? x : dft2(x);
+  if (x.size() == 4 && !open) return dft4(x);
   const std::size_t n = x.size(), half = n / 2, quarter = n / 4;
   Points sums(half), first, third;
   for (std::size_t j = 0; j < quarter; ++j) {
@@ -28,7 +30,7 @@ Points split_radix(const Points& x) {
     third.push_back(w(3) * (difference + turned));
   }
   Points out(n);
-  const Points even = split_radix(sums), odd1 = split_radix(first), odd3 = split_radix(third);
+  const Points even = split_radix(sums, open), odd1 = split_radix(first, false), odd3 = split_radix(third, false);
   for (std::size_t k = 0; k < half; ++k) out[2 * k] = even[k];
   for (std::size_t k = 0; k < quarter; ++k) {
     out[4 * k + 1] = odd1[k];
@@ -36,5 +38,11 @@ Points split_radix(const Points& x) {
   }
   return out;
 }
+
+}  // namespace
+
+Points split_radix(const Points& x) { return split_radix(x, false); }
+
+Points open_split_radix(const Points& x) { return split_radix(x, true); }
 
 }  // namespace xfm::dft

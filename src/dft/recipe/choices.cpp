@@ -1,0 +1,56 @@
+#include "src/dft/recipe/choices.h"
+
+#include <algorithm>
+
+#include "gen/number.h"
+#include "src/dft/recipe/table.h"
+
+namespace xfm::dft {
+namespace {
+
+using gen::Precision;
+
+// Roots whose rounding errors stay lowest in binary32, found by trying all; elsewhere the smallest root serves.
+struct ChosenRoot {
+  int length, prime;
+  Root root;
+};
+constexpr ChosenRoot roots_single[] = {
+    {19, 19, {13, 0}}, {23, 23, {7, 0}}, {34, 17, {3, 3}}, {38, 19, {10, 0}}, {51, 17, {3, 3}}, {57, 19, {3, 0}},
+};
+
+}  // namespace
+
+const char* Choices::tree(int length) const {
+  const Row& of = row(length);
+  return precision_ == Precision::single ? of.single.tree : of.twofold.tree;
+}
+
+Five Choices::five(int index, bool real, bool transposed) const {
+  if (precision_ == Precision::single) {
+    if (length_ == 5) return Five::outer_first;
+    return length_ == 62 && !transposed ? Five::six_products : Five::inner_first;
+  }
+  switch (length_) {
+    case 10:
+      return Five::six_products;
+    case 35:
+      return index < 2 ? Five::five_products : Five::six_products;
+    case 41:
+    case 50:
+    case 60:
+      return real ? Five::six_products : Five::outer_first;
+    default:
+      return Five::outer_first;
+  }
+}
+
+Root Choices::root(int prime) const {
+  const auto chosen = std::find_if(std::begin(roots_single), std::end(roots_single), [&](const ChosenRoot& r) {
+    return r.length == length_ && r.prime == prime;
+  });
+  if (precision_ == Precision::single && chosen != std::end(roots_single)) return chosen->root;
+  return {gen::smallest_primitive_root(prime), 0};
+}
+
+}  // namespace xfm::dft
