@@ -161,7 +161,8 @@ void check_counts(const Counts& counts, int adds, int mults, const std::string& 
 void check_definition(const Network& network, const Definition& definition, int read, int written,
                       const std::string& name) {
   Interpreter<Wide> interpreter(network);
-  std::vector<Wide> src(static_cast<std::size_t>(read)), dst(static_cast<std::size_t>(written)), expected(dst.size());
+  std::vector<Wide> src(static_cast<std::size_t>(read)), dst(static_cast<std::size_t>(written)),
+      expected(dst.size());
   unsigned state = 1;  // a linear congruential generator: the same vectors in every build
   for (int round = 0; round < 2; ++round) {
     for (Wide& v : src) {

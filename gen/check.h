@@ -28,6 +28,7 @@ void check_counts(const Counts& counts, int adds, int mults, const std::string& 
 
 /// The network against a definition, in binary128 on a few fixed vectors. The definition maps src to dst.
 using Definition = std::function<void(const std::vector<Wide>& src, std::vector<Wide>& dst)>;
-void check_definition(const Network& network, const Definition& definition, int read, int written, const std::string& name);
+void check_definition(const Network& network, const Definition& definition, int read, int written,
+                      const std::string& name);
 
 }  // namespace xfm::gen

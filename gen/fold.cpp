@@ -10,10 +10,11 @@ Constant times(const Constant& a, const Constant& b) {
   if (b.is_zero() || a.is_one()) return b;
   const bool negative = a.is_negative() != b.is_negative();
   const Constant u = magnitude(a), v = magnitude(b);
-  const Constant product = u.is_one()   ? v
-                           : v.is_one() ? u
-                                        : constant(u.name < v.name ? u.name + " x " + v.name : v.name + " x " + u.name,
-                                                   u.value * v.value);
+  const Constant product =
+      u.is_one() ? v
+      : v.is_one()
+          ? u
+          : constant(u.name < v.name ? u.name + " x " + v.name : v.name + " x " + u.name, u.value * v.value);
   return negative ? -product : product;
 }
 
@@ -104,7 +105,8 @@ class Folding {
 
   Value scaled(NodeId id, const Constants& c) {
     const Node& node = old_.node(id);
-    if (vanishes(id) || (is_product(id) && distributes(id))) return scaled(node.in[0], times(c, node.constants));
+    if (vanishes(id) || (is_product(id) && distributes(id)))
+      return scaled(node.in[0], times(c, node.constants));
     if (is_sum(id) && distributes(id)) {
       const Value a = scaled(node.in[0], c), b = scaled(node.in[1], c);
       return node.op == Op::add ? a + b : a - b;

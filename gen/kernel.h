@@ -25,7 +25,8 @@ struct ElementType {
 };
 
 struct Kernel {
-  std::string name;  ///< exported name
+  std::string name;    ///< exported name
+  std::string family;  ///< its part between the prefix and the length
   ElementType type;
   Scaling scaling;
   int length;

@@ -1,8 +1,9 @@
 // Transposition of a real network: the network that maps weights on its outputs to weights on its inputs.
 //
-// For y = A x the transpose computes A^T w at the same cost (Tellegen's principle; Bernstein 2006 for its history).
-// Walking from the outputs to the inputs, each node's value is the sum of what its users send: an addition sends its
-// value to both operands, a subtraction sends it to one and its negative to the other, a product sends it multiplied.
+// For y = A x the transpose computes A^T w at the same cost (Tellegen's principle; Bernstein 2006 for its
+// history). Walking from the outputs to the inputs, each node's value is the sum of what its users send: an
+// addition sends its value to both operands, a subtraction sends it to one and its negative to the other, a
+// product sends it multiplied.
 #pragma once
 
 #include <vector>

@@ -75,7 +75,7 @@ const xfmLibraryVersion* xfmGetLibVersion(void);
  * xfmDFTFwd_CToC_N_TYPE
  * @{ */
 /**
- * Forward complex DFT of length N.
+ * Forward complex DFT of length N, 2 to 64.
  *
  *     dst[k] = s * sum over n of src[n] * exp(-2 pi i n k / N),   n, k = 0 .. N-1
  *
@@ -88,11 +88,12 @@ const xfmLibraryVersion* xfmGetLibVersion(void);
  * | XFM_SCALE_BY_SQRT_N   | 1/sqrt(N) |
  * | XFM_SCALE_NONE        | 1         |
  *
- * Both arrays may have any alignment; multiples of 16 are fastest, and the bits do not depend on it. src and dst may
- * overlap in any way: all input is read before the first output is written.
- * Errors, in the order of the tests: the generic function xfmStsBadSize (length not served); then xfmStsNullPtr (src or
- * dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
- * Sources: Cooley and Tukey 1965; Good 1958; Rader 1968; Yavne 1968; Duhamel and Hollmann 1984.
+ * Every output is multiplied by s as its last step, also by 1. Both arrays may have any alignment; multiples of 16 are
+ * fastest, and the bits do not depend on it. src and dst may overlap in any way: all input is read before the first
+ * output is written, and dst is never read.
+ * Errors, in the order of the tests: a generic function gives xfmStsBadSize for a length that is not served; then
+ * xfmStsNullPtr (src or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
+ * Sources: Cooley and Tukey 1965; Good 1958; Rader 1968; Yavne 1968; Bluestein 1970.
  */
 xfmStatus xfmDFTFwd_CToC_32fc(const xfm32fc* src, xfm32fc* dst, int32_t length, int32_t flag);
 xfmStatus xfmDFTFwd_CToC_2_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
@@ -104,8 +105,60 @@ xfmStatus xfmDFTFwd_CToC_7_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
 xfmStatus xfmDFTFwd_CToC_8_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
 xfmStatus xfmDFTFwd_CToC_9_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
 xfmStatus xfmDFTFwd_CToC_10_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_11_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
 xfmStatus xfmDFTFwd_CToC_12_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_13_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_14_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_15_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
 xfmStatus xfmDFTFwd_CToC_16_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_17_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_18_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_19_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_20_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_21_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_22_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_23_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_24_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_25_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_26_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_27_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_28_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_29_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_30_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_31_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_32_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_33_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_34_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_35_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_36_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_37_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_38_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_39_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_40_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_41_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_42_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_43_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_44_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_45_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_46_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_47_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_48_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_49_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_50_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_51_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_52_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_53_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_54_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_55_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_56_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_57_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_58_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_59_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_60_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_61_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_62_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_63_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_64_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
 xfmStatus xfmDFTFwd_CToC_64fc(const xfm64fc* src, xfm64fc* dst, int32_t length, int32_t flag);
 xfmStatus xfmDFTFwd_CToC_2_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
 xfmStatus xfmDFTFwd_CToC_3_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
@@ -116,8 +169,214 @@ xfmStatus xfmDFTFwd_CToC_7_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
 xfmStatus xfmDFTFwd_CToC_8_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
 xfmStatus xfmDFTFwd_CToC_9_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
 xfmStatus xfmDFTFwd_CToC_10_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_11_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
 xfmStatus xfmDFTFwd_CToC_12_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_13_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_14_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_15_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
 xfmStatus xfmDFTFwd_CToC_16_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_17_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_18_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_19_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_20_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_21_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_22_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_23_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_24_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_25_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_26_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_27_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_28_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_29_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_30_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_31_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_32_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_33_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_34_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_35_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_36_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_37_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_38_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_39_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_40_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_41_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_42_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_43_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_44_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_45_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_46_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_47_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_48_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_49_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_50_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_51_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_52_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_53_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_54_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_55_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_56_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_57_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_58_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_59_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_60_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_61_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_62_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_63_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTFwd_CToC_64_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+/** @} */
+
+/** @name DFTInv_CToC
+ * xfmDFTInv_CToC_N_TYPE
+ * @{ */
+/**
+ * Inverse complex DFT of length N, 2 to 64.
+ *
+ *     dst[n] = s * sum over k of src[k] * exp(+2 pi i n k / N),   n, k = 0 .. N-1
+ *
+ * Reads N complex elements of src, writes N complex elements of dst, in natural order.
+ *
+ * | flag                  | factor s  |
+ * |-----------------------|-----------|
+ * | XFM_SCALE_FWD_BY_N    | 1         |
+ * | XFM_SCALE_INV_BY_N    | 1/N       |
+ * | XFM_SCALE_BY_SQRT_N   | 1/sqrt(N) |
+ * | XFM_SCALE_NONE        | 1         |
+ *
+ * Every output is multiplied by s as its last step, also by 1. Both arrays may have any alignment; multiples of 16 are
+ * fastest, and the bits do not depend on it. src and dst may overlap in any way: all input is read before the first
+ * output is written, and dst is never read.
+ * Errors, in the order of the tests: a generic function gives xfmStsBadSize for a length that is not served; then
+ * xfmStsNullPtr (src or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
+ * Sources: Cooley and Tukey 1965; Good 1958; Rader 1968; Yavne 1968; Bluestein 1970.
+ */
+xfmStatus xfmDFTInv_CToC_32fc(const xfm32fc* src, xfm32fc* dst, int32_t length, int32_t flag);
+xfmStatus xfmDFTInv_CToC_2_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_3_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_4_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_5_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_6_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_7_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_8_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_9_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_10_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_11_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_12_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_13_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_14_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_15_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_16_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_17_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_18_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_19_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_20_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_21_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_22_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_23_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_24_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_25_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_26_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_27_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_28_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_29_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_30_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_31_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_32_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_33_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_34_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_35_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_36_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_37_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_38_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_39_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_40_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_41_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_42_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_43_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_44_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_45_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_46_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_47_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_48_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_49_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_50_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_51_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_52_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_53_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_54_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_55_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_56_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_57_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_58_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_59_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_60_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_61_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_62_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_63_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_64_32fc(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_64fc(const xfm64fc* src, xfm64fc* dst, int32_t length, int32_t flag);
+xfmStatus xfmDFTInv_CToC_2_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_3_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_4_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_5_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_6_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_7_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_8_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_9_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_10_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_11_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_12_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_13_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_14_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_15_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_16_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_17_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_18_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_19_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_20_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_21_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_22_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_23_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_24_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_25_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_26_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_27_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_28_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_29_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_30_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_31_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_32_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_33_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_34_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_35_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_36_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_37_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_38_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_39_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_40_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_41_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_42_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_43_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_44_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_45_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_46_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_47_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_48_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_49_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_50_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_51_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_52_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_53_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_54_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_55_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_56_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_57_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_58_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_59_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_60_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_61_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_62_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_63_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+xfmStatus xfmDFTInv_CToC_64_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
 /** @} */
 
 #if defined(__GNUC__)

@@ -61,17 +61,17 @@ std::string scaling_name(gen::Scaling scaling) {
   }
 }
 
-std::string catalogue_row(const Family& family, const ElementType& type, int length) {
-  const Kernel kernel = family.make(length, type.precision, "");
+std::string catalogue_row(const Kernel& kernel) {
   const gen::Counts counts = count(*kernel.network);
-  const bool pairs = kernel.network->width() == 2;
-  return fmt::format(
-      "    {{\"{0}\", \"{1}\", \"{2}\", Precision::{3}, {4}, {5}, {6}, {7}, {8}, {9}, {9}, \"{10}\", {11}, "
-      "{12}, {13}, {14}, &call<{0}>}},\n",
-      kernel.name, family.name, type.suffix(),
-      type.precision == gen::Precision::single ? "single" : "twofold", scaling_name(kernel.scaling),
-      kernel.length, kernel.read, kernel.written, pairs ? counts.exchanges : -1, kernel.packed(), kernel.tree,
-      kernel.adds, kernel.mults, counts.add_nodes, counts.mult_nodes);
+  const int exchanges = kernel.network->width() == 2 ? counts.exchanges : -1;
+  std::string row =
+      fmt::format("    {{\"{}\", \"{}\", \"{}\", ", kernel.name, kernel.family, kernel.type.suffix());
+  row += kernel.type.precision == gen::Precision::single ? "Precision::single, " : "Precision::twofold, ";
+  row += fmt::format("{}, {}, {}, {}, {}, ", scaling_name(kernel.scaling), kernel.length, kernel.read,
+                     kernel.written, exchanges);
+  row +=
+      fmt::format("{0}, {0}, \"{1}\", {2}, {3}, ", kernel.packed(), kernel.tree, kernel.adds, kernel.mults);
+  return row + fmt::format("{}, {}, &call<{}>}},\n", counts.add_nodes, counts.mult_nodes, kernel.name);
 }
 
 }  // namespace
@@ -111,10 +111,10 @@ std::string generic_functions() {
   return text;
 }
 
-std::string catalogue() {
+std::string catalogue(std::span<const Kernel> all) {
   std::string kernels, generics;
+  for (const Kernel& kernel : all) kernels += catalogue_row(kernel);
   for_each_type([&](const Family& family, const ElementType& type) {
-    for (const int length : family.lengths) kernels += catalogue_row(family, type, length);
     generics += fmt::format("    {{\"{0}\", \"{1}\", \"{2}\", {3}, {4}, &call_generic<{0}>}},\n",
                             family.generic(type), family.name, type.suffix(), family.lowest, family.highest);
   });

@@ -1,7 +1,10 @@
 // Everything that is written from the list of families and is not a kernel.
 #pragma once
 
+#include <span>
 #include <string>
+
+#include "gen/kernel.h"
 
 namespace xfm {
 
@@ -15,6 +18,6 @@ std::string export_map();
 std::string generic_functions();
 
 /// The tables behind catalogue.h.
-std::string catalogue();
+std::string catalogue(std::span<const gen::Kernel> kernels);
 
 }  // namespace xfm

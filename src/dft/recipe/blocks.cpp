@@ -36,7 +36,8 @@ Points dft5(const Points& x, Five form) {
     const Complex s = a1 + a2;
     const Complex t = x[0] - Complex(quarter * s), w = root * (a1 - a2);
     const Complex t1 = t + w, t2 = t - w;
-    // (u1, u2) is (b1, b2) turned and stretched; a rotation takes three products where an addition more is cheaper.
+    // (u1, u2) is (b1, b2) turned and stretched; a rotation takes three products where an addition more is
+    // cheaper.
     Complex u1 = sum({s1 * b1, s2 * b2}), u2 = sum({s1 * b2, -(s2 * b1)});
     if (form == Five::five_products) {
       const Complex m = s2 * (b1 + b2);

@@ -11,9 +11,9 @@ using gen::Points;
 
 /// The forms of the length-5 block; they differ in rounding and cost only.
 enum class Five {
-  outer_first,   ///< X0 = (x0 + a1) + a2, eight products a part: the kernels of length 5
-  inner_first,   ///< X0 = (a1 + a2) + x0, eight products a part: inside packed kernels
-  six_products,  ///< the sum and the difference of the cosines share their products: six a part
+  outer_first,    ///< X0 = (x0 + a1) + a2, eight products a part: the kernels of length 5
+  inner_first,    ///< X0 = (a1 + a2) + x0, eight products a part: inside packed kernels
+  six_products,   ///< the sum and the difference of the cosines share their products: six a part
   five_products,  ///< and the rotation of the sines takes three: five a part
 };
 

@@ -10,13 +10,15 @@ namespace {
 
 using gen::Precision;
 
-// Roots whose rounding errors stay lowest in binary32, found by trying all; elsewhere the smallest root serves.
+// Roots whose rounding errors stay lowest in binary32, found by trying all; elsewhere the smallest root
+// serves.
 struct ChosenRoot {
   int length, prime;
   Root root;
 };
 constexpr ChosenRoot roots_single[] = {
-    {19, 19, {13, 0}}, {23, 23, {7, 0}}, {34, 17, {3, 3}}, {38, 19, {10, 0}}, {51, 17, {3, 3}}, {57, 19, {3, 0}},
+    {19, 19, {13, 0}}, {23, 23, {7, 0}}, {34, 17, {3, 3}},
+    {38, 19, {10, 0}}, {51, 17, {3, 3}}, {57, 19, {3, 0}},
 };
 
 }  // namespace
@@ -46,9 +48,9 @@ Five Choices::five(int index, bool real, bool transposed) const {
 }
 
 Root Choices::root(int prime) const {
-  const auto chosen = std::find_if(std::begin(roots_single), std::end(roots_single), [&](const ChosenRoot& r) {
-    return r.length == length_ && r.prime == prime;
-  });
+  const auto chosen =
+      std::find_if(std::begin(roots_single), std::end(roots_single),
+                   [&](const ChosenRoot& r) { return r.length == length_ && r.prime == prime; });
   if (precision_ == Precision::single && chosen != std::end(roots_single)) return chosen->root;
   return {gen::smallest_primitive_root(prime), 0};
 }

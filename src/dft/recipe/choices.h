@@ -1,4 +1,5 @@
-// Choices inside a kernel that its breakdown leaves open: forms of the length-5 block, primitive roots. Data only.
+// Choices inside a kernel that its breakdown leaves open: forms of the length-5 block, primitive roots. Data
+// only.
 #pragma once
 
 #include "gen/kernel.h"
@@ -6,8 +7,8 @@
 
 namespace xfm::dft {
 
-/// The root g of a Rader convolution, and how far its outputs are shifted along the powers of 1/g. Any choice gives
-/// the same transform at the same cost; only rounding differs.
+/// The root g of a Rader convolution, and how far its outputs are shifted along the powers of 1/g. Any choice
+/// gives the same transform at the same cost; only rounding differs.
 struct Root {
   int g;
   int shift;
@@ -23,8 +24,8 @@ class Choices {
   /// The breakdown of a composite length in this precision, for the inner transforms of Rader's algorithm.
   const char* tree(int length) const;
 
-  /// The form of the kernel's next length-5 block, counted from 0 in the order of the recipe, on real or complex
-  /// sequences; `transposed` blocks run from outputs to inputs.
+  /// The form of the kernel's next length-5 block, counted from 0 in the order of the recipe, on real or
+  /// complex sequences; `transposed` blocks run from outputs to inputs.
   Five five(int index, bool real, bool transposed) const;
 
   Root root(int prime) const;

@@ -100,6 +100,7 @@ Kernel make_kernel(int length, Precision precision, Direction direction, const s
   const Breakdown& breakdown = single ? row(length).single : row(length).twofold;
   const std::string text = tree.empty() ? breakdown.tree : tree;
   Kernel kernel{.name = "",
+                .family = forward ? "DFTFwd_CToC" : "DFTInv_CToC",
                 .type = {precision, true},
                 .scaling = forward ? gen::Scaling::forward : gen::Scaling::inverse,
                 .length = length,
@@ -109,8 +110,7 @@ Kernel make_kernel(int length, Precision precision, Direction direction, const s
                 .adds = breakdown.adds,
                 .mults = breakdown.mults,
                 .network = nullptr};
-  kernel.name = std::string("xfmDFT") + (forward ? "Fwd" : "Inv") + "_CToC_" + std::to_string(length) + "_" +
-                kernel.type.suffix();
+  kernel.name = "xfm" + kernel.family + "_" + std::to_string(length) + "_" + kernel.type.suffix();
   const Tree parsed = gen::parse_tree(text);
   kernel.network =
       single ? single_network(length, parsed, direction) : lane_real_network(length, parsed, direction);

@@ -1,8 +1,9 @@
 // The lane-real arithmetic: a tree run on whole complex numbers with real coefficients only.
 //
-// Every value is a pair (P, Q) for P + i*Q, where P and Q are nodes that carry complex numbers in their lanes. Inputs
-// are real in this sense, so spectra are conjugate symmetric, X[N-k] = (P, -Q), and only half of each stage is ever
-// computed. A factor i is the Q half, i*i is a sign, and the pairs join once, at the outputs: X[k] = P + i*Q.
+// Every value is a pair (P, Q) for P + i*Q, where P and Q are nodes that carry complex numbers in their
+// lanes. Inputs are real in this sense, so spectra are conjugate symmetric, X[N-k] = (P, -Q), and only half
+// of each stage is ever computed. A factor i is the Q half, i*i is a sign, and the pairs join once, at the
+// outputs: X[k] = P + i*Q.
 #pragma once
 
 #include "gen/complex.h"
@@ -13,7 +14,8 @@ namespace xfm::dft {
 
 class LaneReal {
  public:
-  explicit LaneReal(const Choices& choices, bool transposed = false) : choices_(choices), transposed_(transposed) {}
+  explicit LaneReal(const Choices& choices, bool transposed = false)
+      : choices_(choices), transposed_(transposed) {}
 
   Points transform(const gen::Tree& tree, const Points& x) const;
 
@@ -33,7 +35,8 @@ class LaneReal {
 /// Split radix for 4, 8 and 16 points.
 Points split_radix(const Points& x);
 
-/// Split radix whose last stage of two is left open for outputs 0 and N/2: their operands stand in their places.
+/// Split radix whose last stage of two is left open for outputs 0 and N/2: their operands stand in their
+/// places.
 Points open_split_radix(const Points& x);
 
 }  // namespace xfm::dft

@@ -18,12 +18,14 @@ Batch Packed::transform(const Tree& tree, const Batch& x, Direction direction) {
   if (tree.rule == "R") return rader(tree.args.back(), x, direction);
   if (tree.rule == "B") return bluestein(tree, x, direction);
   const int length = length_of(tree);
-  return each(x, [&](const Points& z) { return LaneReal(choices_).block(length, z); }, direction);
+  return each(
+      x, [&](const Points& z) { return LaneReal(choices_).block(length, z); }, direction);
 }
 
-// The block on all instances, as many at a time as there are lanes. Instances whose inputs are zero at the same places
-// go together, so that a block computes nothing with zeros. The blocks are forward; an inverse one is the exchange of
-// real and imaginary parts around it, or the conjugate of its pairs (P, Q) in the whole form.
+// The block on all instances, as many at a time as there are lanes. Instances whose inputs are zero at the
+// same places go together, so that a block computes nothing with zeros. The blocks are forward; an inverse
+// one is the exchange of real and imaginary parts around it, or the conjugate of its pairs (P, Q) in the
+// whole form.
 Batch Packed::each(const Batch& x, const Block& block, Direction direction) {
   Batch out(x.size());
   for (const std::vector<std::size_t>& group : groups(x)) {

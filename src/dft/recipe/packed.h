@@ -21,7 +21,8 @@ using Batch = std::vector<Line>;         ///< like transforms, side by side
 
 class Packed {
  public:
-  Packed(gen::Lanes& lanes, gen::Form form, const Choices& choices) : lanes_(lanes), form_(form), choices_(choices) {}
+  Packed(gen::Lanes& lanes, gen::Form form, const Choices& choices)
+      : lanes_(lanes), form_(form), choices_(choices) {}
 
   Batch transform(const gen::Tree& tree, const Batch& x, Direction direction);
 

@@ -30,16 +30,17 @@ ComplexConstant root_spectrum(int n, Root root, int r, int times = 1) {
   Wide re = 0, im = 0;
   for (int q = 0; q < m; ++q) {
     // exp(-2 pi i (g'^q/N + q r/M)) as one exact fraction of the circle
-    const auto angle =
-        turn(static_cast<long long>(gen::power_modulo(inverse, q + root.shift, n)) * m + static_cast<long long>(q) * r * n,
-             static_cast<long long>(n) * m);
+    const auto angle = turn(static_cast<long long>(gen::power_modulo(inverse, q + root.shift, n)) * m +
+                                static_cast<long long>(q) * r * n,
+                            static_cast<long long>(n) * m);
     re += gen::cosine(angle).value;
     im -= gen::sine(angle).value;
   }
   const auto half = [&](const char* part, Wide value) -> gen::Constant {
     if (gen::wide_abs(value) < Wide(1e-25)) return {"0", 0};
-    return gen::constant(fmt::format("rader {} {} {} {} {}{}", n, root.g, root.shift, part, r, times == 1 ? "" : " doubled"),
-                         Wide(times) * value / Wide(m));
+    return gen::constant(
+        fmt::format("rader {} {} {} {} {}{}", n, root.g, root.shift, part, r, times == 1 ? "" : " doubled"),
+        Wide(times) * value / Wide(m));
   };
   return {half("re", re), half("im", im)};
 }
@@ -91,16 +92,17 @@ Batch Packed::rader(const Tree& inner, const Batch& x, Direction direction) {
   return out;
 }
 
-// On real sequences: the inner transform gives A[r] = C[r] - i*S[r] for r = 0..M/2. Since g^(M/2) = -1, B[M-r] is
-// conj(B[r]) for even r and -conj(B[r]) for odd r; so even r give the cosine part P of the outputs, odd r the sine
-// part Q, and the two never meet before the join. With beta, gamma the doubled parts of B[r],
+// On real sequences: the inner transform gives A[r] = C[r] - i*S[r] for r = 0..M/2. Since g^(M/2) = -1,
+// B[M-r] is conj(B[r]) for even r and -conj(B[r]) for odd r; so even r give the cosine part P of the outputs,
+// odd r the sine part Q, and the two never meet before the join. With beta, gamma the doubled parts of B[r],
 //   z1 = beta*C + gamma*S,  z2 = gamma*C - beta*S
 // are the weights of cos and sin in the inverse transform, which is the forward network transposed.
 Points LaneReal::rader(const Tree& inner, const Points& x) const {
   const int m = length_of(inner), n = m + 1, h = m / 2;
   const Root root = choices_.root(n);
   Points permuted;
-  for (int q = 0; q < m; ++q) permuted.push_back(x[static_cast<std::size_t>(gen::power_modulo(root.g, q, n))]);
+  for (int q = 0; q < m; ++q)
+    permuted.push_back(x[static_cast<std::size_t>(gen::power_modulo(root.g, q, n))]);
   const Points spectrum = transform(inner, permuted);
 
   gen::Network forward(1);
@@ -129,7 +131,8 @@ Points LaneReal::rader(const Tree& inner, const Points& x) const {
   out[0] = x[0] + sum;
   const int step = gen::inverse_modulo(root.g, n);
   for (int p = 0; p < m; ++p) {
-    out[static_cast<std::size_t>(gen::power_modulo(step, p + root.shift, n))] = convolution[static_cast<std::size_t>(p)];
+    out[static_cast<std::size_t>(gen::power_modulo(step, p + root.shift, n))] =
+        convolution[static_cast<std::size_t>(p)];
   }
   return out;
 }

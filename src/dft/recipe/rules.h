@@ -26,7 +26,8 @@ int length_of(const gen::Tree& tree);
 gen::Tree first_of(const gen::Tree& tree);
 gen::Tree rest_of(const gen::Tree& tree);
 
-/// Whether some prime of the tree is done by Rader's algorithm in split form: named so, or as a number from 13 up.
+/// Whether some prime of the tree is done by Rader's algorithm in split form: named so, or as a number from
+/// 13 up.
 bool uses_rader_split(const gen::Tree& tree);
 
 /// The index maps of CT(a,b) and PFA(a,b).

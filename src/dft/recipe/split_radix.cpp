@@ -30,7 +30,8 @@ Points split_radix(const Points& x, bool open) {
     third.push_back(w(3) * (difference + turned));
   }
   Points out(n);
-  const Points even = split_radix(sums, open), odd1 = split_radix(first, false), odd3 = split_radix(third, false);
+  const Points even = split_radix(sums, open), odd1 = split_radix(first, false),
+               odd3 = split_radix(third, false);
   for (std::size_t k = 0; k < half; ++k) out[2 * k] = even[k];
   for (std::size_t k = 0; k < quarter; ++k) {
     out[4 * k + 1] = odd1[k];

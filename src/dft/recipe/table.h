@@ -16,9 +16,9 @@ struct Row {
   Breakdown twofold;  ///< _64fc
 };
 
-/// All rows, in the order of length. Rules, the first argument nearest the input: CT Cooley-Tukey, PFA Good-Thomas, PFA*
-/// with its last stage of two delayed, SR split radix, D direct symmetric, R Rader, RS Rader in split form, B Bluestein
-/// with the trees there and back. A number is a block of that length.
+/// All rows, in the order of length. Rules, the first argument nearest the input: CT Cooley-Tukey, PFA
+/// Good-Thomas, PFA* with its last stage of two delayed, SR split radix, D direct symmetric, R Rader, RS
+/// Rader in split form, B Bluestein with the trees there and back. A number is a block of that length.
 std::span<const Row> table();
 
 /// The row of a length; throws std::out_of_range if there is none.

@@ -18,8 +18,8 @@ using gen::Tree;
 using gen::turn;
 using gen::TwoStages;
 
-// On real sequences the rows k1 above a/2 are conjugates of those below: they are not computed, but read off as X[N-k].
-// Good-Thomas also takes complex ones.
+// On real sequences the rows k1 above a/2 are conjugates of those below: they are not computed, but read off
+// as X[N-k]. Good-Thomas also takes complex ones.
 Points LaneReal::two_stages(const Tree& tree, const Points& x) const {
   const TwoStages map = stages_of(tree);
   const int n = map.a * map.b;
