@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <set>
+#include <stdexcept>
 
 #include "gen/check.h"
 #include "gen/schedule.h"
@@ -264,10 +265,12 @@ std::string SharedConstants::use(const Constant& c, const Kernel& kernel) {
   const bool pair = kernel.network->width() == 2;
   const std::string name = fmt::format("xfm_{}_{}", pair ? "pair" : "quad", identifier(c.name));
   const std::string value = literal(c.value, kernel.type.precision);
-  definitions_[name] =
+  const std::string definition =
       fmt::format("extern \"C\" XFM_CONSTANT {} {} = {{{}}};  // {:.17g}\n", register_type(kernel), name,
                   pair ? fmt::format("{0}, {0}", value) : fmt::format("{0}, {0}, {0}, {0}", value),
                   static_cast<double>(c.value));
+  const auto [known, fresh] = definitions_.try_emplace(name, definition);
+  if (!fresh && known->second != definition) throw std::logic_error(kernel.name + ": two constants of the name " + name);
   return name;
 }
 

@@ -41,8 +41,8 @@ Points dft5(const Points& x, Five form) {
     Complex u1 = sum({s1 * b1, s2 * b2}), u2 = sum({s1 * b2, -(s2 * b1)});
     if (form == Five::five_products) {
       const Complex m = s2 * (b1 + b2);
-      u1 = Complex(gen::constant("sin 1/5 - sin 2/5", s1.value - s2.value) * b1) + m;
-      u2 = Complex(gen::constant("sin 1/5 + sin 2/5", s1.value + s2.value) * b2) - m;
+      u1 = Complex(gen::constant("sin 1/5 minus sin 2/5", s1.value - s2.value) * b1) + m;
+      u2 = Complex(gen::constant("sin 1/5 plus sin 2/5", s1.value + s2.value) * b2) - m;
     }
     return {x[0] + s, t1 - times_i(u1), t2 + times_i(u2), t2 - times_i(u2), t1 + times_i(u1)};
   }
