@@ -1,0 +1,21 @@
+// Data on which a difference of one bit shows: where rounding, signs of zero, or the limits of a format
+// matter.
+#pragma once
+
+#include <span>
+
+#include "tests/support/random.h"
+
+namespace xfm::test {
+
+struct Data {
+  const char* name;
+  double (*draw)(Random& random, Precision precision);
+  bool overflows = false;  ///< some sums are infinite, and some of their sums not a number
+};
+
+std::span<const Data> all_data();
+
+Array draw(const Data& data, Random& random, Precision precision, int count);
+
+}  // namespace xfm::test

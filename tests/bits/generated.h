@@ -1,0 +1,12 @@
+// From a kernel of the catalogue to what the generator makes of its row.
+#pragma once
+
+#include "gen/kernel.h"
+#include "tools/catalogue.h"
+
+namespace xfm::test {
+
+/// The kernel with its network, by the row; throws where the list of families does not know it.
+gen::Kernel generated(const catalogue::Kernel& kernel);
+
+}  // namespace xfm::test

@@ -1,0 +1,54 @@
+// Every compiled kernel equals its network, run by the interpreter, to the bit: so a kernel that fails here
+// was written or compiled wrongly, and one that fails elsewhere has the wrong network.
+#include "gen/evaluate.h"
+#include "tests/bits/data.h"
+#include "tests/bits/generated.h"
+#include "tests/bits/same_values.h"
+#include "tests/support/kernel_test.h"
+#include "tests/support/reference.h"
+
+namespace xfm::test {
+namespace {
+
+class Interpreted : public KernelTest {
+ protected:
+  Array interpret(const gen::Network& network, const Array& src, double factor) const {
+    Array dst = output();
+    dst.fill(Poison::quiet_nan);
+    if (kernel().precision == Precision::single) {
+      run<float>(network, src, dst, factor);
+    } else {
+      run<double>(network, src, dst, factor);
+    }
+    return dst;
+  }
+
+ private:
+  template <class T>
+  static void run(const gen::Network& network, const Array& src, Array& dst, double factor) {
+    gen::evaluate(network, static_cast<const T*>(src.data()), static_cast<T*>(dst.data()),
+                  static_cast<T>(factor));
+  }
+};
+
+TEST_P(Interpreted, EqualsTheKernel) {
+  constexpr int rounds = 3;
+  const gen::Kernel made = generated(kernel());
+  ASSERT_EQ(made.name, kernel().name);
+  ASSERT_EQ(made.tree, kernel().tree);
+  for (const Data& data : all_data()) {
+    for (int round = 0; round < rounds; ++round) {
+      const Array src = draw(data, random, kernel().precision, kernel().read);
+      for (const std::int32_t flag : flags) {
+        const Array expected = interpret(*made.network, src, factor(kernel(), flag));
+        ASSERT_TRUE(same_values(separate(src, flag), expected, Zeros::as_they_are))
+            << data.name << " data, round " << round << ", flag " << flag;
+      }
+    }
+  }
+}
+
+XFM_FOR_ALL_KERNELS(Interpreted);
+
+}  // namespace
+}  // namespace xfm::test

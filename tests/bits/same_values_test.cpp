@@ -1,0 +1,44 @@
+// The comparison that all tests of bits rest on sees one bit, and a sign of zero where it matters.
+#include "tests/bits/same_values.h"
+
+#include <cmath>
+#include <limits>
+
+namespace xfm::test {
+namespace {
+
+testing::AssertionResult compare(Precision precision, double got, double expected, Zeros zeros) {
+  Array a(precision, 3), b(precision, 3);
+  a.fill(1.0);
+  b.fill(1.0);
+  a.set(2, got);
+  b.set(2, expected);
+  return same_values(a, b, zeros);
+}
+
+TEST(SameValues, SeesOneBit) {
+  for (const Zeros zeros : {Zeros::as_they_are, Zeros::alike}) {
+    EXPECT_TRUE(compare(Precision::single, 0.1, 0.1, zeros));
+    EXPECT_FALSE(compare(Precision::single, 1, 1 + 0x1p-23, zeros));
+    EXPECT_FALSE(compare(Precision::twofold, 1, 1 + 0x1p-52, zeros));
+    EXPECT_FALSE(compare(Precision::single, 0x1p-149, 0, zeros));
+    EXPECT_FALSE(compare(Precision::twofold, 1, -1, zeros));
+  }
+}
+
+TEST(SameValues, SignsOfZero) {
+  EXPECT_FALSE(compare(Precision::single, 0.0, -0.0, Zeros::as_they_are));
+  EXPECT_FALSE(compare(Precision::twofold, -0.0, 0.0, Zeros::as_they_are));
+  EXPECT_TRUE(compare(Precision::single, 0.0, -0.0, Zeros::alike));
+  EXPECT_TRUE(compare(Precision::twofold, -0.0, -0.0, Zeros::as_they_are));
+}
+
+TEST(SameValues, NotANumber) {
+  const double nan = std::numeric_limits<double>::quiet_NaN();
+  EXPECT_TRUE(compare(Precision::twofold, nan, std::copysign(nan, -1.0), Zeros::as_they_are));
+  EXPECT_FALSE(compare(Precision::single, nan, 1, Zeros::alike));
+  EXPECT_FALSE(compare(Precision::single, 1, nan, Zeros::alike));
+}
+
+}  // namespace
+}  // namespace xfm::test
