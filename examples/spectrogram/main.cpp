@@ -23,7 +23,7 @@ struct Options {
   // gamine-data.
   std::string sound = "/usr/share/games/gamine/sounds/BachJSBrandenburgConcertNo2inFMajorBWV1047mvmt1.ogg";
   std::string picture = "spectrogram.png";
-  int length = longestLength();
+  int length = longest_length();
 };
 
 struct Band {
@@ -78,7 +78,7 @@ auto about(const std::string& file, Work work) {
 void run(const Options& options) {
   if (!served(options.length))
     throw std::runtime_error(
-        fmt::format("length {} is not served, the longest is {}", options.length, longestLength()));
+        fmt::format("length {} is not served, the longest is {}", options.length, longest_length()));
 
   Audio audio = about(options.sound, [&] { return Audio(options.sound); });
   const Spectrogram spectrogram = about(options.sound, [&] {
@@ -98,19 +98,18 @@ void run(const Options& options) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  Options options;
-  CLI::App app("Draws the spectrogram of a sound file: both channels in one complex transform.");
-  app.add_option("sound", options.sound, "WAV, FLAC, OGG or whatever libsndfile reads")
-      ->capture_default_str();
-  app.add_option("-o,--output", options.picture, "PNG to write")->capture_default_str();
-  app.add_option("-n,--length", options.length, "samples in a window, points of a transform")
-      ->capture_default_str();
-  CLI11_PARSE(app, argc, argv);
-
   try {
+    Options options;
+    CLI::App app("Draws the spectrogram of a sound file: both channels in one complex transform.");
+    app.add_option("sound", options.sound, "WAV, FLAC, OGG or whatever libsndfile reads")
+        ->capture_default_str();
+    app.add_option("-o,--output", options.picture, "PNG to write")->capture_default_str();
+    app.add_option("-n,--length", options.length, "samples in a window, points of a transform")
+        ->capture_default_str();
+    CLI11_PARSE(app, argc, argv);
     run(options);
   } catch (const std::exception& error) {
-    fmt::print(stderr, "spectrogram: {}\n", error.what());
+    std::fprintf(stderr, "spectrogram: %s\n", error.what());
     return 1;
   }
 }

@@ -20,6 +20,7 @@ namespace {
 
 // Sizes in pixels.
 constexpr int left = 90, right = 130, top = 74, bottom = 62, gap = 18, data_height = 760;
+constexpr int canvas_width = left + widest + right;
 
 constexpr float silence = 1e-12F;  // power below which all is -120 dB
 
@@ -56,7 +57,7 @@ std::string quoted(const std::string& text) {
 /// A pipe to gnuplot that tells, once and in words, when gnuplot could not do its work.
 class Gnuplot {
  public:
-  Gnuplot() : pipe_(popen("gnuplot 2>/dev/null", "w")) {
+  Gnuplot() : pipe_(popen("gnuplot 2>/dev/null", "w")) {  // NOLINT(cert-env33-c): a fixed command
     if (!pipe_) throw std::runtime_error("cannot start gnuplot");
   }
   ~Gnuplot() {
@@ -94,57 +95,57 @@ std::vector<float> bands(const Spectrogram& s, int channel) {
 }
 
 /// Where things stand on the canvas: pixels from the top left, told to gnuplot as shares of the whole.
+double across(int pixels) { return static_cast<double>(pixels) / canvas_width; }
+
 struct Layout {
   int panels, panel_height;
 
   Layout(int channels, int rows)
       : panels(channels), panel_height(rows * std::max(1, data_height / channels / rows)) {}
-  int width() const { return left + widest + right; }
-  int height() const { return panelTop(panels) - gap + bottom; }
-  int panelTop(int panel) const { return top + panel * (panel_height + gap); }
-  double x(int pixels) const { return static_cast<double>(pixels) / width(); }
-  double y(int pixels) const { return 1 - static_cast<double>(pixels) / height(); }
+  int height() const { return panel_top(panels) - gap + bottom; }
+  int panel_top(int panel) const { return top + panel * (panel_height + gap); }
+  double down(int pixels) const { return 1 - static_cast<double>(pixels) / height(); }
 };
 
 void prepare(Gnuplot& plot, const Layout& layout, const std::string& file) {
-  plot.say("set terminal pngcairo size {},{} font 'Sans,11'", layout.width(), layout.height());
+  plot.say("set terminal pngcairo size {},{} font 'Sans,11'", canvas_width, layout.height());
   plot.say("set output {}", quoted(file));
   plot.say("set palette maxcolors 256 defined ({})", palette);
   plot.say("set tics out nomirror scale 0.7");
-  plot.say("set lmargin at screen {}; set rmargin at screen {}", layout.x(left), layout.x(left + widest));
+  plot.say("set lmargin at screen {}; set rmargin at screen {}", across(left), across(left + widest));
 }
 
-void drawTitle(Gnuplot& plot, const Layout& layout, const Spectrogram& s, const Caption& caption) {
+void draw_title(Gnuplot& plot, const Layout& layout, const Spectrogram& s, const Caption& caption) {
   const double ms = 1000.0 / caption.rate;
   plot.say("set label 1 {} at screen {},{} left font 'Sans:Bold,15' noenhanced", quoted(caption.title),
-           layout.x(left), layout.y(24));
+           across(left), layout.down(24));
   plot.say(
       "set label 2 '{} Hz, Hann windows of {} samples ({:.2f} ms) every {} ({:.2f} ms), bands of {:.0f} Hz' "
       "at screen {},{} left textcolor '#555555'",
-      caption.rate, s.length, s.length * ms, s.hop, s.hop * ms, 1.0 * caption.rate / s.length, layout.x(left),
-      layout.y(50));
+      caption.rate, s.length, s.length * ms, s.hop, s.hop * ms, 1.0 * caption.rate / s.length, across(left),
+      layout.down(50));
 }
 
-void drawScale(Gnuplot& plot, const Layout& layout, const Range& range) {
+void draw_scale(Gnuplot& plot, const Layout& layout, const Range& range) {
   const int foot = layout.height() - bottom;
   plot.say("set cbrange [{}:{}]; set cbtics 10", range.low, range.high);
   plot.say("set cblabel 'Power of a band, dB (0 = sine of full scale)' offset 1.5");
-  plot.say("set colorbox vertical user origin {},{} size {},{}", layout.x(left + widest + 24), layout.y(foot),
-           layout.x(18), layout.y(top) - layout.y(foot));
+  plot.say("set colorbox vertical user origin {},{} size {},{}", across(left + widest + 24),
+           layout.down(foot), across(18), layout.down(top) - layout.down(foot));
 }
 
 /// One channel. The axis of time runs from the first sample to the last, a column stands where its windows
 /// are.
-void drawPanel(Gnuplot& plot, const Layout& layout, const Spectrogram& s, const Caption& caption,
-               int channel) {
+void draw_panel(Gnuplot& plot, const Layout& layout, const Spectrogram& s, const Caption& caption,
+                int channel) {
   const bool last = channel == layout.panels - 1;
-  const int head = layout.panelTop(channel);
+  const int head = layout.panel_top(channel);
   const double column = static_cast<double>(s.frames) * s.hop / s.columns / caption.rate;
   const double first = (s.length - s.hop) / 2.0 / caption.rate + column / 2;
   const double row = caption.rate / 2000.0 / s.length;
 
-  plot.say("set tmargin at screen {}; set bmargin at screen {}", layout.y(head),
-           layout.y(head + layout.panel_height));
+  plot.say("set tmargin at screen {}; set bmargin at screen {}", layout.down(head),
+           layout.down(head + layout.panel_height));
   plot.say("set xrange [0:{}]; set yrange [0:{}]", caption.seconds, caption.rate / 2000.0);
   plot.say("set xlabel '{}'; set format x '{}'", last ? "Time, s" : "", last ? "%g" : "");
   plot.say("set ylabel \"{}Frequency, kHz\"", layout.panels == 1 ? ""
@@ -169,9 +170,9 @@ void draw(const Spectrogram& s, const Caption& caption, const std::string& path)
   const Layout layout(caption.channels, s.length);
   prepare(plot, layout, file.string());
   plot.say("set multiplot");
-  drawTitle(plot, layout, s, caption);
-  drawScale(plot, layout, colours(s, caption.channels));
-  for (int channel = 0; channel < caption.channels; ++channel) drawPanel(plot, layout, s, caption, channel);
+  draw_title(plot, layout, s, caption);
+  draw_scale(plot, layout, colours(s, caption.channels));
+  for (int channel = 0; channel < caption.channels; ++channel) draw_panel(plot, layout, s, caption, channel);
   plot.say("unset multiplot");
   plot.finish();
 }

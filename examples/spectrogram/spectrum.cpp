@@ -43,7 +43,7 @@ std::chrono::nanoseconds transform(xfm32fc* data, std::int64_t frames, int lengt
 
 /// Adds the power of both channels. With Z the transform of left + i right, the symmetry of real signals
 /// gives 2 left[k] = Z[k] + conj Z[N-k] and 2 i right[k] = Z[k] - conj Z[N-k].
-void addPowers(const xfm32fc* z, Spectrogram& picture, int column) {
+void add_powers(const xfm32fc* z, Spectrogram& picture, int column) {
   for (int k = 0; k < picture.bins; ++k) {
     const xfm32fc a = z[k];
     const xfm32fc b = z[(picture.length - k) % picture.length];
@@ -81,7 +81,7 @@ bool served(int length) {
   return xfmDFTFwd_CToC_32fc(nullptr, nullptr, length, XFM_SCALE_NONE) != xfmStsBadSize;
 }
 
-int longestLength() {
+int longest_length() {
   int length = 64;
   while (length > 0 && !served(length)) --length;
   return length;
@@ -112,7 +112,7 @@ Spectrogram analyse(Audio& audio, int length, int columns, const std::function<v
     picture.inside += transform(spectra.data(), frames, length);
     for (std::int64_t frame = 0; frame < frames; ++frame) {
       const auto column = static_cast<std::size_t>((done + frame) * picture.columns / picture.frames);
-      addPowers(&spectra[static_cast<std::size_t>(frame * length)], picture, static_cast<int>(column));
+      add_powers(&spectra[static_cast<std::size_t>(frame * length)], picture, static_cast<int>(column));
       ++windows[column];
     }
 

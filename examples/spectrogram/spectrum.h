@@ -27,7 +27,7 @@ struct Spectrogram {
 
 /// Whether the library serves a length, and the longest that it serves: it is asked, nothing is assumed.
 bool served(int length);
-int longestLength();
+int longest_length();
 
 /// Analyses the whole file with Hann windows that overlap by three quarters, into no more columns than given.
 /// Calls `progress` now and then with the seconds of sound that are done.

@@ -1,7 +1,6 @@
 // Makes a sound file for the tests: one second at 16 kHz, 2 kHz on the left, 5 kHz on the right, both at half
 // of the full scale. The file's name says the format.
 #include <cmath>
-#include <cstdlib>
 #include <numbers>
 #include <string>
 #include <vector>
@@ -11,7 +10,7 @@
 int main(int argc, char** argv) {
   if (argc != 3) return 2;
   const std::string path = argv[1];
-  const int channels = std::atoi(argv[2]);
+  const int channels = std::stoi(argv[2]);
   constexpr int rate = 16000;
 
   std::vector<float> sound;
