@@ -134,7 +134,7 @@ void draw_scale(Gnuplot& plot, const Layout& layout, const Range& range) {
            layout.down(foot), across(18), layout.down(top) - layout.down(foot));
 }
 
-/// One channel. The axis of time runs from the first sample to the last; a column stands where its windows do.
+/// One channel. Time runs from the first sample to the last; a column stands where its windows do.
 void draw_panel(Gnuplot& plot, const Layout& layout, const Spectrogram& s, const Caption& caption,
                 int channel) {
   const bool last = channel == layout.panels - 1;
