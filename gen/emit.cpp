@@ -17,6 +17,7 @@ constexpr const char* written_by_xfmgen =
     "// Written by xfmgen; do not edit: change the row or the recipe, and build.\n";
 
 std::string identifier(const std::string& name) {
+  if (name.starts_with('-')) return "minus_" + identifier(name.substr(1));
   std::string id;
   for (const char c : name) id += std::isalnum(static_cast<unsigned char>(c)) != 0 ? c : '_';
   return id;
@@ -213,8 +214,11 @@ std::string signature(const Kernel& kernel, const std::string& name) {
 
 std::string heading(const Kernel& kernel) {
   const Counts counts = count(*kernel.network);
-  return fmt::format("// {}: {}, {} additions and {} multiplications (row: {} and {}).\n", kernel.name,
-                     kernel.tree, counts.adds, counts.mults, kernel.adds, kernel.mults);
+  return fmt::format(
+      "// {}: {}, {} additions and {} multiplications (row: {} and {}).\n"
+      "// To see this text or try another tree: xfmgen --show {} {} {} [--tree TREE]\n",
+      kernel.name, kernel.tree, counts.adds, counts.mults, kernel.adds, kernel.mults, kernel.family,
+      kernel.length, kernel.type.suffix());
 }
 
 std::string factor_load(const Kernel& kernel) {
@@ -270,7 +274,8 @@ std::string SharedConstants::use(const Constant& c, const Kernel& kernel) {
                   pair ? fmt::format("{0}, {0}", value) : fmt::format("{0}, {0}, {0}, {0}", value),
                   static_cast<double>(c.value));
   const auto [known, fresh] = definitions_.try_emplace(name, definition);
-  if (!fresh && known->second != definition) throw std::logic_error(kernel.name + ": two constants of the name " + name);
+  if (!fresh && known->second != definition)
+    throw std::logic_error(kernel.name + ": two constants of the name " + name);
   return name;
 }
 

@@ -1,5 +1,7 @@
 #include "src/dft/recipe/dft.h"
 
+#include <stdexcept>
+
 #include "gen/check.h"
 #include "gen/fold.h"
 #include "gen/lanes.h"
@@ -79,8 +81,21 @@ void definition(Direction direction, const std::vector<gen::Wide>& src, std::vec
   }
 }
 
+// A tree of the length that it is asked for; a chirp transform serves every length that its inner one can
+// hold.
+void check_length(const Tree& tree, int length) {
+  const bool fits =
+      tree.rule == "B" ? length_of(tree.args.front()) >= 2 * length - 1 : length_of(tree) == length;
+  if (!fits)
+    throw std::invalid_argument("tree " + to_string(tree) + " is not one of length " +
+                                std::to_string(length));
+}
+
 void check(const Kernel& kernel, Direction direction) {
-  gen::check_counts(gen::count(*kernel.network), kernel.adds, kernel.mults, kernel.name);
+  const gen::Counts counts = gen::count(*kernel.network);
+  if (kernel.network->width() == 2 && counts.exchanges != (kernel.length - 1) / 2) {
+    throw std::runtime_error(kernel.name + ": " + std::to_string(counts.exchanges) + " joins");
+  }
   gen::check_memory(*kernel.network, kernel.read, kernel.written, kernel.name);
   gen::check_definition(
       *kernel.network, [&](const auto& src, auto& dst) { definition(direction, src, dst); }, kernel.read,
@@ -112,10 +127,12 @@ Kernel make_kernel(int length, Precision precision, Direction direction, const s
                 .network = nullptr};
   kernel.name = "xfm" + kernel.family + "_" + std::to_string(length) + "_" + kernel.type.suffix();
   const Tree parsed = gen::parse_tree(text);
+  check_length(parsed, length);
   kernel.network =
       single ? single_network(length, parsed, direction) : lane_real_network(length, parsed, direction);
   if (uses_rader_split(parsed)) kernel.network = gen::fold(*kernel.network);
   check(kernel, direction);
+  if (tree.empty()) gen::check_counts(gen::count(*kernel.network), kernel.adds, kernel.mults, kernel.name);
   return kernel;
 }
 

@@ -12,9 +12,9 @@ namespace xfm::dft {
 /// Lengths that have a row.
 std::vector<int> lengths();
 
-/// The kernel of the length's row, or of another tree of the same length. All checks are made: the row's
-/// costs, the matrix against the definition, one read an input, one lane exchange an output pair; the first
-/// that fails throws.
+/// The kernel of the length's row, or of another tree of the same length. All checks are made: the transform
+/// against its definition, one read an input, one lane exchange an output pair, and the row's costs unless
+/// another tree is tried; the first that fails throws.
 gen::Kernel make_kernel(int length, gen::Precision precision, Direction direction,
                         const std::string& tree = "");
 
