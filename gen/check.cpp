@@ -16,8 +16,9 @@ std::vector<LaneSet> live_lanes(const Network& network) {
   std::vector<LaneSet> live(network.nodes().size());
   const auto at = [&](NodeId id) -> LaneSet& { return live[static_cast<std::size_t>(id)]; };
   for (const Store& store : network.stores()) {
-    for (std::size_t l = 0; l < max_lanes; ++l)
-      at(store.node)[l] |= store.lanes[l] >= 0 || network.width() == 2;
+    for (std::size_t l = 0; l < static_cast<std::size_t>(network.width()); ++l) {
+      at(store.node)[l] |= store.lanes[l] >= 0;
+    }
   }
   for (NodeId id = static_cast<NodeId>(live.size()) - 1; id >= 0; --id) {
     const Node& node = network.node(id);

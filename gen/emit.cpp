@@ -115,7 +115,7 @@ class Body {
   std::string multiplier(const Node& node) {
     if (network_.width() == 1) return use(node.constants[0]);
     if (node.constants.size() == 1) {
-      const std::string name = shared_.use(node.constants[0], kernel_);
+      std::string name = shared_.use(node.constants[0], kernel_);
       registers_.insert(name);
       return name;
     }
@@ -267,7 +267,7 @@ std::string literal(Wide value, Precision precision) {
 
 std::string SharedConstants::use(const Constant& c, const Kernel& kernel) {
   const bool pair = kernel.network->width() == 2;
-  const std::string name = fmt::format("xfm_{}_{}", pair ? "pair" : "quad", identifier(c.name));
+  std::string name = fmt::format("xfm_{}_{}", pair ? "pair" : "quad", identifier(c.name));
   const std::string value = literal(c.value, kernel.type.precision);
   const std::string definition =
       fmt::format("extern \"C\" XFM_CONSTANT {} {} = {{{}}};  // {:.17g}\n", register_type(kernel), name,

@@ -118,7 +118,8 @@ class Network {
 };
 
 inline Value operator+(Value a, Value b) {
-  return (a.absent() ? b : a).network == nullptr ? Value{} : (a.absent() ? b : a).network->add(a, b);
+  if (a.absent()) return b;
+  return b.absent() ? a : a.network->add(a, b);
 }
 inline Value operator-(Value a, Value b) { return a + -b; }
 

@@ -38,19 +38,22 @@ Quad flip(Quad v) {
   return _mm_xor_ps(v, _mm_setr_ps(a ? -0.0F : 0.0F, b ? -0.0F : 0.0F, c ? -0.0F : 0.0F, d ? -0.0F : 0.0F));
 }
 
-/// One complex number, eight bytes, in the low half; the high half is zero.
+/// One complex number of binary32 parts, moved as eight bytes; aligned as its parts are.
+using Half = double __attribute__((aligned(4), may_alias));
+
+/// A complex number in the low half; the high half is zero.
 inline Quad load_low(const float* p) {
-  return _mm_castpd_ps(_mm_load_sd(reinterpret_cast<const double*>(p)));
+  return reinterpret_cast<Quad>(Pair{*reinterpret_cast<const Half*>(p), 0});
 }
 
 /// Two complex numbers from two places.
 inline Quad load_halves(const float* low, const float* high) {
-  return _mm_castpd_ps(
-      _mm_loadh_pd(_mm_load_sd(reinterpret_cast<const double*>(low)), reinterpret_cast<const double*>(high)));
+  return reinterpret_cast<Quad>(
+      Pair{*reinterpret_cast<const Half*>(low), *reinterpret_cast<const Half*>(high)});
 }
 
-inline void store_low(float* p, Quad v) { _mm_storel_pi(reinterpret_cast<__m64*>(p), v); }
-inline void store_high(float* p, Quad v) { _mm_storeh_pi(reinterpret_cast<__m64*>(p), v); }
+inline void store_low(float* p, Quad v) { *reinterpret_cast<Half*>(p) = reinterpret_cast<Pair>(v)[0]; }
+inline void store_high(float* p, Quad v) { *reinterpret_cast<Half*>(p) = reinterpret_cast<Pair>(v)[1]; }
 
 /// Lanes a, b of u in the low half, lanes c, d of v in the high half.
 template <int a, int b, int c, int d>

@@ -10,7 +10,6 @@
 
 namespace xfm::dft {
 
-using gen::Complex;
 using gen::ComplexConstant;
 using gen::Tree;
 using gen::turn;

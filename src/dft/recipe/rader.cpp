@@ -16,7 +16,6 @@ namespace xfm::dft {
 
 using gen::Complex;
 using gen::ComplexConstant;
-using gen::Element;
 using gen::Tree;
 using gen::turn;
 using gen::Wide;
