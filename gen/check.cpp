@@ -1,5 +1,7 @@
 #include "gen/check.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <stdexcept>
 
@@ -117,10 +119,8 @@ class LaneCounter {
 
 void check_once(std::vector<int> seen, const std::string& what, const std::string& name) {
   for (std::size_t s = 0; s < seen.size(); ++s) {
-    if (seen[s] != 1) {
-      throw std::runtime_error(name + ": scalar " + std::to_string(s) + " is " + what + " " +
-                               std::to_string(seen[s]) + " times");
-    }
+    if (seen[s] != 1)
+      throw std::runtime_error(fmt::format("{}: scalar {} is {} {} times", name, s, what, seen[s]));
   }
 }
 

@@ -139,7 +139,7 @@ class Body {
       if (sum.empty()) {
         sum = negative ? "-" : "";
       } else {
-        sum = negative ? sum + " - " : sum + " + ";
+        sum += negative ? " - " : " + ";
       }
       const std::string operand = fmt::format("xfm64f{{{}}}", var(term.node));
       sum += c.is_one() ? operand : fmt::format("{} * {}", use(c), operand);

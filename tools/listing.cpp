@@ -65,7 +65,7 @@ std::string catalogue_row(const Kernel& kernel) {
   const gen::Counts counts = count(*kernel.network);
   const int exchanges = kernel.network->width() == 2 ? counts.exchanges : -1;
   std::string row =
-      fmt::format("    {{\"{}\", \"{}\", \"{}\", ", kernel.name, kernel.family, kernel.type.suffix());
+      fmt::format(R"(    {{"{}", "{}", "{}", )", kernel.name, kernel.family, kernel.type.suffix());
   row += kernel.type.precision == gen::Precision::single ? "Precision::single, " : "Precision::twofold, ";
   row += fmt::format("{}, {}, {}, {}, {}, ", scaling_name(kernel.scaling), kernel.length, kernel.read,
                      kernel.written, exchanges);

@@ -18,6 +18,6 @@ std::string export_map();
 std::string generic_functions();
 
 /// The tables behind catalogue.h.
-std::string catalogue(std::span<const gen::Kernel> kernels);
+std::string catalogue(std::span<const gen::Kernel> all);
 
 }  // namespace xfm

@@ -66,8 +66,9 @@ Points direct(const Points& x) {
   for (int k = 1; k <= h; ++k) {
     std::vector<ScaledComplex> t{at(0)}, u;
     for (int j = 1; j <= h; ++j) {
-      t.push_back(cosine(turn(j * k, n)) * a[static_cast<std::size_t>(j)]);
-      u.push_back(sine(turn(j * k, n)) * b[static_cast<std::size_t>(j)]);
+      const gen::Turn angle = turn(static_cast<long long>(j) * k, n);
+      t.push_back(cosine(angle) * a[static_cast<std::size_t>(j)]);
+      u.push_back(sine(angle) * b[static_cast<std::size_t>(j)]);
     }
     const Complex cosines = sum(t), sines = times_i(sum(u));
     out[static_cast<std::size_t>(k)] = cosines - sines;

@@ -1,5 +1,6 @@
 #include "src/dft/recipe/packed.h"
 
+#include <algorithm>
 #include <map>
 
 #include "src/dft/recipe/lane_real.h"
@@ -32,8 +33,8 @@ Batch Packed::each(const Batch& x, const Block& block, Direction direction) {
     const bool exchange = direction == Direction::inverse && form_ == Form::split;
     Points inputs;
     for (std::size_t j = 0; j < x[group[0]].size(); ++j) {
-      std::vector<Element> elements;
-      for (const std::size_t i : group) elements.push_back(x[i][j]);
+      std::vector<Element> elements(group.size());
+      std::transform(group.begin(), group.end(), elements.begin(), [&](std::size_t i) { return x[i][j]; });
       const Complex z = elements[0].absent() ? Complex{} : lanes_.gather(elements, form_);
       inputs.push_back(exchange ? exchanged(z) : z);
     }
