@@ -1,7 +1,8 @@
 #include "tests/binary/disassembly.h"
 
-#include <set>
+#include <algorithm>
 #include <stdexcept>
+#include <unordered_map>
 
 #include "paths.h"
 #include "tests/binary/tools.h"
@@ -12,8 +13,8 @@ namespace xfm::test {
 Disassembly::Disassembly(const std::string& library) {
   for (const std::string& line :
        lines_of(std::string(paths::objdump) + " -d --no-show-raw-insn '" + library + "'")) {
-    if (const auto instruction = parse_instruction(line)) {
-      instructions_.emplace(instruction->address, *instruction);
+    if (auto instruction = parse_instruction(line)) {
+      instructions_.push_back(std::move(*instruction));
     } else if (const auto open = line.find(" <"); open != std::string::npos && line.ends_with(">:")) {
       const std::uint64_t address = std::stoull(line, nullptr, 16);
       const std::string name = line.substr(open + 2, line.size() - open - 4);
@@ -22,16 +23,17 @@ Disassembly::Disassembly(const std::string& library) {
     }
   }
   if (instructions_.empty()) throw std::runtime_error("no code in " + library);
+  std::ranges::sort(instructions_, {}, &Instruction::address);
 }
 
 const Instruction* Disassembly::at(std::uint64_t address) const {
-  const auto found = instructions_.find(address);
-  return found == instructions_.end() ? nullptr : &found->second;
+  const auto found = std::ranges::lower_bound(instructions_, address, {}, &Instruction::address);
+  return found == instructions_.end() || found->address != address ? nullptr : &*found;
 }
 
 const Instruction* Disassembly::after(const Instruction& instruction) const {
-  const auto next = instructions_.upper_bound(instruction.address);
-  return next == instructions_.end() ? nullptr : &next->second;
+  const Instruction* next = &instruction + 1;
+  return next == instructions_.data() + instructions_.size() ? nullptr : next;
 }
 
 std::string Disassembly::function_at(std::uint64_t address) const {
@@ -41,7 +43,7 @@ std::string Disassembly::function_at(std::uint64_t address) const {
 
 namespace {
 
-using Addresses = std::set<std::uint64_t>;
+using Instructions = std::vector<const Instruction*>;
 
 class Tracer {
  public:
@@ -49,12 +51,13 @@ class Tracer {
       : code_(code), function_(function), twin_(twin) {}
 
   Body trace() {
-    std::vector<std::uint64_t> open = {code_.start_of(function_)};
+    Instructions open = {code_.at(code_.start_of(function_))};
     while (!open.empty()) {
-      const std::uint64_t address = open.back();
+      const Instruction* instruction = open.back();
       open.pop_back();
-      if (successors_.contains(address)) continue;
-      const Addresses& next = successors_[address] = follow(address);
+      if (successors_.contains(instruction)) continue;
+      body_.instructions.push_back(instruction);
+      const Instructions& next = successors_[instruction] = follow(*instruction);
       open.insert(open.end(), next.begin(), next.end());
     }
     body_.has_loop = has_loop();
@@ -68,59 +71,53 @@ class Tracer {
   }
 
   void depart(const Instruction& from, const std::string& how) {
-    body_.departures.push_back(how + ": " + from.mnemonic + " " + from.operands + " in " +
-                               code_.function_at(from.address));
+    body_.departures.push_back(how + ": " + from.text() + " in " + code_.function_at(from.address));
   }
 
-  /// Where control may be after the instruction, inside the body.
-  Addresses follow(std::uint64_t address) {
-    const Instruction* instruction = code_.at(address);
-    if (instruction == nullptr) {
-      body_.departures.push_back("a jump into the middle of an instruction");
-      return {};
-    }
-    body_.instructions.push_back(instruction);
-    Addresses next;
-    if (instruction->is_jump() || instruction->is_call()) next = leave(*instruction);
-    if (instruction->is_return() || instruction->is_unconditional_jump()) return next;
-    const Instruction* following = code_.after(*instruction);
+  /// What may run next, inside the body.
+  Instructions follow(const Instruction& instruction) {
+    Instructions next;
+    if (instruction.sort == Sort::control && !instruction.is_return()) next = leave(instruction);
+    if (instruction.is_return() || instruction.is_unconditional_jump()) return next;
+    const Instruction* following = code_.after(instruction);
     if (following != nullptr && own(following->address)) {
-      next.insert(following->address);
+      next.push_back(following);
     } else {
-      depart(*instruction, "runs past its end");
+      depart(instruction, "runs past its end");
     }
     return next;
   }
 
-  Addresses leave(const Instruction& instruction) {
+  /// Where a jump or a call leads; nowhere where it leads to the twin.
+  Instructions leave(const Instruction& instruction) {
     if (!instruction.target) {
-      depart(instruction, "indirect");
+      depart(instruction, "goes to a computed address");
     } else if (!twin_.empty() && *instruction.target == code_.start_of(twin_)) {
       return {};
-    } else if (!own(*instruction.target)) {
+    } else if (instruction.is_call() || !own(*instruction.target)) {
       depart(instruction, "leaves the function");
-    } else if (instruction.is_call()) {
-      depart(instruction, "calls itself");
+    } else if (const Instruction* target = code_.at(*instruction.target)) {
+      return {target};
     } else {
-      return {*instruction.target};
+      depart(instruction, "goes into the middle of an instruction");
     }
     return {};
   }
 
   /// Takes away, again and again, what nothing leads to any more; a loop stays.
   bool has_loop() const {
-    std::map<std::uint64_t, int> ways_in;
-    for (const auto& [address, next] : successors_)
-      for (const std::uint64_t successor : next) ++ways_in[successor];
-    std::vector<std::uint64_t> free;
-    for (const auto& [address, next] : successors_)
-      if (!ways_in.contains(address)) free.push_back(address);
+    std::unordered_map<const Instruction*, int> ways_in;
+    for (const auto& [instruction, next] : successors_)
+      for (const Instruction* successor : next) ++ways_in[successor];
+    Instructions free;
+    for (const auto& [instruction, next] : successors_)
+      if (!ways_in.contains(instruction)) free.push_back(instruction);
     std::size_t taken = 0;
     while (!free.empty()) {
-      const std::uint64_t address = free.back();
+      const Instruction* instruction = free.back();
       free.pop_back();
       ++taken;
-      for (const std::uint64_t successor : successors_.at(address))
+      for (const Instruction* successor : successors_.at(instruction))
         if (--ways_in[successor] == 0) free.push_back(successor);
     }
     return taken != successors_.size();
@@ -129,7 +126,7 @@ class Tracer {
   const Disassembly& code_;
   const std::string& function_;
   const std::string& twin_;
-  std::map<std::uint64_t, Addresses> successors_;
+  std::unordered_map<const Instruction*, Instructions> successors_;
   Body body_;
 };
 

@@ -13,8 +13,9 @@ class Disassembly {
  public:
   explicit Disassembly(const std::string& library);
 
-  /// Null where there is none.
+  /// Null where no instruction starts.
   const Instruction* at(std::uint64_t address) const;
+  /// Null behind the last.
   const Instruction* after(const Instruction& instruction) const;
   /// The function that the address lies in; empty in front of the first.
   std::string function_at(std::uint64_t address) const;
@@ -22,7 +23,7 @@ class Disassembly {
   std::uint64_t start_of(const std::string& function) const { return starts_.at(function); }
 
  private:
-  std::map<std::uint64_t, Instruction> instructions_;
+  std::vector<Instruction> instructions_;  ///< by address
   std::map<std::string, std::uint64_t> starts_;
   std::map<std::uint64_t, std::string> names_;
 };

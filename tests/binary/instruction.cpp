@@ -1,126 +1,114 @@
 #include "tests/binary/instruction.h"
 
-#include <set>
-#include <sstream>
-
-#include "tests/binary/tools.h"
+#include <string_view>
+#include <unordered_map>
 
 namespace xfm::test {
 namespace {
 
-using Mnemonics = std::set<std::string>;
+using Names = std::unordered_map<std::string_view, Sort>;
 
-const Mnemonics packed_add = {"addps", "subps", "addpd", "subpd"};
-const Mnemonics packed_mult = {"mulps", "mulpd"};
-const Mnemonics scalar_add = {"addss", "subss", "addsd", "subsd"};
-const Mnemonics scalar_mult = {"mulss", "mulsd"};
+void enter(Names& names, Sort sort, std::initializer_list<std::string_view> mnemonics) {
+  for (const std::string_view mnemonic : mnemonics) names.emplace(mnemonic, sort);
+}
 
-// Loading or storing a half of a register moves nothing from lane to lane, unless it goes through the stack.
-const Mnemonics between_lanes = {"shufpd",     "shufps",     "pshufd",    "unpcklpd",  "unpckhpd",
-                                 "punpcklqdq", "punpckhqdq", "punpckldq", "punpckhdq", "unpcklps",
-                                 "unpckhps",   "movhlps",    "movlhps",   "psrldq",    "pslldq"};
+Names make_names() {
+  Names names;
+  enter(names, Sort::control,
+        {"call", "ret", "jmp", "ja", "jae", "jb", "jbe", "je", "jne", "jg", "jge", "jl", "jle", "js", "jns"});
+  enter(names, Sort::integer,
+        {"mov",  "movl",  "movabs", "movslq", "movzbl", "lea",    "xor",    "and",    "or",    "add",
+         "sub",  "test",  "cmp",    "bt",     "sar",    "shr",    "shl",    "push",   "pop",   "leave",
+         "nop",  "nopw",  "nopl",   "xchg",   "cmova",  "cmovae", "cmovb",  "cmovbe", "cmove", "cmovne",
+         "seta", "setae", "setb",   "setbe",  "sete",   "setne",  "endbr64"});
+  enter(names, Sort::move,
+        {"movaps", "movapd", "movups", "movupd", "movdqa", "movdqu", "movss", "movsd", "movq", "movd",
+         "movlps", "movhps", "movlpd", "movhpd"});
+  enter(names, Sort::bits,
+        {"xorps", "xorpd", "pxor", "andps", "andpd", "pand", "andnps", "andnpd", "pandn", "orps", "orpd",
+         "por"});
+  enter(names, Sort::conversion, {"cvtss2sd", "cvtsd2ss", "cvtps2pd", "cvtpd2ps"});
+  enter(names, Sort::between_lanes,
+        {"shufpd", "shufps", "pshufd", "unpcklpd", "unpckhpd", "unpcklps", "unpckhps", "punpckldq",
+         "punpckhdq", "punpcklqdq", "punpckhqdq", "movhlps", "movlhps", "psrldq", "pslldq"});
+  enter(names, Sort::scalar_add, {"addss", "subss", "addsd", "subsd"});
+  enter(names, Sort::scalar_mult, {"mulss", "mulsd"});
+  enter(names, Sort::packed_add, {"addps", "subps", "addpd", "subpd"});
+  enter(names, Sort::packed_mult, {"mulps", "mulpd"});
+  return names;
+}
 
-const Mnemonics moves = {"movaps", "movapd", "movups", "movupd", "movdqa", "movdqu", "movss",   "movsd",
-                         "movq",   "movd",   "movlps", "movhps", "movlpd", "movhpd", "movhlps", "movlhps"};
-const Mnemonics bits = {"xorps",  "xorpd",  "pxor",  "andps", "andpd", "pand",
-                        "andnps", "andnpd", "pandn", "orps",  "orpd",  "por"};
-const Mnemonics conversions = {"cvtss2sd", "cvtsd2ss", "cvtps2pd", "cvtpd2ps"};
-const Mnemonics integers = {"mov", "movabs", "movslq", "movzbl", "movl", "lea",   "xor",
-                            "and", "or",     "add",    "sub",    "test", "cmp",   "sar",
-                            "shr", "shl",    "bt",     "push",   "pop",  "call",  "ret",
-                            "jmp", "nop",    "nopw",   "nopl",   "xchg", "leave", "endbr64"};
+/// "%xmm1,%xmm1" of an addition. Compilers write 2 x as x + x, which has the same bits: it stays a
+/// multiplication.
+bool doubles(const std::string& mnemonic, const std::string& operands) {
+  const auto comma = operands.find(',');
+  return mnemonic.starts_with("add") && operands.starts_with('%') &&
+         operands.substr(0, comma) == operands.substr(comma + 1);
+}
 
-bool in(const Mnemonics& set, const std::string& mnemonic) { return set.contains(mnemonic); }
-
-bool is_conditional(const std::string& mnemonic) {
-  static const std::set<std::string> conditions = {"a", "ae", "b", "be", "e", "ne", "g", "ge",
-                                                   "l", "le", "s", "ns", "c", "nc", "z", "nz"};
-  for (const std::string prefix : {"j", "cmov", "set"})
-    if (mnemonic.starts_with(prefix) && conditions.contains(mnemonic.substr(prefix.size()))) return true;
+/// Halves of a register that meet again in memory may have changed places.
+bool is_half_in_stack(const std::string& mnemonic, const std::string& operands) {
+  static constexpr std::string_view halves[] = {"movsd", "movq", "movlpd", "movhpd", "movlps", "movhps"};
+  for (const std::string_view half : halves)
+    if (mnemonic == half) return operands.find("(%rsp") != std::string::npos;
   return false;
 }
 
-// Printed in front of an instruction that they do not change.
-bool is_prefix(const std::string& word) {
-  static const Mnemonics prefixes = {"cs",     "ds",  "es",   "fs",  "gs",     "ss",
-                                     "data16", "rep", "repz", "bnd", "notrack"};
-  return prefixes.contains(word);
+Sort sort_of(const std::string& mnemonic, const std::string& operands) {
+  static const Names names = make_names();
+  const auto found = names.find(mnemonic);
+  if (found == names.end()) return Sort::stranger;
+  if (is_half_in_stack(mnemonic, operands)) return Sort::between_lanes;
+  if (found->second == Sort::scalar_add && doubles(mnemonic, operands)) return Sort::scalar_mult;
+  if (found->second == Sort::packed_add && doubles(mnemonic, operands)) return Sort::packed_mult;
+  return found->second;
 }
 
-/// "0x4bde(%rip),%xmm5        # 72f0 <factors+0x50>" names an address behind the mark.
-std::optional<std::uint64_t> address_of_constant(const std::string& comment) {
-  if (comment.empty()) return std::nullopt;
-  return std::stoull(comment, nullptr, 16);
+// Printed in front of an instruction, which they do not change.
+bool is_prefix(std::string_view word) {
+  for (const std::string_view prefix :
+       {"cs", "ds", "es", "fs", "gs", "ss", "data16", "rep", "repz", "bnd", "notrack"})
+    if (word == prefix) return true;
+  return false;
 }
 
-/// "movhpd %xmm0,0x8(%rsp)": halves that meet again in memory.
-bool is_half_in_stack(const Instruction& instruction) {
-  static const Mnemonics halves = {"movsd", "movq", "movlpd", "movhpd", "movlps", "movhps"};
-  return in(halves, instruction.mnemonic) && instruction.operands.find("(%rsp") != std::string::npos;
+/// The text up to the next blank, which it takes away together with the blanks behind it.
+std::string_view next_word(std::string_view& text) {
+  const std::string_view word = text.substr(0, text.find(' '));
+  text.remove_prefix(word.size());
+  text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
+  return word;
 }
 
 }  // namespace
 
+// "  270a:\tmovss  0x4bde(%rip),%xmm5        # 72f0 <factors+0x50>": the address of a constant stands behind
+// the mark.
 std::optional<Instruction> parse_instruction(const std::string& line) {
   const auto colon = line.find(":\t");
   if (line.empty() || line[0] != ' ' || colon == std::string::npos) return std::nullopt;
   Instruction result;
-  result.address = std::stoull(line.substr(0, colon), nullptr, 16);
-  std::string text = line.substr(colon + 2), comment;
-  if (const auto mark = text.find('#'); mark != std::string::npos) {
-    comment = text.substr(mark + 1);
-    text.resize(mark);
-  }
-  std::istringstream words(text);
-  words >> result.mnemonic;
-  while (is_prefix(result.mnemonic) && words >> result.mnemonic) {
-  }
-  words >> result.operands;
-  if (result.operands.find("(%rip)") != std::string::npos) result.constant = address_of_constant(comment);
+  result.address = std::stoull(line, nullptr, 16);
+  std::string_view text = std::string_view(line).substr(colon + 2);
+  std::string_view word = next_word(text);
+  while (is_prefix(word) && !text.empty()) word = next_word(text);
+  result.mnemonic = word;
+  result.operands = next_word(text);
+  result.sort = sort_of(result.mnemonic, result.operands);
+  if (result.operands.find("(%rip)") != std::string::npos && text.starts_with('#'))
+    result.constant = std::stoull(std::string(text.substr(1)), nullptr, 16);
   const bool direct = !result.operands.empty() && result.operands[0] != '*';
   if ((result.is_jump() || result.is_call()) && direct)
     result.target = std::stoull(result.operands, nullptr, 16);
   return result;
 }
 
-std::vector<std::string> Instruction::operand_list() const {
-  std::vector<std::string> list(1);
-  int depth = 0;
-  for (const char c : operands) {
-    depth += c == '(' ? 1 : c == ')' ? -1 : 0;
-    if (c == ',' && depth == 0) {
-      list.emplace_back();
-    } else {
-      list.back() += c;
-    }
-  }
-  return list;
-}
-
-bool Instruction::is_expected() const {
-  for (const Mnemonics* set : {&packed_add, &packed_mult, &scalar_add, &scalar_mult, &between_lanes, &moves,
-                               &bits, &conversions, &integers})
-    if (in(*set, mnemonic)) return true;
-  return is_conditional(mnemonic);
-}
-
 void Tally::add(const Instruction& instruction) {
-  const std::string& mnemonic = instruction.mnemonic;
-  const auto operands = instruction.operand_list();
-  // Compilers write 2 x as x + x, which has the same bits: it stays a multiplication.
-  const bool doubling = operands.size() == 2 && operands[0] == operands[1] && operands[0][0] == '%';
-  const bool adds_to_itself = doubling && mnemonic.starts_with("add");
-  if (in(packed_mult, mnemonic) || (in(packed_add, mnemonic) && adds_to_itself)) {
-    ++packed_mults;
-  } else if (in(packed_add, mnemonic)) {
-    ++packed_adds;
-  } else if (in(scalar_mult, mnemonic) || (in(scalar_add, mnemonic) && adds_to_itself)) {
-    ++scalar_mults;
-  } else if (in(scalar_add, mnemonic)) {
-    ++scalar_adds;
-  } else if (in(between_lanes, mnemonic) || is_half_in_stack(instruction)) {
-    ++exchanges;
-  }
+  scalar_adds += instruction.sort == Sort::scalar_add;
+  scalar_mults += instruction.sort == Sort::scalar_mult;
+  packed_adds += instruction.sort == Sort::packed_add;
+  packed_mults += instruction.sort == Sort::packed_mult;
+  between_lanes += instruction.sort == Sort::between_lanes;
 }
 
 }  // namespace xfm::test

@@ -4,35 +4,47 @@
 #include <cstdint>
 #include <optional>
 #include <string>
-#include <vector>
 
 namespace xfm::test {
 
-/// Register and memory operands in AT&T order: the destination is the last one.
+/// What an instruction does, as far as it matters to a kernel. Whatever is no other sort is a stranger:
+/// beyond the baseline of x86-64, or nothing that a kernel has a use for, like a division.
+enum class Sort {
+  stranger,
+  control,        ///< jumps, calls, returns
+  integer,        ///< addresses, pointers, the flag, padding
+  move,           ///< of a whole register or of a part that stays in its place
+  bits,           ///< logic on vector registers: signs
+  conversion,     ///< between the precisions
+  between_lanes,  ///< shuffles
+  scalar_add,
+  scalar_mult,
+  packed_add,
+  packed_mult,
+};
+
+/// Operands stand in AT&T order: the destination is the last one.
 struct Instruction {
   std::uint64_t address;
   std::string mnemonic;
   std::string operands;
+  Sort sort;
   std::optional<std::uint64_t> target;    ///< of a direct jump or call
-  std::optional<std::uint64_t> constant;  ///< address of a constant, from the program counter
+  std::optional<std::uint64_t> constant;  ///< what is addressed relative to the program counter
 
-  std::vector<std::string> operand_list() const;
   bool is_return() const { return mnemonic == "ret"; }
   bool is_call() const { return mnemonic == "call"; }
   bool is_jump() const { return mnemonic[0] == 'j'; }
   bool is_unconditional_jump() const { return mnemonic == "jmp"; }
-  /// In the baseline of x86-64, and of a sort that a kernel has a use for. No division, no square root.
-  bool is_expected() const;
+  std::string text() const { return mnemonic + " " + operands; }
 };
 
 /// From a line of objdump, "  2660:\tmov    %rdi,%rax"; nothing for lines that are no instruction.
 std::optional<Instruction> parse_instruction(const std::string& line);
 
-/// Arithmetic and movements within registers, over the instructions of a body.
+/// How many instructions of the sorts that the tests count.
 struct Tally {
-  int scalar_adds = 0, scalar_mults = 0;  ///< one value an instruction
-  int packed_adds = 0, packed_mults = 0;
-  int exchanges = 0;  ///< whatever brings a value of one binary64 lane to the other
+  int scalar_adds = 0, scalar_mults = 0, packed_adds = 0, packed_mults = 0, between_lanes = 0;
 
   void add(const Instruction& instruction);
 };

@@ -27,6 +27,8 @@ std::vector<Wide> transform(const Definition& definition, const Array& src, int 
 
 /// The bound on an entry of a kernel's matrix: 2e-7 in binary32, 2e-15 in binary64.
 double matrix_bound(Precision precision);
+/// The same, but for the few kernels whose prescribed scheme rounds more: there it is what they reach.
+double matrix_bound(const catalogue::Kernel& kernel);
 
 /// The stored factor that a flag selects. In binary32 the exact value rounded once; in binary64 the quotient
 /// of 1.0 by the length or by its rounded root.
