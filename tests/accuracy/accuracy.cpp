@@ -1,0 +1,59 @@
+// The published accuracy of every kernel: within the bound or held where it is, and the document tells what
+// is measured. XFM_ACCURACY_UPDATE=1 renews the document instead.
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <string_view>
+
+#include "tests/accuracy/document.h"
+#include "tests/support/accuracy_exceptions.h"
+
+namespace xfm::test {
+namespace {
+
+using catalogue::Kernel;
+
+const std::vector<Measured>& measured() {
+  static const std::vector<Measured> all = measure_all();
+  return all;
+}
+
+bool is_of(const AccuracyException& exception, const Kernel& kernel) {
+  return std::string_view(kernel.family) == exception.family &&
+         std::string_view(kernel.type) == exception.type && kernel.length == exception.length;
+}
+
+double bound(const Kernel& kernel) {
+  for (const AccuracyException& exception : accuracy_exceptions)
+    if (is_of(exception, kernel)) return exception.worst;
+  return matrix_bound(kernel.precision);
+}
+
+TEST(Accuracy, KernelsAreWithinTheirBounds) {
+  for (const auto& [kernel, errors] : measured()) EXPECT_LE(errors.worst, bound(kernel)) << kernel.name;
+}
+
+// An exception that is not needed any more goes, and one that is keeps the figure that is reached.
+TEST(Accuracy, ExceptionsAreNotStale) {
+  for (const AccuracyException& exception : accuracy_exceptions) {
+    int kernels = 0;
+    for (const auto& [kernel, errors] : measured()) {
+      if (!is_of(exception, kernel)) continue;
+      ++kernels;
+      EXPECT_GT(errors.worst, matrix_bound(kernel.precision)) << kernel.name << " needs no exception";
+      EXPECT_EQ(rounded_up(errors.worst), rounded_up(exception.worst)) << kernel.name;
+    }
+    EXPECT_EQ(kernels, 1) << exception.family << ", " << exception.length << ", " << exception.type;
+  }
+}
+
+TEST(Accuracy, DocumentIsUpToDate) {
+  Document document(XFM_ACCURACY_DOCUMENT);
+  if (std::getenv("XFM_ACCURACY_UPDATE") != nullptr) document.replace_figures(figures(measured()));
+  const std::string changed = first_difference(document.figures(), figures(measured()));
+  EXPECT_TRUE(changed.empty()) << "Not as published; if that is meant, build the target \"accuracy\":\n"
+                               << changed;
+}
+
+}  // namespace
+}  // namespace xfm::test

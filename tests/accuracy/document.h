@@ -1,0 +1,35 @@
+// The published figures: the part of docs/accuracy.md that is written by machine, and the file around it.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "tests/accuracy/errors.h"
+
+namespace xfm::test {
+
+/// Three significant digits, never less than the value.
+std::string rounded_up(double value);
+
+/// The kernels beyond the bound of their precision, then a table a family.
+std::string figures(const std::vector<Measured>& measured);
+
+/// The first line in which two texts differ, from both; empty for equal texts.
+std::string first_difference(const std::string& published, const std::string& measured);
+
+/// A text of which everything up to a line that starts with the marker is written by hand.
+class Document {
+ public:
+  static constexpr const char* marker = "<!-- figures";
+
+  /// Throws where the file or its marker is missing.
+  explicit Document(const std::string& path);
+  const std::string& figures() const { return figures_; }
+  /// Rewrites the file with these figures.
+  void replace_figures(const std::string& figures);
+
+ private:
+  std::string path_, by_hand_, figures_;
+};
+
+}  // namespace xfm::test

@@ -1,0 +1,36 @@
+#include "tests/accuracy/errors.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+#include "tests/support/attempt.h"
+
+namespace xfm::test {
+
+Errors errors_of_matrix(const catalogue::Kernel& kernel, const Definition& definition) {
+  double worst = 0, squares = 0;
+  for (int in = 0; in < kernel.read; ++in) {
+    Array unit(kernel.precision, kernel.read), dst(kernel.precision, kernel.written);
+    unit.fill(0.0);
+    unit.set(in, 1.0);
+    dst.fill(Poison::quiet_nan);
+    EXPECT_EQ(run(kernel, unit.data(), dst.data(), XFM_SCALE_NONE), xfmStsOk) << kernel.name;
+    for (int out = 0; out < kernel.written; ++out) {
+      auto error = std::abs(static_cast<double>(Wide{dst[out]} - definition.entry(out, in)));
+      if (std::isnan(error)) error = std::numeric_limits<double>::infinity();
+      worst = std::max(worst, error);
+      squares += error * error;
+    }
+  }
+  return {.worst = worst, .rms = std::sqrt(squares / kernel.read / kernel.written)};
+}
+
+std::vector<Measured> measure_all() {
+  std::vector<Measured> all;
+  for (const catalogue::Kernel& kernel : catalogue::kernels())
+    all.push_back({kernel, errors_of_matrix(kernel, *definition(kernel))});
+  return all;
+}
+
+}  // namespace xfm::test

@@ -1,0 +1,195 @@
+// What ties an inverse kernel to the forward one of its length and precision: it undoes it, and it is the
+// same network with the imaginary unit reversed. Every statement is made of a pair of kernels.
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+
+#include "tests/bits/same_values.h"
+#include "tests/support/kernel_test.h"
+#include "tests/support/reference.h"
+
+namespace xfm::test {
+namespace {
+
+constexpr char forward_family[] = "DFTFwd_CToC", inverse_family[] = "DFTInv_CToC";
+
+std::vector<Kernel> kernels_of(const std::string& family) {
+  std::vector<Kernel> found;
+  for (const Kernel& kernel : catalogue::kernels())
+    if (kernel.family == family) found.push_back(kernel);
+  return found;
+}
+
+/// The inverse kernel by the name of the forward one, or null.
+const Kernel* inverse_of(const Kernel& forward) {
+  std::string name = forward.name;
+  name.replace(name.find(forward_family), std::strlen(forward_family), inverse_family);
+  for (const Kernel& kernel : catalogue::kernels())
+    if (kernel.name == name) return &kernel;
+  return nullptr;
+}
+
+/// The flag by which the inverse kernel has the factor that this one gives the forward kernel.
+std::int32_t mirrored(std::int32_t flag) {
+  if (flag == XFM_SCALE_FWD_BY_N) return XFM_SCALE_INV_BY_N;
+  return flag == XFM_SCALE_INV_BY_N ? XFM_SCALE_FWD_BY_N : flag;
+}
+
+/// Real and imaginary parts exchanged.
+Array exchanged(const Array& array) {
+  Array result(array);
+  for (int i = 0; i < array.count(); ++i) result.set(i, array[i ^ 1]);
+  return result;
+}
+
+Array conjugate(const Array& array) {
+  Array result(array);
+  for (int i = 1; i < array.count(); i += 2) result.set(i, -array[i]);
+  return result;
+}
+
+/// Element (N - k) mod N in place of element k.
+Array reflected(const Array& array) {
+  Array result(array);
+  const int n = array.count() / 2;
+  for (int k = 0; k < n; ++k)
+    for (const int part : {0, 1}) result.set(2 * k + part, array[2 * ((n - k) % n) + part]);
+  return result;
+}
+
+double sum_of_magnitudes(const Array& array) {
+  double sum = 0;
+  for (int i = 0; i < array.count(); ++i) sum += std::abs(array[i]);
+  return sum;
+}
+
+double greatest_difference(const Array& one, const Array& other) {
+  double greatest = 0;
+  for (int i = 0; i < one.count(); ++i) greatest = std::max(greatest, std::abs(one[i] - other[i]));
+  return greatest;
+}
+
+/// The root of the sum of squares of one - times * other, in proportion to that of times * other.
+double relative_distance(const Array& one, const Array& other, double times = 1) {
+  double differences = 0, data = 0;
+  for (int i = 0; i < one.count(); ++i) {
+    differences += std::pow(one[i] - times * other[i], 2);
+    data += std::pow(times * other[i], 2);
+  }
+  return std::sqrt(differences / data);
+}
+
+class Direction : public KernelTest {
+ protected:
+  void SetUp() override {
+    inverse_ = inverse_of(kernel());
+    ASSERT_NE(inverse_, nullptr) << "no inverse kernel";
+  }
+
+  Array forward(const Array& src, std::int32_t flag) const { return separate(src, flag); }
+  Array inverse(const Array& src, std::int32_t flag) const {
+    Array dst = output();
+    dst.fill(Poison::quiet_nan);
+    EXPECT_EQ(run(*inverse_, src.data(), dst.data(), flag), xfmStsOk);
+    return dst;
+  }
+
+  /// Of the rounding of one transform: that of a matrix entry, and in binary64, whose matrices are far better
+  /// than they must be, four roundings.
+  double bound() const {
+    return kernel().precision == Precision::single ? matrix_bound(kernel()) : 4 * 0x1p-53;
+  }
+
+  void returns_the_input(std::int32_t flag, double times);
+
+ private:
+  const Kernel* inverse_ = nullptr;
+};
+
+/// Forward and inverse by one flag make so many times the input, apart from the rounding of two transforms.
+void Direction::returns_the_input(std::int32_t flag, double times) {
+  const Array src = random_input();
+  const Array back = inverse(forward(src, flag), flag);
+  EXPECT_LE(relative_distance(back, src, times), 2 * bound()) << "flag " << flag;
+}
+
+TEST_P(Direction, InverseUndoesForward) {
+  returns_the_input(XFM_SCALE_NONE, kernel().length);
+  returns_the_input(XFM_SCALE_FWD_BY_N, 1);
+  returns_the_input(XFM_SCALE_INV_BY_N, 1);
+  returns_the_input(XFM_SCALE_BY_SQRT_N, 1);
+}
+
+// The two come from one source, so that this holds to the bit, apart from the signs of zeros.
+TEST_P(Direction, InverseIsForwardWithPartsExchanged) {
+  for (const Kind kind : kinds) {
+    const Array src = random_input(kind);
+    for (const std::int32_t flag : flags) {
+      const Array expected = exchanged(forward(exchanged(src), flag));
+      ASSERT_TRUE(same_values(inverse(src, mirrored(flag)), expected, Zeros::alike))
+          << to_string(kind) << " data, forward flag " << flag;
+    }
+  }
+}
+
+// In binary64 real parts and imaginary parts go through one network of real coefficients and meet in its last
+// step, where the direction is the sign of a term: the same bits again. Binary32 twiddles round on their way.
+TEST_P(Direction, InverseIsForwardReflected) {
+  const bool exact = kernel().precision == Precision::twofold;
+  for (int round = 0; round < 4; ++round) {
+    const Array src = random_input();
+    const Array got = inverse(src, XFM_SCALE_NONE);
+    const Array expected = reflected(forward(src, XFM_SCALE_NONE));
+    EXPECT_LE(greatest_difference(got, expected), bound() * sum_of_magnitudes(src));
+    EXPECT_LE(relative_distance(got, expected), bound());
+    EXPECT_TRUE(!exact || same_values(got, expected, Zeros::alike));
+  }
+}
+
+// An entry of either matrix may be off by the bound, and the two in opposite directions, but not a whole
+// column.
+TEST_P(Direction, InverseMatrixIsForwardMatrixReflected) {
+  for (int in = 0; in < kernel().read; ++in) {
+    Array unit(kernel().precision, kernel().read);
+    unit.fill(0.0);
+    unit.set(in, 1.0);
+    const Array expected = reflected(forward(unit, XFM_SCALE_NONE));
+    EXPECT_LE(relative_distance(inverse(unit, XFM_SCALE_NONE), expected), bound()) << "unit at scalar " << in;
+  }
+}
+
+// Conjugate data and constants round alike.
+TEST_P(Direction, RealInputHasConjugateSpectra) {
+  for (const Kind kind : kinds) {
+    Array src = random_input(kind);
+    for (int i = 1; i < src.count(); i += 2) src.set(i, 0.0);
+    ASSERT_TRUE(
+        same_values(inverse(src, XFM_SCALE_NONE), conjugate(forward(src, XFM_SCALE_NONE)), Zeros::alike))
+        << to_string(kind) << " data";
+  }
+}
+
+// Either direction carries 1/N by a flag of its own; the other one's flag is as good as none.
+TEST_P(Direction, FlagOfTheOtherDirectionIsNoFactor) {
+  const Array src = random_input(Kind::wide);
+  EXPECT_TRUE(same_bits(forward(src, XFM_SCALE_INV_BY_N), forward(src, XFM_SCALE_NONE)));
+  EXPECT_TRUE(same_bits(inverse(src, XFM_SCALE_FWD_BY_N), inverse(src, XFM_SCALE_NONE)));
+}
+
+// exp(-pi i) = exp(pi i) = -1: two points have one direction, and no more points do.
+TEST_P(Direction, OnlyTwoPointsHaveNone) {
+  const Array src = random_input();
+  for (const std::int32_t flag : flags) {
+    const bool same = static_cast<bool>(same_bits(inverse(src, mirrored(flag)), forward(src, flag)));
+    EXPECT_EQ(same, kernel().length == 2) << "forward flag " << flag;
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(All, Direction, testing::ValuesIn(kernels_of(forward_family)), ByName());
+
+TEST(Directions, AreOfOneNumber) {
+  EXPECT_EQ(kernels_of(forward_family).size(), kernels_of(inverse_family).size());
+}
+
+}  // namespace
+}  // namespace xfm::test

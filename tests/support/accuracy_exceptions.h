@@ -1,0 +1,23 @@
+// The kernels whose matrix passes the bound of their precision, and how far its worst entry is off: more
+// roundings on the way than the bound allows for, with every constant right to its last bit. The figures are
+// rounded up in the third digit, are published, and may fall, never rise.
+#pragma once
+
+namespace xfm::test {
+
+struct AccuracyException {
+  const char* family;
+  const char* type;
+  int length;
+  double worst;
+};
+
+constexpr AccuracyException accuracy_exceptions[] = {
+    {"DFTFwd_CToC", "32fc", 41, 2.02e-7}, {"DFTInv_CToC", "32fc", 41, 2.02e-7},
+    {"DFTFwd_CToC", "32fc", 47, 3.16e-7}, {"DFTInv_CToC", "32fc", 47, 3.16e-7},
+    {"DFTFwd_CToC", "32fc", 53, 2.18e-7}, {"DFTInv_CToC", "32fc", 53, 2.18e-7},
+    {"DFTFwd_CToC", "32fc", 59, 3.75e-7}, {"DFTInv_CToC", "32fc", 59, 3.75e-7},
+    {"DFTFwd_CToC", "32fc", 61, 2.51e-7}, {"DFTInv_CToC", "32fc", 61, 2.51e-7},
+};
+
+}  // namespace xfm::test
