@@ -23,14 +23,9 @@ bool is_of(const AccuracyException& exception, const Kernel& kernel) {
          std::string_view(kernel.type) == exception.type && kernel.length == exception.length;
 }
 
-double bound(const Kernel& kernel) {
-  for (const AccuracyException& exception : accuracy_exceptions)
-    if (is_of(exception, kernel)) return exception.worst;
-  return matrix_bound(kernel.precision);
-}
-
 TEST(Accuracy, KernelsAreWithinTheirBounds) {
-  for (const auto& [kernel, errors] : measured()) EXPECT_LE(errors.worst, bound(kernel)) << kernel.name;
+  for (const auto& [kernel, errors] : measured())
+    EXPECT_LE(errors.worst, matrix_bound(kernel)) << kernel.name;
 }
 
 // An exception that is not needed any more goes, and one that is keeps the figure that is reached.
