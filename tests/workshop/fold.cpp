@@ -40,7 +40,12 @@ TEST_F(Fold, AProductThatIsAlsoAddedStays) {
   const Value product = network.mul(c, x);
   test::store(network, network.mul(d, product) + y, 0);
   test::store(network, product + z, 1);
-  EXPECT_EQ(mults(*folded(2)), 2);
+  const auto result = folded(2);
+  EXPECT_EQ(mults(*result), 2);
+  for (const float input : {0.1F, 0.2F, 0.3F, 0.4F}) {
+    const std::vector<float> src = {input, 0, 0};
+    EXPECT_EQ(test::evaluate<float>(network, src, 2), test::evaluate<float>(*result, src, 2));
+  }
 }
 
 TEST_F(Fold, AProductOfASumOfProducts) {
