@@ -23,6 +23,7 @@ long allocations = 0;
 
 #if XFM_COUNT_ALLOCATIONS
 // glibc's own entries stand behind the names that a program may replace.
+// NOLINTBEGIN(bugprone-reserved-identifier,readability-identifier-naming,readability-inconsistent-declaration-parameter-name)
 extern "C" {
 void* __libc_malloc(std::size_t);
 void* __libc_calloc(std::size_t, std::size_t);
@@ -51,6 +52,7 @@ int posix_memalign(void** block, std::size_t alignment, std::size_t size) {
   return *block == nullptr;
 }
 }
+// NOLINTEND(bugprone-reserved-identifier,readability-identifier-naming,readability-inconsistent-declaration-parameter-name)
 #endif
 
 namespace xfm::test {

@@ -10,8 +10,8 @@ class Contract : public KernelTest {
  protected:
   /// One call must give the status, and leave src and dst as they are. Either pointer may be replaced by
   /// null.
-  void expect_refusal(xfmStatus expected, Array& src, Array& dst, std::int32_t flag, bool src_null = false,
-                      bool dst_null = false);
+  static void expect_refusal(xfmStatus expected, Array& src, Array& dst, std::int32_t flag,
+                             bool src_null = false, bool dst_null = false);
 };
 
 void Contract::expect_refusal(xfmStatus expected, Array& src, Array& dst, std::int32_t flag, bool src_null,

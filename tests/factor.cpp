@@ -9,7 +9,7 @@ class Factor : public KernelTest {
  protected:
   /// Kernels whose tree has a chirp carry an impulse through rounded constants; its output is not the factor
   /// itself.
-  bool has_chirp() const {
+  static bool has_chirp() {
     const bool complex = std::string(kernel().family).ends_with("_CToC");
     return complex && kernel().precision == Precision::single &&
            (kernel().length == 47 || kernel().length == 59);

@@ -16,7 +16,7 @@ constexpr Place places[] = {Place::first, Place::after_first, Place::before_last
 
 class Memory : public KernelTest {
  protected:
-  std::byte* put(const Guarded& region, Place place, int count) const {
+  static std::byte* put(const Guarded& region, Place place, int count) {
     const int bytes = count * step();
     switch (place) {
       case Place::first:
@@ -29,7 +29,7 @@ class Memory : public KernelTest {
         return region.end() - bytes;
     }
   }
-  std::size_t room(int count) const { return static_cast<std::size_t>((count + 1) * step()); }
+  static std::size_t room(int count) { return static_cast<std::size_t>((count + 1) * step()); }
   /// Between guard pages, src write-protected, what lies around dst unchanged.
   void expect_inside(Guarded& from, Guarded& to, Place src_place, Place dst_place);
 };
@@ -48,7 +48,8 @@ void Memory::expect_inside(Guarded& from, Guarded& to, Place src_place, Place ds
     ASSERT_TRUE(same_bits(dst, separate(data, flag).data(), kernel().precision, kernel().written));
     const auto untouched = [](std::byte b) { return b == std::byte{0xAA}; };
     ASSERT_TRUE(std::all_of(to.begin(), dst, untouched)) << "written in front of dst";
-    ASSERT_TRUE(std::all_of(dst + kernel().written * step(), to.end(), untouched)) << "written behind dst";
+    ASSERT_TRUE(std::all_of(dst + std::ptrdiff_t{kernel().written} * step(), to.end(), untouched))
+        << "written behind dst";
   }
 }
 

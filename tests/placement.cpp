@@ -10,14 +10,15 @@ namespace {
 
 class Placement : public KernelTest {
  protected:
-  void expect_same_at_any_offset(const Array& data, std::int32_t flag);
+  static void expect_same_at_any_offset(const Array& data, std::int32_t flag);
   /// A call inside one block of memory, src at one scalar and dst at another. All of the block must come out
   /// as if the output, made in separate arrays, had been laid over it.
-  void expect_overlaid(const Array& src, const Array& result, int src_at, int dst_at, std::int32_t flag);
+  static void expect_overlaid(const Array& src, const Array& result, int src_at, int dst_at,
+                              std::int32_t flag);
 
-  int reach() const { return std::max(kernel().read, kernel().written); }
+  static int reach() { return std::max(kernel().read, kernel().written); }
   /// Scalars between two multiples of 16 bytes.
-  int positions() const { return 16 / step(); }
+  static int positions() { return 16 / step(); }
 };
 
 void Placement::expect_overlaid(const Array& src, const Array& result, int src_at, int dst_at,

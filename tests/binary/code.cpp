@@ -44,7 +44,7 @@ class Code : public KernelTest {
   }
 
   /// Binary64 and packed: a register is one complex number.
-  bool in_pairs() const { return kernel().packed_math && kernel().precision == Precision::twofold; }
+  static bool in_pairs() { return kernel().packed_math && kernel().precision == Precision::twofold; }
 
  private:
   std::map<std::string, const Body&> bodies_;
@@ -52,6 +52,12 @@ class Code : public KernelTest {
 
 TEST_P(Code, NoLoop) {
   for (const auto& [name, body] : bodies()) EXPECT_FALSE(body.has_loop) << name;
+}
+
+// The entry tests and the choice of the factor come first; then every operation is done, whatever the flag.
+TEST_P(Code, NoBranchAfterTheEntryTests) {
+  for (const auto& [name, body] : bodies())
+    for (const std::string& branch : body.late_branches) ADD_FAILURE() << name << ": " << branch;
 }
 
 TEST_P(Code, StaysInTheFunctionOrGoesToTheTwin) {

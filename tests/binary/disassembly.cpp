@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <stdexcept>
 #include <unordered_map>
+#include <unordered_set>
 
 #include "paths.h"
 #include "tests/binary/tools.h"
@@ -61,6 +62,7 @@ class Tracer {
       open.insert(open.end(), next.begin(), next.end());
     }
     body_.has_loop = has_loop();
+    body_.late_branches = late_branches();
     return std::move(body_);
   }
 
@@ -102,6 +104,26 @@ class Tracer {
       depart(instruction, "goes into the middle of an instruction");
     }
     return {};
+  }
+
+  static bool is_arithmetic(const Instruction& instruction) { return instruction.sort >= Sort::scalar_add; }
+
+  std::vector<std::string> late_branches() const {
+    Instructions open;
+    for (const auto& [instruction, next] : successors_)
+      if (is_arithmetic(*instruction)) open.push_back(instruction);
+    std::unordered_set<const Instruction*> seen;
+    std::vector<std::string> branches;
+    while (!open.empty()) {
+      const Instruction* instruction = open.back();
+      open.pop_back();
+      if (!seen.insert(instruction).second) continue;
+      if (instruction->is_jump() && !instruction->is_unconditional_jump())
+        branches.push_back(instruction->text());
+      const Instructions& next = successors_.at(instruction);
+      open.insert(open.end(), next.begin(), next.end());
+    }
+    return branches;
   }
 
   /// Takes away, again and again, what nothing leads to any more; a loop stays.

@@ -32,7 +32,8 @@ class Disassembly {
 /// seldom-run parts may stand away from the rest, under the name NAME.cold or the like.
 struct Body {
   std::vector<const Instruction*> instructions;
-  std::vector<std::string> departures;  ///< calls and jumps to elsewhere, and what cannot be followed
+  std::vector<std::string> departures;     ///< calls and jumps to elsewhere, and what cannot be followed
+  std::vector<std::string> late_branches;  ///< conditional jumps that come after arithmetic
   bool has_loop = false;
 };
 

@@ -17,6 +17,7 @@ enum class Sort {
   bits,           ///< logic on vector registers: signs
   conversion,     ///< between the precisions
   between_lanes,  ///< shuffles
+  // arithmetic, from here to the end
   scalar_add,
   scalar_mult,
   packed_add,

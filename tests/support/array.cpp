@@ -36,7 +36,8 @@ std::string hexadecimal(double value) {
 }  // namespace
 
 double load_scalar(Precision precision, const void* base, int index) {
-  const std::byte* place = static_cast<const std::byte*>(base) + index * scalar_size(precision);
+  const std::byte* place =
+      static_cast<const std::byte*>(base) + std::ptrdiff_t{index} * scalar_size(precision);
   if (precision == Precision::single) {
     float value;
     std::memcpy(&value, place, sizeof value);
@@ -48,7 +49,7 @@ double load_scalar(Precision precision, const void* base, int index) {
 }
 
 void store_scalar(Precision precision, void* base, int index, double value) {
-  std::byte* place = static_cast<std::byte*>(base) + index * scalar_size(precision);
+  std::byte* place = static_cast<std::byte*>(base) + std::ptrdiff_t{index} * scalar_size(precision);
   if (precision == Precision::single) {
     const auto narrow = static_cast<float>(value);
     std::memcpy(place, &narrow, sizeof narrow);
@@ -71,7 +72,7 @@ void poison(Precision precision, void* base, int count, Poison pattern) {
   const std::uint32_t narrow = quiet ? 0xffd3c2b1 : 0x7fa1b2c3;
   const std::uint64_t wide = quiet ? 0xfffbd3c2b1a09687 : 0x7ff5a1b2c3d4e5f6;
   for (int i = 0; i < count; ++i) {
-    std::byte* place = static_cast<std::byte*>(base) + i * scalar_size(precision);
+    std::byte* place = static_cast<std::byte*>(base) + std::ptrdiff_t{i} * scalar_size(precision);
     if (precision == Precision::single) {
       std::memcpy(place, &narrow, sizeof narrow);
     } else {

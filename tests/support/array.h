@@ -38,7 +38,7 @@ class Array {
   void* data() { return start_; }
   const void* data() const { return start_; }
   /// Where scalar `index` lies; one past the last is allowed.
-  std::byte* at(int index) { return start_ + index * scalar_size(precision_); }
+  std::byte* at(int index) { return start_ + std::ptrdiff_t{index} * scalar_size(precision_); }
 
   double operator[](int index) const { return load_scalar(precision_, start_, index); }
   void set(int index, double value) { store_scalar(precision_, start_, index, value); }

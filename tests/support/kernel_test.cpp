@@ -13,8 +13,9 @@ std::string heading(const std::string& name) { return name + ", XFM_SEED=" + std
 
 KernelTest::KernelTest() : random(GetParam().name), trace_(__FILE__, __LINE__, heading(GetParam().name)) {}
 
-Array KernelTest::separate(const Array& src, std::int32_t flag) const {
-  const Array aligned(src);
+Array KernelTest::separate(const Array& src, std::int32_t flag) {
+  Array aligned(src.precision(), src.count());
+  aligned.copy(src);
   Array dst = output();
   dst.fill(Poison::quiet_nan);
   EXPECT_EQ(run(kernel(), aligned.data(), dst.data(), flag), xfmStsOk);
@@ -23,7 +24,7 @@ Array KernelTest::separate(const Array& src, std::int32_t flag) const {
 
 GenericTest::GenericTest() : random(GetParam().name), trace_(__FILE__, __LINE__, heading(GetParam().name)) {}
 
-const Kernel* GenericTest::kernel_of(int length) const {
+const Kernel* GenericTest::kernel_of(int length) {
   for (const Kernel& kernel : catalogue::kernels()) {
     if (std::string(kernel.family) == generic().family && std::string(kernel.type) == generic().type &&
         kernel.length == length)

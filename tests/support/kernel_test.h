@@ -25,16 +25,16 @@ class KernelTest : public testing::TestWithParam<Kernel> {
  protected:
   KernelTest();
 
-  const Kernel& kernel() const { return GetParam(); }
+  static const Kernel& kernel() { return GetParam(); }
   /// Bytes between the offsets that the element type allows.
-  int step() const { return scalar_size(kernel().precision); }
+  static int step() { return scalar_size(kernel().precision); }
   Array random_input(Kind kind = Kind::ordinary) {
     return random.array(kernel().precision, kernel().read, kind);
   }
-  Array output() const { return Array(kernel().precision, kernel().written); }
+  static Array output() { return {kernel().precision, kernel().written}; }
   /// What the kernel makes of src in separate, aligned arrays. The tests of matrix and definition vouch for
   /// it.
-  Array separate(const Array& src, std::int32_t flag) const;
+  static Array separate(const Array& src, std::int32_t flag);
 
   Random random;
 
@@ -45,9 +45,9 @@ class KernelTest : public testing::TestWithParam<Kernel> {
 class GenericTest : public testing::TestWithParam<Generic> {
  protected:
   GenericTest();
-  const Generic& generic() const { return GetParam(); }
+  static const Generic& generic() { return GetParam(); }
   /// The kernel that serves the length, or null.
-  const Kernel* kernel_of(int length) const;
+  static const Kernel* kernel_of(int length);
 
   Random random;
 
