@@ -42,7 +42,7 @@ Points<T> length5(const Points<T>& x, Centre centre) {
 
 /// In binary32 with the expressions that hold products formed in binary64 and rounded once.
 inline Points<float> mixed3(const Points<float>& x) {
-  const double c = sine<double>(1, 3);
+  const auto c = sine<double>(1, 3);
   const auto a = x[1] + x[2], d = x[1] - x[2];
   const auto centre = [](float x0, float sum) { return static_cast<float>(double{x0} - 0.5 * double{sum}); };
   const auto scaled = [&](float v) { return static_cast<float>(c * double{v}); };
@@ -51,8 +51,8 @@ inline Points<float> mixed3(const Points<float>& x) {
 }
 
 inline Points<float> mixed5(const Points<float>& x) {
-  const double c1 = cosine<double>(1, 5), c2 = -cosine<double>(2, 5);
-  const double s1 = sine<double>(1, 5), s2 = sine<double>(2, 5);
+  const auto c1 = cosine<double>(1, 5), c2 = -cosine<double>(2, 5);
+  const auto s1 = sine<double>(1, 5), s2 = sine<double>(2, 5);
   const auto a1 = x[1] + x[4], a2 = x[2] + x[3], b1 = x[1] - x[4], b2 = x[2] - x[3];
   const auto part = [&](float Number<float>::*of) {
     const double x0 = x[0].*of, p1 = a1.*of, p2 = a2.*of, q1 = b1.*of, q2 = b2.*of;
@@ -67,7 +67,7 @@ inline Points<float> mixed5(const Points<float>& x) {
 
 /// Two transforms of length 4 and full products with the eighth roots, trivial ones included.
 inline Points<float> radix4by2(const Points<float>& x) {
-  const float r = cosine<float>(1, 8);
+  const auto r = cosine<float>(1, 8);
   const Number<float> w[] = {{1, 0}, {r, -r}, {0, -1}, {-r, -r}};
   const auto even = length4<float>({x[0], x[2], x[4], x[6]}), odd = length4<float>({x[1], x[3], x[5], x[7]});
   Points<float> out(8);

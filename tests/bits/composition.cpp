@@ -48,7 +48,8 @@ Points<float> two_stages(const Plan& plan, const Points<float>& x) {
     Points<float> row;
     for (int c = 0; c < b; ++c) {
       const Number<float> y = columns[index(c)][index(k1)];
-      const Number<float> w{cosine<float>(c * k1, n), -sine<float>(c * k1, n)};
+      const long turns = static_cast<long>(c) * k1;
+      const Number<float> w{cosine<float>(turns, n), -sine<float>(turns, n)};
       row.push_back(good_thomas ? y : w * y);
     }
     row = compose(second, row);

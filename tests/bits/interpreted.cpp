@@ -10,26 +10,24 @@
 namespace xfm::test {
 namespace {
 
-class Interpreted : public KernelTest {
- protected:
-  Array interpret(const gen::Network& network, const Array& src, double factor) const {
-    Array dst = output();
-    dst.fill(Poison::quiet_nan);
-    if (kernel().precision == Precision::single) {
-      run<float>(network, src, dst, factor);
-    } else {
-      run<double>(network, src, dst, factor);
-    }
-    return dst;
-  }
+class Interpreted : public KernelTest {};
 
- private:
-  template <class T>
-  static void run(const gen::Network& network, const Array& src, Array& dst, double factor) {
-    gen::evaluate(network, static_cast<const T*>(src.data()), static_cast<T*>(dst.data()),
-                  static_cast<T>(factor));
+template <class T>
+void run(const gen::Network& network, const Array& src, Array& dst, double factor) {
+  gen::evaluate(network, static_cast<const T*>(src.data()), static_cast<T*>(dst.data()),
+                static_cast<T>(factor));
+}
+
+Array interpret(const gen::Kernel& kernel, const Array& src, double factor) {
+  Array dst(src.precision(), kernel.written);
+  dst.fill(Poison::quiet_nan);
+  if (src.precision() == Precision::single) {
+    run<float>(*kernel.network, src, dst, factor);
+  } else {
+    run<double>(*kernel.network, src, dst, factor);
   }
-};
+  return dst;
+}
 
 TEST_P(Interpreted, EqualsTheKernel) {
   constexpr int rounds = 3;
@@ -40,7 +38,7 @@ TEST_P(Interpreted, EqualsTheKernel) {
     for (int round = 0; round < rounds; ++round) {
       const Array src = draw(data, random, kernel().precision, kernel().read);
       for (const std::int32_t flag : flags) {
-        const Array expected = interpret(*made.network, src, factor(kernel(), flag));
+        const Array expected = interpret(made, src, factor(kernel(), flag));
         ASSERT_TRUE(same_values(separate(src, flag), expected, Zeros::as_they_are))
             << data.name << " data, round " << round << ", flag " << flag;
       }

@@ -11,8 +11,8 @@
 namespace xfm::test {
 
 inline Points<double> symmetric7(const Points<double>& x) {
-  const double c1 = cosine<double>(1, 7), c2 = -cosine<double>(2, 7), c3 = -cosine<double>(3, 7);
-  const double s1 = sine<double>(1, 7), s2 = sine<double>(2, 7), s3 = sine<double>(3, 7);
+  const auto c1 = cosine<double>(1, 7), c2 = -cosine<double>(2, 7), c3 = -cosine<double>(3, 7);
+  const auto s1 = sine<double>(1, 7), s2 = sine<double>(2, 7), s3 = sine<double>(3, 7);
   const auto a1 = x[1] + x[6], a2 = x[2] + x[5], a3 = x[3] + x[4];
   const auto b1 = x[1] - x[6], b2 = x[2] - x[5], b3 = x[3] - x[4];
   const auto t1 = ((x[0] + c1 * a1) - c2 * a2) - c3 * a3;
@@ -27,7 +27,7 @@ inline Points<double> symmetric7(const Points<double>& x) {
 
 /// Split radix, the twiddles reduced to sums and differences of u and v.
 inline Points<double> split8(const Points<double>& x) {
-  const double r = cosine<double>(1, 8);
+  const auto r = cosine<double>(1, 8);
   const auto a0 = x[0] + x[4], a1 = x[1] + x[5], a2 = x[2] + x[6], a3 = x[3] + x[7];
   const auto d0 = x[0] - x[4], d1 = x[1] - x[5], d2 = x[2] - x[6], d3 = x[3] - x[7];
   const auto e0 = a0 + a2, e1 = a1 + a3;
@@ -41,7 +41,7 @@ struct Halves5 {
   Number<double> e, t1, t2, u1, u2;
 };
 inline Halves5 halves5(const Points<double>& x) {
-  const double s1 = sine<double>(1, 5), s2 = sine<double>(2, 5), root = std::sqrt(5.0) / 4;
+  const auto s1 = sine<double>(1, 5), s2 = sine<double>(2, 5), root = std::sqrt(5.0) / 4;
   const auto a1 = x[1] + x[4], a2 = x[2] + x[3], b1 = x[1] - x[4], b2 = x[2] - x[3];
   const auto s = a1 + a2, t = x[0] - 0.25 * s, w = root * (a1 - a2);
   return {x[0] + s, t + w, t - w, s1 * b1 + s2 * b2, s1 * b2 - s2 * b1};
@@ -65,7 +65,7 @@ inline Points<double> joined10(const Points<double>& x) {
 
 /// 3 by 4, joined at the end only.
 inline Points<double> joined12(const Points<double>& x) {
-  const double s = sine<double>(1, 3);
+  const auto s = sine<double>(1, 3);
   Points<double> e, t, u;
   for (const auto& [w, p, q] : {std::array{x[0], x[4], x[8]}, std::array{x[3], x[7], x[11]},
                                 std::array{x[6], x[10], x[2]}, std::array{x[9], x[1], x[5]}}) {

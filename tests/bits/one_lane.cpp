@@ -39,21 +39,21 @@ Scalar on_one_lane(const gen::Tree& tree, int length, dft::Direction direction) 
   return scalar;
 }
 
-class OneLane : public KernelTest {
- protected:
-  Array evaluate(const gen::Network& network, const Array& src) const {
-    Array dst = output();
-    gen::evaluate(network, static_cast<const float*>(src.data()), static_cast<float*>(dst.data()), 1.0F);
-    return dst;
+Array evaluate(const gen::Network& network, const Array& src) {
+  Array dst(src.precision(), src.count());
+  gen::evaluate(network, static_cast<const float*>(src.data()), static_cast<float*>(dst.data()), 1.0F);
+  return dst;
+}
+
+Array evaluate(const Scalar& scalar, const Array& src) {
+  Array dst = evaluate(*scalar.network, src);
+  for (int i = 0; i < dst.count(); ++i) {
+    if (scalar.negative[static_cast<std::size_t>(i)]) dst.set(i, -dst[i]);
   }
-  Array evaluate(const Scalar& scalar, const Array& src) const {
-    Array dst = evaluate(*scalar.network, src);
-    for (int i = 0; i < dst.count(); ++i) {
-      if (scalar.negative[static_cast<std::size_t>(i)]) dst.set(i, -dst[i]);
-    }
-    return dst;
-  }
-};
+  return dst;
+}
+
+class OneLane : public KernelTest {};
 
 std::vector<Kernel> packed_complex_kernels() {
   std::vector<Kernel> kernels;

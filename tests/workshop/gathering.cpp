@@ -18,6 +18,22 @@ using Spread = std::vector<std::vector<Element>>;
 
 constexpr int lanes_of_a_node = 4;
 
+/// Number n of what the registers are loaded with.
+Number number(int n) { return {1.0 + n, 1000.0 - 3 * n}; }
+
+/// What the value's lanes are.
+std::vector<Number> values(const Complex& z) {
+  std::vector<double> src(200);
+  for (int n = 0; n < 100; ++n) {
+    src[static_cast<std::size_t>(n)] = number(n).real();
+    src[static_cast<std::size_t>(100 + n)] = number(n).imag();
+  }
+  const auto re = test::lanes_of(*z.p.network, z.p, src), im = test::lanes_of(*z.q.network, z.q, src);
+  std::vector<Number> result;
+  for (std::size_t l = 0; l < lanes_of_a_node; ++l) result.emplace_back(re[l], im[l]);
+  return result;
+}
+
 /// Registers of a split form: node j holds the numbers 4j to 4j + 3, number n being scalars n and 100 + n of
 /// src.
 class Gathering : public testing::Test {
@@ -31,20 +47,6 @@ class Gathering : public testing::Test {
       elements.push_back(lanes.scatter(z, lanes_of_a_node, Form::split));
     }
     return elements;
-  }
-  static Number number(int n) { return {1.0 + n, 1000.0 - 3 * n}; }
-
-  /// What the value's lanes are.
-  std::vector<Number> values(const Complex& z) {
-    std::vector<double> src(200);
-    for (int n = 0; n < 100; ++n) {
-      src[static_cast<std::size_t>(n)] = number(n).real();
-      src[static_cast<std::size_t>(100 + n)] = number(n).imag();
-    }
-    const auto re = test::lanes_of(*z.p.network, z.p, src), im = test::lanes_of(*z.q.network, z.q, src);
-    std::vector<Number> result;
-    for (std::size_t l = 0; l < lanes_of_a_node; ++l) result.emplace_back(re[l], im[l]);
-    return result;
   }
 
   Network network{4};

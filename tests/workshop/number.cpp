@@ -24,7 +24,7 @@ TEST(Number, Inverses) {
   for (int n = 1; n <= 2 * longest; ++n) {
     for (int a = 1; a <= n; ++a) {
       if (gcd(a, n) == 1) {
-        ASSERT_EQ(modulo(a * inverse_modulo(a, n), n), 1 % n) << a << " modulo " << n;
+        ASSERT_EQ(modulo(1LL * a * inverse_modulo(a, n), n), 1 % n) << a << " modulo " << n;
       } else {
         ASSERT_THROW(inverse_modulo(a, n), std::invalid_argument) << a << " modulo " << n;
       }
@@ -98,8 +98,8 @@ TEST(TwoStages, ExponentsAdd) {
       for (int c = 0; c < b; ++c) {
         for (int k1 = 0; k1 < a; ++k1) {
           for (int k2 = 0; k2 < b; ++k2) {
-            ASSERT_EQ(modulo(map.input(m, c) * map.output(k1, k2), a * b),
-                      modulo(b * m * k1 + map.twiddle(c, k1) + a * c * k2, a * b))
+            ASSERT_EQ(modulo(1LL * map.input(m, c) * map.output(k1, k2), a * b),
+                      modulo(1LL * b * m * k1 + map.twiddle(c, k1) + a * c * k2, a * b))
                 << a << " by " << b;
           }
         }
