@@ -10,7 +10,7 @@ namespace xfm::test {
 
 using Wide = __float128;
 
-/// Integer c in exp(c * i pi / 2), or the like of it: the definition of a family as a matrix of real scalars.
+/// The definition of a family as a matrix of real scalars.
 class Definition {
  public:
   virtual ~Definition() = default;
