@@ -16,7 +16,10 @@ compiled() { sed -n 's|.*Building CXX object .*/\([A-Za-z_0-9]*\.cpp\)\.o$|\1|p'
 
 rm -rf "$place"
 mkdir -p "$place/source"
-cp -R "$source"/{CMakeLists.txt,cmake,core,gen,include,packaging,src,tools} "$place/source"
+for entry in "$source"/*; do
+  case $place/ in "$entry"/*) continue ;; esac # this build is no source
+  [ "${entry##*/}" = build ] || cp -R "$entry" "$place/source"
+done
 cmake -S "$place/source" -B "$place/build" -D CMAKE_BUILD_TYPE=Release \
   -D XFM_TESTS=OFF -D XFM_BENCH=OFF -D XFM_EXAMPLES=OFF "$@" >/dev/null
 
