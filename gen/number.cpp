@@ -2,6 +2,7 @@
 
 #include <numeric>
 #include <stdexcept>
+#include <string>
 
 namespace xfm::gen {
 
@@ -30,12 +31,14 @@ bool is_prime(int n) {
 }
 
 int smallest_primitive_root(int p) {
+  if (!is_prime(p))
+    throw std::invalid_argument(std::to_string(p) + " has no primitive root here: it is not a prime");
   for (int g = 1; g < p; ++g) {
     int order = 1;
     for (long long power = g % p; power != 1 % p; power = power * g % p) ++order;
     if (order == p - 1) return g;
   }
-  throw std::invalid_argument("smallest_primitive_root: argument is not a prime");
+  throw std::logic_error("a prime without a primitive root");
 }
 
 int TwoStages::input(int m, int c) const {

@@ -47,8 +47,13 @@ class Parser {
   }
 
   int number() {
+    constexpr int longest = 1000000;
     int value = 0;
-    while (std::isdigit(static_cast<unsigned char>(peek()))) value = 10 * value + (text_[at_++] - '0');
+    peek();  // spaces separate numbers: they are passed over in front, never inside
+    for (; at_ < text_.size() && std::isdigit(static_cast<unsigned char>(text_[at_])) != 0; ++at_) {
+      value = 10 * value + (text_[at_] - '0');
+      if (value > longest) fail("the number is too large");
+    }
     return value;
   }
 

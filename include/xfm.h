@@ -1,3 +1,4 @@
+/* clang-format off */
 /**
  * @file xfm.h
  * @brief xfm: short, very fast discrete transforms for x86-64.
