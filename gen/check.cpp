@@ -18,6 +18,7 @@ std::vector<LaneSet> live_lanes(const Network& network) {
   std::vector<LaneSet> live(network.nodes().size());
   const auto at = [&](NodeId id) -> LaneSet& { return live[static_cast<std::size_t>(id)]; };
   for (const Store& store : network.stores()) {
+    if (store.node < 0) continue;
     for (std::size_t l = 0; l < static_cast<std::size_t>(network.width()); ++l) {
       at(store.node)[l] |= store.lanes[l] >= 0;
     }
@@ -73,6 +74,14 @@ class LaneCounter {
       case Op::sub:
         ++counts_.add_nodes;
         break;
+      case Op::minus:
+        ++counts_.adds;
+        ++counts_.add_nodes;
+        break;
+      case Op::twice:  // a multiplication by its row, an addition by its instruction
+        ++counts_.mults;
+        ++counts_.add_nodes;
+        break;
       case Op::mul:
       case Op::factor:
         ++counts_.mult_nodes;
@@ -108,7 +117,11 @@ class LaneCounter {
     counts_.adds += adds;
     counts_.mults += mults;
     counts_.add_nodes += adds;
-    counts_.mult_nodes += mults;
+    counts_.mult_nodes += mults + (node.finish == Finish::none ? 0 : 1);
+    if (node.finish == Finish::negated) {
+      ++counts_.adds;
+      ++counts_.add_nodes;
+    }
   }
 
   const Network& network_;
@@ -130,7 +143,8 @@ Counts count(const Network& network) { return LaneCounter(network).run(); }
 
 int instructions(const Network& network) { return static_cast<int>(schedule(network).size()); }
 
-void check_memory(const Network& network, int read, int written, const std::string& name) {
+void check_memory(const Network& network, int read, int written, const std::string& name,
+                  const std::vector<int>& unread) {
   std::vector<int> loads(static_cast<std::size_t>(read)), stores(static_cast<std::size_t>(written));
   for (const Step& step : schedule(network)) {
     const bool loading = step.node >= 0 && network.node(step.node).op == Op::load;
@@ -144,6 +158,7 @@ void check_memory(const Network& network, int read, int written, const std::stri
       throw std::runtime_error(name + ": an input is read after the first store");
     }
   }
+  for (const int scalar : unread) ++loads.at(static_cast<std::size_t>(scalar));
   check_once(std::move(loads), "read", name);
   check_once(std::move(stores), "written", name);
 }

@@ -20,8 +20,10 @@ Counts count(const Network& network);
 /// All live nodes and stores: what a processor has to issue, but for register copies and spills.
 int instructions(const Network& network);
 
-/// Every scalar of 0..scalars-1 is read exactly once; every one of 0..written-1 is written exactly once.
-void check_memory(const Network& network, int read, int written, const std::string& name);
+/// Every scalar of 0..read-1 is read exactly once, but for the `unread`, which never are; every one of
+/// 0..written-1 is written exactly once, and nothing before the last read.
+void check_memory(const Network& network, int read, int written, const std::string& name,
+                  const std::vector<int>& unread = {});
 
 /// Counts against the row.
 void check_counts(const Counts& counts, int adds, int mults, const std::string& name);

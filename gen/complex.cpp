@@ -1,19 +1,28 @@
 #include "gen/complex.h"
 
+#include <algorithm>
+
 namespace xfm::gen {
 namespace {
 
-Value combine(const std::vector<ScaledComplex>& terms, Value Complex::*half) {
-  std::vector<Network::Product> products;
-  Network* network = nullptr;
+using Products = std::vector<Network::Product>;
+
+// The terms of one half that are not zero by structure.
+Products products(const std::vector<ScaledComplex>& terms, Value Complex::*half) {
+  Products present;
   for (const ScaledComplex& term : terms) {
-    const Value v = term.z.*half;
-    if (v.absent()) continue;
-    network = v.network;
-    products.push_back({term.c, v});
+    if (!(term.z.*half).absent() && !term.c.is_zero()) present.push_back({term.c, term.z.*half});
   }
-  return network == nullptr ? Value{} : network->sum(products);
+  return present;
 }
+
+Value combine(const std::vector<ScaledComplex>& terms, Value Complex::*half) {
+  const Products present = products(terms, half);
+  return present.empty() ? Value{} : present.front().v.network->sum(present);
+}
+
+bool is_negative(const Network::Product& term) { return term.c.is_negative() != term.v.negative; }
+bool is_plain(const Network::Product& term) { return magnitude(term.c).is_one(); }
 
 Value product(const Constant& c, Value v) { return v.absent() ? Value{} : v.network->mul(c, v); }
 
@@ -31,6 +40,28 @@ Complex sum(std::initializer_list<ScaledComplex> terms) { return sum(std::vector
 
 Complex sum(const std::vector<ScaledComplex>& terms) {
   return {combine(terms, &Complex::p), combine(terms, &Complex::q)};
+}
+
+Value statement(std::vector<Network::Product> terms) {
+  if (terms.empty()) return {};
+  const bool turned = std::all_of(terms.begin(), terms.end(), is_negative);
+  if (turned) {
+    for (Network::Product& term : terms) term.v = -term.v;
+  }
+  auto leader = terms.begin();
+  if (is_negative(*leader)) {
+    const auto leads = [](const Network::Product& term) { return !is_negative(term); };
+    leader = std::find_if(terms.begin(), terms.end(),
+                          [&](const Network::Product& term) { return leads(term) && is_plain(term); });
+    if (leader == terms.end()) leader = std::find_if(terms.begin(), terms.end(), leads);
+  }
+  std::rotate(terms.begin(), leader, leader + 1);
+  const Value sum = terms.front().v.network->sum(terms);
+  return turned ? -sum : sum;
+}
+
+Complex statement(const std::vector<ScaledComplex>& terms) {
+  return {statement(products(terms, &Complex::p)), statement(products(terms, &Complex::q))};
 }
 
 Complex operator*(const ComplexConstant& w, const Complex& z) {

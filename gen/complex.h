@@ -43,6 +43,12 @@ inline ScaledComplex operator*(const Constant& c, const Complex& z) { return {c,
 Complex sum(std::initializer_list<ScaledComplex> terms);
 Complex sum(const std::vector<ScaledComplex>& terms);
 
+/// One statement, written with a positive term first where it has one: a leading negative term gives way to
+/// the plain operand, or else to the first positive product. Without any positive term it is the negative of
+/// the statement of the turned terms. So a zero comes out as +0.
+Value statement(std::vector<Network::Product> terms);
+Complex statement(const std::vector<ScaledComplex>& terms);
+
 /// w*z, (c + i*s)*(p + i*q) = (c*p - s*q) + i*(s*p + c*q), each product rounded by itself; products with 0, 1
 /// and -1 cost nothing.
 Complex operator*(const ComplexConstant& w, const Complex& z);

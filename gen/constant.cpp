@@ -57,6 +57,19 @@ Constant operator-(const Constant& c) {
 
 Constant magnitude(const Constant& c) { return c.is_negative() ? -c : c; }
 
+Constant operator*(const Constant& a, const Constant& b) {
+  if (a.is_zero() || b.is_one()) return a;
+  if (b.is_zero() || a.is_one()) return b;
+  const bool negative = a.is_negative() != b.is_negative();
+  const Constant u = magnitude(a), v = magnitude(b);
+  const Constant product =
+      u.is_one() ? v
+      : v.is_one()
+          ? u
+          : constant(u.name < v.name ? u.name + " x " + v.name : v.name + " x " + u.name, u.value * v.value);
+  return negative ? -product : product;
+}
+
 Constant cosine(Turn t) {
   const long n = t.num, d = t.den;
   if (2 * n > d) return cosine(turn(d - n, d));           // cos(-x) = cos x

@@ -36,6 +36,9 @@ struct Constant {
 Constant operator-(const Constant& c);
 Constant magnitude(const Constant& c);
 
+/// A product, multiplied out before it is rounded; its name does not depend on the order.
+Constant operator*(const Constant& a, const Constant& b);
+
 /// cos and sin of an exact fraction of the circle, named by their octant form: "cos 1/16", "sin 1/12".
 Constant cosine(Turn t);
 Constant sine(Turn t);

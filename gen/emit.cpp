@@ -108,6 +108,10 @@ class Body {
         return statement(node);
       case Op::factor:
         return fmt::format("s * {}", var(node.in[0]));
+      case Op::twice:
+        return fmt::format("{0} + {0}", var(node.in[0]));
+      case Op::minus:
+        return fmt::format("0 - {}", var(node.in[0]));
     }
     return {};
   }
@@ -144,6 +148,8 @@ class Body {
       const std::string operand = fmt::format("xfm64f{{{}}}", var(term.node));
       sum += c.is_one() ? operand : fmt::format("{} * {}", use(c), operand);
     }
+    if (node.finish != Finish::none) sum = fmt::format("xfm64f{{s}} * ({})", sum);
+    if (node.finish == Finish::negated) sum = "0 - " + sum;
     return kernel_.type.precision == Precision::single ? fmt::format("static_cast<xfm32f>({})", sum) : sum;
   }
 
@@ -174,6 +180,7 @@ class Body {
 
   std::string store(const Store& store) const {
     const auto& to = store.lanes;
+    if (store.node < 0) return fmt::format("  y[{}] = 0;\n", to[0]);
     const std::string v = var(store.node);
     if (network_.width() == 1) return fmt::format("  y[{}] = {};\n", to[0], v);
     if (network_.width() == 2 || (to[0] >= 0 && to[2] == to[0] + 2)) {

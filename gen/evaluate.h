@@ -19,7 +19,7 @@ class Interpreter {
       values_[id] = compute(network_.nodes()[id], src, factor);
     for (const Store& store : network_.stores()) {
       for (std::size_t l = 0; l < max_lanes; ++l) {
-        if (store.lanes[l] >= 0) dst[store.lanes[l]] = at(store.node)[l];
+        if (store.lanes[l] >= 0) dst[store.lanes[l]] = store.node < 0 ? T(0) : at(store.node)[l];
       }
     }
   }
@@ -55,8 +55,12 @@ class Interpreter {
         return in(0) - in(1);
       case Op::mul:
         return static_cast<T>(node.constants[node.constants.size() == 1 ? 0 : l].value) * in(0);
+      case Op::twice:
+        return in(0) + in(0);
+      case Op::minus:
+        return T(0) - in(0);
       case Op::sum:
-        return statement(node);
+        return statement(node, factor);
       case Op::factor:
         return factor * in(0);
     }
@@ -64,7 +68,7 @@ class Interpreter {
   }
 
   // One rounded linear combination: in binary64, or in T where that is wider.
-  T statement(const Node& node) const {
+  T statement(const Node& node, T factor) const {
     using Inner = std::conditional_t<std::is_same_v<T, float>, double, T>;
     Inner total = 0;
     for (std::size_t t = 0; t < node.terms.size(); ++t) {
@@ -72,6 +76,8 @@ class Interpreter {
       const Inner product = static_cast<Inner>(term.coefficient.value) * static_cast<Inner>(at(term.node)[0]);
       total = t == 0 ? product : total + product;
     }
+    if (node.finish != Finish::none) total = static_cast<Inner>(factor) * total;
+    if (node.finish == Finish::negated) total = 0 - total;
     return static_cast<T>(total);
   }
 

@@ -5,25 +5,12 @@
 namespace xfm::gen {
 namespace {
 
-Constant times(const Constant& a, const Constant& b) {
-  if (a.is_zero() || b.is_one()) return a;
-  if (b.is_zero() || a.is_one()) return b;
-  const bool negative = a.is_negative() != b.is_negative();
-  const Constant u = magnitude(a), v = magnitude(b);
-  const Constant product =
-      u.is_one() ? v
-      : v.is_one()
-          ? u
-          : constant(u.name < v.name ? u.name + " x " + v.name : v.name + " x " + u.name, u.value * v.value);
-  return negative ? -product : product;
-}
-
 using Constants = std::vector<Constant>;
 
 Constants times(const Constants& a, const Constants& b) {
   Constants product;
   for (std::size_t l = 0; l < std::max(a.size(), b.size()); ++l) {
-    product.push_back(times(a[a.size() == 1 ? 0 : l], b[b.size() == 1 ? 0 : l]));
+    product.push_back(a[a.size() == 1 ? 0 : l] * b[b.size() == 1 ? 0 : l]);
   }
   return product;
 }
@@ -97,7 +84,7 @@ class Folding {
         return scaled(node.in[0], node.constants);
       case Op::factor:
         return made_->factor(in(0));
-      case Op::sum:
+      default:
         break;
     }
     throw std::logic_error("folding is for networks that round operation by operation");

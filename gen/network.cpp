@@ -52,6 +52,14 @@ Value Network::mul(const std::vector<Constant>& lanes, Value v) {
   return make({.op = Op::mul, .in = {v.node, -1}, .constants = lanes}, v.negative);
 }
 
+Value Network::twice(Value v) { return make({.op = Op::twice, .in = {v.node, -1}}, v.negative); }
+
+Value Network::minus(Value v) { return make({.op = Op::minus, .in = {v.node, -1}}, v.negative); }
+
+Value Network::output(const std::vector<Term>& terms, Finish finish) {
+  return make({.op = Op::sum, .terms = terms, .finish = finish});
+}
+
 Value Network::factor(Value v) { return make({.op = Op::factor, .in = {v.node, -1}}, v.negative); }
 
 Value Network::sum(std::span<const Product> products) {

@@ -27,8 +27,10 @@ enum class Op {
   add,
   sub,
   mul,     ///< times a constant, the same in all lanes or one a lane
+  twice,   ///< times 2, exact: an addition to itself
   sum,     ///< a statement: a linear combination in binary64, rounded once to the kernel's precision
   factor,  ///< times the scale factor
+  minus,   ///< 0 - v, so that a zero leaves as +0
 };
 
 class Network;
@@ -51,6 +53,13 @@ struct Term {
   auto operator<=>(const Term&) const = default;
 };
 
+/// What a statement does in binary64 after its terms are summed and before it is rounded.
+enum class Finish {
+  none,
+  scaled,   ///< times the scale factor
+  negated,  ///< times the scale factor, and 0 minus that
+};
+
 struct Node {
   Op op;
   std::array<NodeId, 2> in{-1, -1};
@@ -58,11 +67,12 @@ struct Node {
       -1, -1, -1, -1};  ///< load: scalar index; shuffle: source lane, from 4 on of in[1]; flip: 1 or 0
   std::vector<Constant> constants{};  ///< mul: one for all lanes or one a lane
   std::vector<Term> terms{};          ///< sum
+  Finish finish = Finish::none;       ///< sum
   auto operator<=>(const Node&) const = default;
 };
 
 struct Store {
-  NodeId node;
+  NodeId node;                                       ///< or -1: zero bits, whatever the data
   std::array<int, max_lanes> lanes{-1, -1, -1, -1};  ///< scalar index in dst a lane, or -1
 };
 
@@ -94,7 +104,9 @@ class Network {
   Value sub(Value a, Value b) { return add(a, -b); }
   Value mul(const Constant& c, Value v);
   Value mul(const std::vector<Constant>& lanes, Value v);
+  Value twice(Value v);
   Value factor(Value v);
+  Value minus(Value v);  ///< -v as an operation, for the outputs that need it
 
   /// The sum of the products c*v, left to right: one statement, or an operation at a time, as the rounding
   /// rule says.
@@ -104,7 +116,12 @@ class Network {
   };
   Value sum(std::span<const Product> products);
 
+  /// A statement that goes straight to an output: the factor, and the sign of the result, are inside.
+  Value output(const std::vector<Term>& terms, Finish finish);
+
   void store(Value v, std::array<int, max_lanes> scalars);
+  void store(Value v, int scalar) { store(v, {scalar, -1, -1, -1}); }
+  void store_zero(int scalar) { stores_.push_back({-1, {scalar, -1, -1, -1}}); }
 
  private:
   Value make(Node node, bool negative = false);

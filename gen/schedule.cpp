@@ -9,7 +9,9 @@ class Scheduler {
  public:
   explicit Scheduler(const Network& network)
       : network_(network), state_(network.nodes().size(), State::dead), tail_(state_.size(), false) {
-    for (const Store& store : network.stores()) mark_live(store.node);
+    for (const Store& store : network.stores()) {
+      if (store.node >= 0) mark_live(store.node);
+    }
     mark_tails();
   }
 
@@ -42,7 +44,7 @@ class Scheduler {
   std::vector<NodeId> windows() const {
     constexpr int window =
         24;  // cycles; 12 spills more, 48 is the recipe's order up to a few hundred operations
-    std::vector<NodeId> order;
+    std::vector<NodeId> order = loads_of_tails();
     std::vector<int> start(state_.size(), 0), end(state_.size(), 0);
     for (NodeId id = 0; id < size(); ++id) {
       const Op op = network_.node(id).op;
@@ -55,6 +57,21 @@ class Scheduler {
     std::stable_sort(order.begin(), order.end(),
                      [&](NodeId a, NodeId b) { return start[index(a)] / window < start[index(b)] / window; });
     return order;
+  }
+
+  // What only tails read has to be read all the same before the first store.
+  std::vector<NodeId> loads_of_tails() const {
+    std::vector<bool> used(state_.size(), false);
+    for (NodeId id = 0; id < size(); ++id) {
+      if (state_[index(id)] == State::dead || tail_[index(id)]) continue;
+      for (const NodeId operand : operands(network_.node(id))) used[index(operand)] = true;
+    }
+    std::vector<NodeId> loads;
+    for (NodeId id = 0; id < size(); ++id) {
+      const bool load = network_.node(id).op == Op::load;
+      if (load && state_[index(id)] == State::live && !used[index(id)]) loads.push_back(id);
+    }
+    return loads;
   }
 
   // Cycles, typical of current processors.
@@ -75,14 +92,15 @@ class Scheduler {
   }
 
   // A node is part of an output's tail if it leads to factor multiplications and to nothing else within two
-  // steps: the factor itself, an interleaving, a join.
+  // steps: the factor itself, a sign, an interleaving, a join.
   void mark_tails() {
     std::vector<bool> other(state_.size(), false);
     for (NodeId id = size() - 1; id >= 0; --id) {
       if (at(id) != State::live) continue;
       const Op op = network_.node(id).op;
       const bool joins = op == Op::exchange || op == Op::flip || op == Op::shuffle || is_join(id);
-      tail_[index(id)] = op == Op::factor || (joins && !other[index(id)]);
+      const bool scales = op == Op::factor || op == Op::minus || network_.node(id).finish != Finish::none;
+      tail_[index(id)] = scales || (joins && !other[index(id)]);
       if (tail_[index(id)]) continue;
       for (const NodeId operand : operands(network_.node(id))) other[index(operand)] = true;
     }
@@ -112,7 +130,7 @@ class Scheduler {
   void finish_ready() {
     stored_.resize(network_.stores().size(), false);
     for (std::size_t s = 0; s < network_.stores().size(); ++s) {
-      if (ready(network_.stores()[s].node)) emit_store(s);
+      if (network_.stores()[s].node < 0 || ready(network_.stores()[s].node)) emit_store(s);
     }
   }
 
@@ -120,7 +138,7 @@ class Scheduler {
     stored_.resize(network_.stores().size(), false);
     if (stored_[s]) return;
     stored_[s] = true;
-    emit(network_.stores()[s].node);
+    if (network_.stores()[s].node >= 0) emit(network_.stores()[s].node);
     steps_.push_back({.store = static_cast<int>(s)});
   }
 

@@ -19,31 +19,59 @@ class Parser {
  private:
   // "2,2" at the outermost level is a rule without a name.
   Tree stages() {
-    Tree first = stage();
+    Tree first = product();
     if (peek() != ',') return first;
     return {",", 0, list(std::move(first))};
+  }
+
+  Tree product() {
+    return run('x', [this] { return power(); });
+  }
+  Tree power() {
+    return run('*', [this] { return stage(); });
+  }
+
+  // One operand, or several joined by a sign.
+  template <class Operand>
+  Tree run(char sign, Operand operand) {
+    std::vector<Tree> args{operand()};
+    while (peek() == sign) {
+      ++at_;
+      args.push_back(operand());
+    }
+    return args.size() == 1 ? args.front() : Tree{std::string(1, sign), 0, std::move(args)};
   }
 
   std::vector<Tree> list(Tree first) {
     std::vector<Tree> items{std::move(first)};
     while (peek() == ',') {
       ++at_;
-      items.push_back(stage());
+      items.push_back(product());
     }
     return items;
   }
 
   Tree stage() {
     if (std::isdigit(static_cast<unsigned char>(peek()))) return {"", number(), {}};
+    if (peek() == '(') {
+      ++at_;
+      Tree inner = product();
+      close();
+      return inner;
+    }
     std::string rule;
     while (std::isalpha(static_cast<unsigned char>(peek())) || peek() == '*') rule += text_[at_++];
     if (rule.empty()) fail("a number or a rule is expected");
     if (peek() != '(') fail("'(' is expected");
     ++at_;
-    std::vector<Tree> args = list(stage());
+    std::vector<Tree> args = list(product());
+    close();
+    return {std::move(rule), 0, std::move(args)};
+  }
+
+  void close() {
     if (peek() != ')') fail("')' is expected");
     ++at_;
-    return {std::move(rule), 0, std::move(args)};
   }
 
   int number() {
@@ -75,8 +103,26 @@ class Parser {
 
 Tree parse_tree(std::string_view text) { return Parser(text).whole(); }
 
+namespace {
+
+bool is_run(const Tree& tree) { return tree.rule == "x" || tree.rule == "*"; }
+
+// A run in parentheses where the text would not bind that way by itself.
+std::string operand(const Tree& tree, const std::string& sign) {
+  const bool binds = !is_run(tree) || (sign == "x" && tree.rule == "*");
+  return binds ? to_string(tree) : "(" + to_string(tree) + ")";
+}
+
+}  // namespace
+
 std::string to_string(const Tree& tree) {
   if (tree.is_number()) return std::to_string(tree.number);
+  if (is_run(tree)) {
+    std::string text;
+    for (const Tree& arg : tree.args)
+      text += (text.empty() ? "" : " " + tree.rule + " ") + operand(arg, tree.rule);
+    return text;
+  }
   std::string inner;
   for (const Tree& arg : tree.args) inner += (inner.empty() ? "" : ",") + to_string(arg);
   return tree.rule == "," ? inner : tree.rule + "(" + inner + ")";

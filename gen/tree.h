@@ -1,8 +1,11 @@
 // Breakdown trees: the text of a table's row as a tree, and back.
 //
-//   tree  = stage { "," stage }        "2,2": stages in turn
-//   stage = number                     a base or prime block of that length
-//         | name "(" tree-list ")"     a rule: "PFA*(SR(8),3)"
+//   tree    = product { "," product }    "2,2": stages in turn
+//   product = power { "x" power }        "3 x 5": coprime stages in turn, no twiddles between them
+//   power   = stage { "*" stage }        "3 * 3": stages in turn with twiddles between them
+//   stage   = number                     a base or prime block of that length
+//           | name "(" tree ")"          a rule: "PFA*(SR(8),3)"
+//           | "(" product ")"
 #pragma once
 
 #include <string>
@@ -12,7 +15,7 @@
 namespace xfm::gen {
 
 struct Tree {
-  std::string rule;        ///< "PFA", "PFA*", "CT", "SR", "R", "B", ...; empty for a plain number
+  std::string rule;        ///< "PFA", "PFA*", "CT", "SR", "R", "B", "x", "*", ...; empty for a plain number
   int number = 0;          ///< the number, where rule is empty
   std::vector<Tree> args;  ///< the rule's arguments
 

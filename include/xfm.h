@@ -380,6 +380,944 @@ xfmStatus xfmDFTInv_CToC_63_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag)
 xfmStatus xfmDFTInv_CToC_64_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
 /** @} */
 
+/** @name DFTFwd_RToCCS
+ * xfmDFTFwd_RToCCS_N_TYPE
+ * @{ */
+/**
+ * Forward real DFT of length N, 2 to 64, in the layout CCS.
+ *
+ *     X[k] = s * sum over j of src[j] * exp(-2 pi i j k / N),   j = 0 .. N-1,   k = 0 .. N/2
+ *
+ * Reads N elements of src; writes the half spectrum, 2*(N/2 + 1) elements of dst:
+ * Re X[k] in dst[2k] and Im X[k] in dst[2k+1]; the imaginary parts of bin 0 and, for even N, of bin N/2
+ * are stored as +0 whatever the data.
+ *
+ * | flag                  | factor s  |
+ * |-----------------------|-----------|
+ * | XFM_SCALE_FWD_BY_N    | 1/N       |
+ * | XFM_SCALE_INV_BY_N    | 1         |
+ * | XFM_SCALE_BY_SQRT_N   | 1/sqrt(N) |
+ * | XFM_SCALE_NONE        | 1         |
+ *
+ * Scalar code: the arrays may have any alignment. They may overlap in any way: all input is read before the first
+ * output is written. Every output is multiplied by s as its last step, also by 1. In single precision sums are
+ * rounded to binary32, and linear combinations with constants are evaluated in binary64 and rounded once.
+ * The three layouts hold the same bits for the same input.
+ * Errors, in the order of the tests: a generic function gives xfmStsBadSize for a length that is not served; then
+ * xfmStsNullPtr (src or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
+ * Sources: Sorensen, Jones, Heideman and Burrus 1987; Good 1958; Cooley and Tukey 1965; Rader 1968.
+ */
+xfmStatus xfmDFTFwd_RToCCS_32f(const xfm32f* src, xfm32f* dst, int32_t length, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_2_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_3_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_4_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_5_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_6_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_7_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_8_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_9_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_10_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_11_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_12_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_13_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_14_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_15_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_16_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_17_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_18_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_19_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_20_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_21_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_22_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_23_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_24_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_25_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_26_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_27_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_28_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_29_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_30_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_31_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_32_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_33_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_34_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_35_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_36_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_37_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_38_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_39_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_40_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_41_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_42_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_43_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_44_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_45_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_46_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_47_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_48_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_49_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_50_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_51_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_52_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_53_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_54_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_55_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_56_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_57_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_58_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_59_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_60_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_61_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_62_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_63_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_64_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_64f(const xfm64f* src, xfm64f* dst, int32_t length, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_2_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_3_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_4_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_5_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_6_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_7_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_8_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_9_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_10_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_11_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_12_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_13_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_14_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_15_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_16_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_17_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_18_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_19_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_20_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_21_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_22_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_23_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_24_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_25_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_26_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_27_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_28_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_29_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_30_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_31_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_32_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_33_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_34_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_35_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_36_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_37_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_38_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_39_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_40_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_41_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_42_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_43_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_44_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_45_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_46_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_47_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_48_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_49_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_50_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_51_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_52_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_53_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_54_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_55_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_56_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_57_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_58_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_59_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_60_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_61_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_62_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_63_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToCCS_64_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+/** @} */
+
+/** @name DFTFwd_RToPack
+ * xfmDFTFwd_RToPack_N_TYPE
+ * @{ */
+/**
+ * Forward real DFT of length N, 2 to 64, in the layout Pack.
+ *
+ *     X[k] = s * sum over j of src[j] * exp(-2 pi i j k / N),   j = 0 .. N-1,   k = 0 .. N/2
+ *
+ * Reads N elements of src; writes the half spectrum, N elements of dst:
+ * Re X[0], Re X[1], Im X[1], Re X[2], Im X[2], ..., and for even N at last Re X[N/2].
+ *
+ * | flag                  | factor s  |
+ * |-----------------------|-----------|
+ * | XFM_SCALE_FWD_BY_N    | 1/N       |
+ * | XFM_SCALE_INV_BY_N    | 1         |
+ * | XFM_SCALE_BY_SQRT_N   | 1/sqrt(N) |
+ * | XFM_SCALE_NONE        | 1         |
+ *
+ * Scalar code: the arrays may have any alignment. They may overlap in any way: all input is read before the first
+ * output is written. Every output is multiplied by s as its last step, also by 1. In single precision sums are
+ * rounded to binary32, and linear combinations with constants are evaluated in binary64 and rounded once.
+ * The three layouts hold the same bits for the same input.
+ * Errors, in the order of the tests: a generic function gives xfmStsBadSize for a length that is not served; then
+ * xfmStsNullPtr (src or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
+ * Sources: Sorensen, Jones, Heideman and Burrus 1987; Good 1958; Cooley and Tukey 1965; Rader 1968.
+ */
+xfmStatus xfmDFTFwd_RToPack_32f(const xfm32f* src, xfm32f* dst, int32_t length, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_2_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_3_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_4_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_5_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_6_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_7_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_8_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_9_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_10_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_11_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_12_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_13_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_14_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_15_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_16_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_17_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_18_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_19_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_20_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_21_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_22_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_23_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_24_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_25_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_26_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_27_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_28_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_29_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_30_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_31_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_32_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_33_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_34_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_35_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_36_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_37_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_38_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_39_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_40_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_41_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_42_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_43_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_44_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_45_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_46_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_47_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_48_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_49_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_50_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_51_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_52_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_53_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_54_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_55_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_56_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_57_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_58_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_59_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_60_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_61_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_62_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_63_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_64_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_64f(const xfm64f* src, xfm64f* dst, int32_t length, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_2_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_3_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_4_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_5_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_6_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_7_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_8_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_9_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_10_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_11_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_12_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_13_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_14_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_15_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_16_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_17_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_18_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_19_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_20_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_21_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_22_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_23_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_24_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_25_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_26_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_27_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_28_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_29_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_30_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_31_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_32_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_33_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_34_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_35_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_36_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_37_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_38_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_39_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_40_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_41_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_42_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_43_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_44_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_45_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_46_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_47_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_48_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_49_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_50_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_51_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_52_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_53_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_54_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_55_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_56_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_57_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_58_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_59_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_60_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_61_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_62_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_63_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPack_64_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+/** @} */
+
+/** @name DFTFwd_RToPerm
+ * xfmDFTFwd_RToPerm_N_TYPE
+ * @{ */
+/**
+ * Forward real DFT of length N, 2 to 64, in the layout Perm.
+ *
+ *     X[k] = s * sum over j of src[j] * exp(-2 pi i j k / N),   j = 0 .. N-1,   k = 0 .. N/2
+ *
+ * Reads N elements of src; writes the half spectrum, N elements of dst:
+ * for even N Re X[0], Re X[N/2], Re X[1], Im X[1], Re X[2], Im X[2], ...; for odd N as Pack.
+ *
+ * | flag                  | factor s  |
+ * |-----------------------|-----------|
+ * | XFM_SCALE_FWD_BY_N    | 1/N       |
+ * | XFM_SCALE_INV_BY_N    | 1         |
+ * | XFM_SCALE_BY_SQRT_N   | 1/sqrt(N) |
+ * | XFM_SCALE_NONE        | 1         |
+ *
+ * Scalar code: the arrays may have any alignment. They may overlap in any way: all input is read before the first
+ * output is written. Every output is multiplied by s as its last step, also by 1. In single precision sums are
+ * rounded to binary32, and linear combinations with constants are evaluated in binary64 and rounded once.
+ * The three layouts hold the same bits for the same input.
+ * Errors, in the order of the tests: a generic function gives xfmStsBadSize for a length that is not served; then
+ * xfmStsNullPtr (src or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
+ * Sources: Sorensen, Jones, Heideman and Burrus 1987; Good 1958; Cooley and Tukey 1965; Rader 1968.
+ */
+xfmStatus xfmDFTFwd_RToPerm_32f(const xfm32f* src, xfm32f* dst, int32_t length, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_2_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_3_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_4_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_5_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_6_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_7_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_8_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_9_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_10_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_11_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_12_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_13_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_14_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_15_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_16_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_17_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_18_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_19_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_20_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_21_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_22_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_23_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_24_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_25_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_26_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_27_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_28_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_29_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_30_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_31_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_32_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_33_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_34_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_35_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_36_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_37_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_38_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_39_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_40_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_41_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_42_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_43_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_44_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_45_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_46_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_47_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_48_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_49_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_50_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_51_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_52_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_53_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_54_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_55_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_56_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_57_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_58_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_59_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_60_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_61_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_62_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_63_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_64_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_64f(const xfm64f* src, xfm64f* dst, int32_t length, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_2_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_3_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_4_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_5_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_6_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_7_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_8_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_9_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_10_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_11_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_12_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_13_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_14_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_15_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_16_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_17_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_18_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_19_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_20_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_21_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_22_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_23_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_24_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_25_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_26_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_27_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_28_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_29_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_30_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_31_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_32_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_33_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_34_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_35_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_36_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_37_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_38_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_39_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_40_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_41_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_42_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_43_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_44_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_45_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_46_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_47_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_48_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_49_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_50_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_51_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_52_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_53_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_54_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_55_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_56_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_57_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_58_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_59_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_60_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_61_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_62_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_63_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTFwd_RToPerm_64_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+/** @} */
+
+/** @name DFTInv_CCSToR
+ * xfmDFTInv_CCSToR_N_TYPE
+ * @{ */
+/**
+ * Inverse real DFT of length N, 2 to 64, from the layout CCS.
+ *
+ *     dst[j] = s * sum over k of X[k] * exp(+2 pi i j k / N),   j, k = 0 .. N-1,   X[N-k] = conj(X[k])
+ *
+ * Writes N elements of dst; src holds the bins 0 .. N/2 in 2*(N/2 + 1) elements:
+ * Re X[k] in src[2k] and Im X[k] in src[2k+1]; the imaginary parts of bin 0 and, for even N, of bin N/2
+ * are never read.
+ *
+ * | flag                  | factor s  |
+ * |-----------------------|-----------|
+ * | XFM_SCALE_FWD_BY_N    | 1         |
+ * | XFM_SCALE_INV_BY_N    | 1/N       |
+ * | XFM_SCALE_BY_SQRT_N   | 1/sqrt(N) |
+ * | XFM_SCALE_NONE        | 1         |
+ *
+ * Scalar code: the arrays may have any alignment. They may overlap in any way: all input is read before the first
+ * output is written. Every output is multiplied by s as its last step, also by 1. In single precision sums are
+ * rounded to binary32, and linear combinations with constants are evaluated in binary64 and rounded once.
+ * The three layouts give the same bits, but for the last one at N = 7, 20, 40, 49 and 50.
+ * Errors, in the order of the tests: a generic function gives xfmStsBadSize for a length that is not served; then
+ * xfmStsNullPtr (src or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
+ * Sources: as the forward transforms, whose networks run transposed here (Bernstein 2006).
+ */
+xfmStatus xfmDFTInv_CCSToR_32f(const xfm32f* src, xfm32f* dst, int32_t length, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_2_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_3_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_4_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_5_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_6_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_7_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_8_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_9_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_10_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_11_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_12_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_13_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_14_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_15_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_16_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_17_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_18_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_19_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_20_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_21_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_22_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_23_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_24_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_25_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_26_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_27_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_28_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_29_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_30_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_31_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_32_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_33_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_34_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_35_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_36_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_37_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_38_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_39_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_40_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_41_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_42_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_43_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_44_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_45_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_46_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_47_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_48_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_49_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_50_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_51_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_52_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_53_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_54_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_55_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_56_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_57_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_58_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_59_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_60_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_61_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_62_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_63_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_64_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_64f(const xfm64f* src, xfm64f* dst, int32_t length, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_2_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_3_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_4_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_5_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_6_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_7_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_8_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_9_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_10_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_11_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_12_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_13_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_14_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_15_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_16_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_17_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_18_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_19_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_20_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_21_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_22_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_23_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_24_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_25_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_26_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_27_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_28_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_29_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_30_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_31_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_32_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_33_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_34_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_35_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_36_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_37_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_38_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_39_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_40_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_41_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_42_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_43_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_44_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_45_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_46_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_47_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_48_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_49_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_50_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_51_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_52_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_53_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_54_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_55_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_56_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_57_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_58_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_59_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_60_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_61_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_62_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_63_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_CCSToR_64_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+/** @} */
+
+/** @name DFTInv_PackToR
+ * xfmDFTInv_PackToR_N_TYPE
+ * @{ */
+/**
+ * Inverse real DFT of length N, 2 to 64, from the layout Pack.
+ *
+ *     dst[j] = s * sum over k of X[k] * exp(+2 pi i j k / N),   j, k = 0 .. N-1,   X[N-k] = conj(X[k])
+ *
+ * Writes N elements of dst; src holds the bins 0 .. N/2 in N elements:
+ * Re X[0], Re X[1], Im X[1], Re X[2], Im X[2], ..., and for even N at last Re X[N/2].
+ *
+ * | flag                  | factor s  |
+ * |-----------------------|-----------|
+ * | XFM_SCALE_FWD_BY_N    | 1         |
+ * | XFM_SCALE_INV_BY_N    | 1/N       |
+ * | XFM_SCALE_BY_SQRT_N   | 1/sqrt(N) |
+ * | XFM_SCALE_NONE        | 1         |
+ *
+ * Scalar code: the arrays may have any alignment. They may overlap in any way: all input is read before the first
+ * output is written. Every output is multiplied by s as its last step, also by 1. In single precision sums are
+ * rounded to binary32, and linear combinations with constants are evaluated in binary64 and rounded once.
+ * The three layouts give the same bits, but for the last one at N = 7, 20, 40, 49 and 50.
+ * Errors, in the order of the tests: a generic function gives xfmStsBadSize for a length that is not served; then
+ * xfmStsNullPtr (src or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
+ * Sources: as the forward transforms, whose networks run transposed here (Bernstein 2006).
+ */
+xfmStatus xfmDFTInv_PackToR_32f(const xfm32f* src, xfm32f* dst, int32_t length, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_2_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_3_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_4_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_5_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_6_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_7_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_8_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_9_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_10_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_11_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_12_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_13_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_14_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_15_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_16_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_17_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_18_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_19_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_20_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_21_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_22_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_23_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_24_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_25_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_26_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_27_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_28_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_29_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_30_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_31_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_32_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_33_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_34_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_35_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_36_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_37_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_38_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_39_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_40_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_41_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_42_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_43_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_44_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_45_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_46_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_47_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_48_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_49_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_50_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_51_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_52_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_53_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_54_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_55_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_56_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_57_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_58_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_59_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_60_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_61_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_62_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_63_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_64_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_64f(const xfm64f* src, xfm64f* dst, int32_t length, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_2_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_3_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_4_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_5_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_6_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_7_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_8_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_9_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_10_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_11_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_12_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_13_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_14_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_15_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_16_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_17_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_18_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_19_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_20_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_21_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_22_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_23_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_24_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_25_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_26_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_27_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_28_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_29_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_30_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_31_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_32_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_33_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_34_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_35_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_36_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_37_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_38_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_39_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_40_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_41_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_42_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_43_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_44_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_45_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_46_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_47_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_48_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_49_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_50_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_51_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_52_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_53_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_54_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_55_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_56_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_57_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_58_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_59_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_60_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_61_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_62_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_63_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PackToR_64_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+/** @} */
+
+/** @name DFTInv_PermToR
+ * xfmDFTInv_PermToR_N_TYPE
+ * @{ */
+/**
+ * Inverse real DFT of length N, 2 to 64, from the layout Perm.
+ *
+ *     dst[j] = s * sum over k of X[k] * exp(+2 pi i j k / N),   j, k = 0 .. N-1,   X[N-k] = conj(X[k])
+ *
+ * Writes N elements of dst; src holds the bins 0 .. N/2 in N elements:
+ * for even N Re X[0], Re X[N/2], Re X[1], Im X[1], Re X[2], Im X[2], ...; for odd N as Pack.
+ *
+ * | flag                  | factor s  |
+ * |-----------------------|-----------|
+ * | XFM_SCALE_FWD_BY_N    | 1         |
+ * | XFM_SCALE_INV_BY_N    | 1/N       |
+ * | XFM_SCALE_BY_SQRT_N   | 1/sqrt(N) |
+ * | XFM_SCALE_NONE        | 1         |
+ *
+ * Scalar code: the arrays may have any alignment. They may overlap in any way: all input is read before the first
+ * output is written. Every output is multiplied by s as its last step, also by 1. In single precision sums are
+ * rounded to binary32, and linear combinations with constants are evaluated in binary64 and rounded once.
+ * The three layouts give the same bits, but for the last one at N = 7, 20, 40, 49 and 50.
+ * Errors, in the order of the tests: a generic function gives xfmStsBadSize for a length that is not served; then
+ * xfmStsNullPtr (src or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
+ * Sources: as the forward transforms, whose networks run transposed here (Bernstein 2006).
+ */
+xfmStatus xfmDFTInv_PermToR_32f(const xfm32f* src, xfm32f* dst, int32_t length, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_2_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_3_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_4_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_5_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_6_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_7_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_8_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_9_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_10_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_11_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_12_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_13_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_14_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_15_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_16_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_17_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_18_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_19_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_20_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_21_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_22_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_23_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_24_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_25_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_26_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_27_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_28_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_29_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_30_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_31_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_32_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_33_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_34_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_35_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_36_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_37_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_38_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_39_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_40_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_41_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_42_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_43_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_44_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_45_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_46_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_47_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_48_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_49_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_50_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_51_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_52_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_53_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_54_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_55_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_56_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_57_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_58_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_59_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_60_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_61_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_62_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_63_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_64_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_64f(const xfm64f* src, xfm64f* dst, int32_t length, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_2_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_3_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_4_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_5_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_6_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_7_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_8_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_9_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_10_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_11_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_12_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_13_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_14_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_15_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_16_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_17_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_18_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_19_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_20_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_21_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_22_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_23_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_24_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_25_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_26_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_27_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_28_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_29_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_30_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_31_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_32_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_33_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_34_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_35_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_36_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_37_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_38_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_39_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_40_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_41_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_42_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_43_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_44_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_45_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_46_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_47_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_48_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_49_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_50_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_51_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_52_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_53_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_54_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_55_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_56_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_57_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_58_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_59_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_60_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_61_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_62_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_63_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmDFTInv_PermToR_64_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+/** @} */
+
 #if defined(__GNUC__)
 #pragma GCC visibility pop
 #endif

@@ -1,6 +1,7 @@
 #include "tools/families.h"
 
 #include "src/dft/recipe/dft.h"
+#include "src/real/recipe/real.h"
 
 namespace xfm {
 namespace {
@@ -24,9 +25,73 @@ Reads N complex elements of src, writes N complex elements of dst, in natural or
 Every output is multiplied by s as its last step, also by 1. Both arrays may have any alignment; multiples of 16 are
 fastest, and the bits do not depend on it. src and dst may overlap in any way: all input is read before the first
 output is written, and dst is never read.
-Errors, in the order of the tests: a generic function gives xfmStsBadSize for a length that is not served; then
-xfmStsNullPtr (src or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
+@ERRORS@
 Sources: Cooley and Tukey 1965; Good 1958; Rader 1968; Yavne 1968; Bluestein 1970.)";
+
+const char* const forward_real_documentation =
+    R"(Forward real DFT of length N, 2 to 64, in the layout @LAYOUT@.
+
+    X[k] = s * sum over j of src[j] * exp(-2 pi i j k / N),   j = 0 .. N-1,   k = 0 .. N/2
+
+Reads N elements of src; writes the half spectrum, @ELEMENTS@ elements of dst:
+@MAP@
+
+| flag                  | factor s  |
+|-----------------------|-----------|
+| XFM_SCALE_FWD_BY_N    | 1/N       |
+| XFM_SCALE_INV_BY_N    | 1         |
+| XFM_SCALE_BY_SQRT_N   | 1/sqrt(N) |
+| XFM_SCALE_NONE        | 1         |
+
+@COMMON@
+The three layouts hold the same bits for the same input.
+@ERRORS@
+Sources: Sorensen, Jones, Heideman and Burrus 1987; Good 1958; Cooley and Tukey 1965; Rader 1968.)";
+
+const char* const inverse_real_documentation =
+    R"(Inverse real DFT of length N, 2 to 64, from the layout @LAYOUT@.
+
+    dst[j] = s * sum over k of X[k] * exp(+2 pi i j k / N),   j, k = 0 .. N-1,   X[N-k] = conj(X[k])
+
+Writes N elements of dst; src holds the bins 0 .. N/2 in @ELEMENTS@ elements:
+@MAP@
+
+| flag                  | factor s  |
+|-----------------------|-----------|
+| XFM_SCALE_FWD_BY_N    | 1         |
+| XFM_SCALE_INV_BY_N    | 1/N       |
+| XFM_SCALE_BY_SQRT_N   | 1/sqrt(N) |
+| XFM_SCALE_NONE        | 1         |
+
+@COMMON@
+The three layouts give the same bits, but for the last one at N = 7, 20, 40, 49 and 50.
+@ERRORS@
+Sources: as the forward transforms, whose networks run transposed here (Bernstein 2006).)";
+
+const char* const real_common =
+    R"(Scalar code: the arrays may have any alignment. They may overlap in any way: all input is read before the first
+output is written. Every output is multiplied by s as its last step, also by 1. In single precision sums are
+rounded to binary32, and linear combinations with constants are evaluated in binary64 and rounded once.)";
+
+const char* const errors =
+    R"(Errors, in the order of the tests: a generic function gives xfmStsBadSize for a length that is not served; then
+xfmStsNullPtr (src or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.)";
+
+const char* map_of(real::Layout layout, real::Direction direction) {
+  switch (layout) {
+    case real::Layout::ccs:
+      return direction == real::Direction::forward ? "Re X[k] in dst[2k] and Im X[k] in dst[2k+1]; the "
+                                                     "imaginary parts of bin 0 and, for even N, of "
+                                                     "bin N/2\nare stored as +0 whatever the data."
+                                                   : "Re X[k] in src[2k] and Im X[k] in src[2k+1]; the "
+                                                     "imaginary parts of bin 0 and, for even N, of "
+                                                     "bin N/2\nare never read.";
+    case real::Layout::pack:
+      return "Re X[0], Re X[1], Im X[1], Re X[2], Im X[2], ..., and for even N at last Re X[N/2].";
+    default:
+      return "for even N Re X[0], Re X[N/2], Re X[1], Im X[1], Re X[2], Im X[2], ...; for odd N as Pack.";
+  }
+}
 
 std::string replaced(std::string text, const std::string& mark, const std::string& by) {
   return text.replace(text.find(mark), mark.size(), by);
@@ -39,6 +104,7 @@ std::string document(dft::Direction direction) {
                   forward ? "dst[k] = s * sum over n of src[n] * exp(-2 pi i n k / N),   n, k = 0 .. N-1"
                           : "dst[n] = s * sum over k of src[k] * exp(+2 pi i n k / N),   n, k = 0 .. N-1");
   text = replaced(text, "@FWD@", forward ? "1/N      " : "1        ");
+  text = replaced(text, "@ERRORS@", errors);
   return replaced(text, "@INV@", forward ? "1        " : "1/N      ");
 }
 
@@ -55,12 +121,41 @@ Family complex_family(dft::Direction direction, const std::string& name) {
           }};
 }
 
+std::string document(real::Direction direction, real::Layout layout) {
+  const bool forward = direction == real::Direction::forward;
+  std::string text = forward ? forward_real_documentation : inverse_real_documentation;
+  text = replaced(text, "@LAYOUT@", real::name_of(layout));
+  text = replaced(text, "@ELEMENTS@", layout == real::Layout::ccs ? "2*(N/2 + 1)" : "N");
+  text = replaced(text, "@MAP@", map_of(layout, direction));
+  text = replaced(text, "@COMMON@", real_common);
+  return replaced(text, "@ERRORS@", errors);
+}
+
+Family real_family(real::Direction direction, real::Layout layout) {
+  return {.name = real::family_name(direction, layout),
+          .types = {ElementType{Precision::single, false}, ElementType{Precision::twofold, false}},
+          .lengths = real::lengths(),
+          .lowest = 2,
+          .highest = 64,
+          .vocabulary = "",
+          .documentation = document(direction, layout),
+          .make = [=](int length, Precision precision, const std::string& tree) {
+            return real::make_kernel(length, precision, direction, layout, tree);
+          }};
+}
+
 }  // namespace
 
 const std::vector<Family>& families() {
   static const std::vector<Family> all = {
       complex_family(dft::Direction::forward, "DFTFwd_CToC"),
       complex_family(dft::Direction::inverse, "DFTInv_CToC"),
+      real_family(real::Direction::forward, real::Layout::ccs),
+      real_family(real::Direction::forward, real::Layout::pack),
+      real_family(real::Direction::forward, real::Layout::perm),
+      real_family(real::Direction::inverse, real::Layout::ccs),
+      real_family(real::Direction::inverse, real::Layout::pack),
+      real_family(real::Direction::inverse, real::Layout::perm),
   };
   return all;
 }

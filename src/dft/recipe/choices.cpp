@@ -14,7 +14,7 @@ using gen::Precision;
 // serves.
 struct ChosenRoot {
   int length, prime;
-  Root root;
+  gen::Root root;
 };
 constexpr ChosenRoot roots_single[] = {
     {19, 19, {13, 0}}, {23, 23, {7, 0}}, {34, 17, {3, 3}},   {37, 37, {13, 1}},
@@ -48,7 +48,7 @@ Five Choices::five(int index, bool real, bool transposed) const {
   }
 }
 
-Root Choices::root(int prime) const {
+gen::Root Choices::root(int prime) const {
   const auto chosen =
       std::find_if(std::begin(roots_single), std::end(roots_single),
                    [&](const ChosenRoot& r) { return r.length == length_ && r.prime == prime; });

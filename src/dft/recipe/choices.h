@@ -3,16 +3,10 @@
 #pragma once
 
 #include "gen/kernel.h"
+#include "gen/rader.h"
 #include "src/dft/recipe/blocks.h"
 
 namespace xfm::dft {
-
-/// The root g of a Rader convolution, and how far its outputs are shifted along the powers of 1/g. Any choice
-/// gives the same transform at the same cost; only rounding differs.
-struct Root {
-  int g;
-  int shift;
-};
 
 /// What the recipes of one kernel have to know beside its tree.
 class Choices {
@@ -28,7 +22,7 @@ class Choices {
   /// complex sequences; `transposed` blocks run from outputs to inputs.
   Five five(int index, bool real, bool transposed) const;
 
-  Root root(int prime) const;
+  gen::Root root(int prime) const;
 
  private:
   int length_;

@@ -4,8 +4,7 @@
 //   b[q] = exp(-2 pi i g^-q/N),  B[r] = (1/M) sum_q b[q] exp(-2 pi i q r/M).
 // 1/M is folded into B, and x0 joins at the bin of frequency zero, so that the inverse spreads it over all
 // outputs.
-#include <fmt/format.h>
-
+#include "gen/rader.h"
 #include "gen/number.h"
 #include "gen/transpose.h"
 #include "src/dft/recipe/lane_real.h"
@@ -18,44 +17,17 @@ using gen::Complex;
 using gen::ComplexConstant;
 using gen::Tree;
 using gen::turn;
-using gen::Wide;
-
-namespace {
-
-// |B[0]| is 1/M exactly, and B[M/2] is real or imaginary; the other halves are true numbers.
-// `times` doubles what both halves of a conjugate pair share.
-ComplexConstant root_spectrum(int n, Root root, int r, int times = 1) {
-  const int m = n - 1, inverse = gen::inverse_modulo(root.g, n);
-  Wide re = 0, im = 0;
-  for (int q = 0; q < m; ++q) {
-    // exp(-2 pi i (g'^q/N + q r/M)) as one exact fraction of the circle
-    const auto angle = turn(static_cast<long long>(gen::power_modulo(inverse, q + root.shift, n)) * m +
-                                static_cast<long long>(q) * r * n,
-                            static_cast<long long>(n) * m);
-    re += gen::cosine(angle).value;
-    im -= gen::sine(angle).value;
-  }
-  const auto half = [&](const char* part, Wide value) -> gen::Constant {
-    if (gen::wide_abs(value) < Wide(1e-25)) return {"0", 0};
-    return gen::constant(
-        fmt::format("rader {} {} {} {} {}{}", n, root.g, root.shift, part, r, times == 1 ? "" : " doubled"),
-        Wide(times) * value / Wide(m));
-  };
-  return {half("re", re), half("im", im)};
-}
-
-}  // namespace
 
 Batch Packed::rader(const Tree& inner, const Batch& x, Direction direction) {
   const int m = length_of(inner), n = m + 1;
-  const Root root = choices_.root(n);
+  const gen::Root root = choices_.root(n);
   Batch permuted(x.size());
   for (std::size_t i = 0; i < x.size(); ++i) {
     for (int q = 0; q < m; ++q)
       permuted[i].push_back(x[i][static_cast<std::size_t>(gen::power_modulo(root.g, q, n))]);
   }
   const Batch spectrum = transform(inner, permuted, direction);
-  const auto factor = [&](int r) { return turned(root_spectrum(n, root, r), direction); };
+  const auto factor = [&](int r) { return turned(gen::rader_spectrum(n, root, r), direction); };
 
   // The bin of frequency zero gives X0 = x0 + A[0] and Y[0] = x0 + B[0]*A[0].
   Batch zero;
@@ -98,7 +70,7 @@ Batch Packed::rader(const Tree& inner, const Batch& x, Direction direction) {
 // are the weights of cos and sin in the inverse transform, which is the forward network transposed.
 Points LaneReal::rader(const Tree& inner, const Points& x) const {
   const int m = length_of(inner), n = m + 1, h = m / 2;
-  const Root root = choices_.root(n);
+  const gen::Root root = choices_.root(n);
   Points permuted;
   for (int q = 0; q < m; ++q)
     permuted.push_back(x[static_cast<std::size_t>(gen::power_modulo(root.g, q, n))]);
@@ -112,16 +84,16 @@ Points LaneReal::rader(const Tree& inner, const Points& x) const {
 
   const auto part = [](int r, const Complex& z) { return r % 2 == 0 ? z : gen::times_i(z); };
   const Complex sum = spectrum[0];
-  inverse.send(outputs[0].p, x[0] + Complex(root_spectrum(n, root, 0).re * sum));
+  inverse.send(outputs[0].p, x[0] + Complex(gen::rader_spectrum(n, root, 0).re * sum));
   for (int r = 1; r < h; ++r) {
-    const ComplexConstant b = root_spectrum(n, root, r, 2);
+    const ComplexConstant b = gen::rader_spectrum(n, root, r, 2);
     const auto at = static_cast<std::size_t>(r);
     const Complex c{spectrum[at].p, {}}, s{-spectrum[at].q, {}};
     const Complex z1 = gen::sum({b.re * c, b.im * s}), z2 = gen::sum({b.im * c, -(b.re * s)});
     inverse.send(outputs[at].p, part(r, r % 2 == 0 ? z1 : z2));
     inverse.send(-outputs[at].q, part(r, r % 2 == 0 ? -z2 : z1));
   }
-  const ComplexConstant b = root_spectrum(n, root, h);
+  const ComplexConstant b = gen::rader_spectrum(n, root, h);
   const Complex middle{spectrum[static_cast<std::size_t>(h)].p, {}};
   inverse.send(outputs[static_cast<std::size_t>(h)].p, part(h, (h % 2 == 0 ? b.re : b.im) * middle));
   const Points convolution = inverse.run(m);

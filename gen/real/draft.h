@@ -1,0 +1,30 @@
+// A real network before it is bound to memory: its loads are numbered samples, its outputs values with signs.
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "gen/network.h"
+
+namespace xfm::gen::real {
+
+struct Draft {
+  std::unique_ptr<Network> network = std::make_unique<Network>(1, Rounding::statement);
+  std::vector<Value> outputs;
+};
+
+/// The nodes that outputs depend on, and how often each is used.
+std::vector<int> uses(const Draft& draft);
+
+/// Where the inputs and outputs of a draft stand in memory, by their numbers.
+struct Binding {
+  std::vector<int> from, to;
+  std::vector<int> zeros;  ///< elements of dst that are zero whatever the data
+};
+
+/// The kernel's network, with the values that are turned made as their negatives (signs.h). Every output is
+/// multiplied by the factor as its last step, inside the statement where one makes the output and nothing
+/// else; one whose sign is still wrong then is subtracted from zero.
+std::unique_ptr<Network> bind(const Draft& draft, const Binding& binding, const std::vector<bool>& turned);
+
+}  // namespace xfm::gen::real

@@ -1,0 +1,57 @@
+#include "gen/real/transform.h"
+
+#include <stdexcept>
+
+namespace xfm::gen::real {
+
+int length_of(const Tree& plan) {
+  if (plan.is_number()) return plan.number;
+  if (plan.rule == "D") return plan.args[0].number;
+  if (plan.rule == "R") return length_of(plan.args[1]) + 1;
+  int product = 1;
+  for (const Tree& arg : plan.args) product *= length_of(arg);
+  return product;
+}
+
+Points transform(const Tree& plan, const Values& x) {
+  if (plan.is_number() || plan.rule == "D") return direct(plan, x);
+  if (plan.rule == "x" || plan.rule == "*") return two_stages(plan, x);
+  if (plan.rule == "R") return rader(plan, x);
+  throw std::invalid_argument("no rule " + plan.rule + " for real sequences");
+}
+
+// With A and B the spectra of the real and of the imaginary parts, Z = A + iB; bin n-k needs nothing new,
+// since A and B are Hermitian.
+Points complex_transform(const Tree& plan, const Points& z) {
+  const Points a = transform(plan, halves(z, &Complex::p)), b = transform(plan, halves(z, &Complex::q));
+  Points out(z.size());
+  for (std::size_t k = 0; k < a.size(); ++k) {
+    out[k] = a[k] + times_i(b[k]);
+    if (2 * k > 0 && 2 * k < z.size()) out[z.size() - k] = conjugate(a[k]) + times_i(conjugate(b[k]));
+  }
+  return out;
+}
+
+Values halves(const Points& points, Value Complex::*half) {
+  Values all;
+  for (const Complex& z : points) all.push_back(z.*half);
+  return all;
+}
+
+Complex rotated(const Complex& z, Turn t) {
+  const ComplexConstant w = root_of_unity(t);
+  if (t.den == 1 || t.den == 2 || t.den == 4) {
+    const Complex turned = w.re.is_zero() ? times_i(z) : z;
+    return w.re.is_negative() || w.im.is_negative() ? -turned : turned;
+  }
+  if (t.den == 8) {
+    const Complex scaled = statement({magnitude(w.re) * z});
+    const Complex re = w.re.is_negative() ? -scaled : scaled;
+    const Complex im = w.im.is_negative() ? -scaled : scaled;
+    return {re.p - im.q, re.q + im.p};
+  }
+  const Complex& i_z = times_i(z);
+  return statement({w.re * z, w.im * i_z});
+}
+
+}  // namespace xfm::gen::real

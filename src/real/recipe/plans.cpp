@@ -1,0 +1,69 @@
+#include "src/real/recipe/plans.h"
+
+#include <algorithm>
+#include <string>
+
+namespace xfm::real {
+namespace {
+
+using gen::parse_tree;
+using gen::Tree;
+
+bool is_block(Direction direction, int length) {
+  return length == 2 || length == 3 || length == 5 || length == 7 ||
+         (length == 11 && direction == Direction::forward);
+}
+
+const char* row_tree(Direction direction, int length) {
+  return direction == Direction::forward ? row(length).forward.tree : row(length).inverse.tree;
+}
+
+// R(g, L) with the transforms there and back. Those back run transposed, so that they have the plans of the
+// other direction.
+Tree rader(Direction direction, const Tree& tree) {
+  const int l = tree.args[1].number;
+  const RaderStage stage = rader_stage(l + 1);
+  const bool forward = direction == Direction::forward;
+  const std::string whole = forward ? stage.there : stage.closing;
+  const Tree there = plan(direction, parse_tree(whole.empty() ? row_tree(direction, l) : whole));
+  const Tree back = plan(forward ? Direction::inverse : Direction::forward, l / 2);
+  Tree skew = l / 2 % 2 == 0 ? plan(Direction::inverse, l / 2) : back;
+  if (forward && stage.skew[0] != '\0') skew = parse_tree(stage.skew);
+  return {"R", 0, {tree.args[0], there, back, skew}};
+}
+
+// A run of stages in pairs. The transpose of a network does its stages backwards.
+Tree nested(Direction direction, const std::string& rule, std::vector<Tree> stages) {
+  if (direction == Direction::inverse) std::reverse(stages.begin(), stages.end());
+  const bool to_the_right = direction == Direction::inverse || rule == "x";
+  while (stages.size() > 2) {
+    const auto pair = to_the_right ? stages.end() - 2 : stages.begin();
+    *pair = {rule, 0, {*pair, *(pair + 1)}};
+    stages.erase(pair + 1);
+  }
+  return {rule, 0, std::move(stages)};
+}
+
+}  // namespace
+
+Tree plan(Direction direction, const Tree& tree) {
+  if (tree.is_number()) return is_block(direction, tree.number) ? tree : plan(direction, tree.number);
+  if (tree.rule == "D") return tree;
+  if (tree.rule == "R") return rader(direction, tree);
+  std::vector<Tree> stages;
+  for (const Tree& arg : tree.args) stages.push_back(plan(direction, arg));
+  return nested(direction, tree.rule, std::move(stages));
+}
+
+Tree plan(Direction direction, int length) {
+  return plan(direction, parse_tree(row_tree(direction, length)));
+}
+
+Tree reordered(const Tree& plan, const BlockOrder& order) {
+  if (plan.is_number()) return plan.number == order.block ? parse_tree(order.order) : plan;
+  Tree changed = plan;
+  for (Tree& arg : changed.args) arg = reordered(arg, order);
+  return changed;
+}
+
+}  // namespace xfm::real

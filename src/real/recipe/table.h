@@ -1,0 +1,47 @@
+// The breakdown of every real length, settled in advance: data only.
+#pragma once
+
+#include <span>
+
+#include "src/real/recipe/layouts.h"
+
+namespace xfm::real {
+
+struct Breakdown {
+  const char* tree;
+  int adds, mults;  ///< real operations, the N multiplications by the factor among them
+};
+
+/// Forward trees read from the samples to the bins, inverse ones from the bins to the samples. A number is a
+/// block of that length, or the row of it; a x b Good-Thomas, a * b Cooley-Tukey, R(g, L) Rader with root g.
+struct Row {
+  int length;
+  Breakdown forward, inverse;
+};
+
+std::span<const Row> table();
+
+/// The row of a length; throws std::out_of_range if there is none.
+const Row& row(int length);
+
+/// The stages of length L = N-1 of a Rader transform, where they are not the rows of L, and the skew stage of
+/// a forward one, where it is not that of the half length.
+struct RaderStage {
+  int length;
+  const char* there;    ///< forward: from the samples
+  const char* closing;  ///< inverse: to the samples
+  const char* skew;
+};
+RaderStage rader_stage(int length);
+
+/// Inverse kernels of one layout whose direct blocks sum their bins in another order than those of the
+/// others.
+struct BlockOrder {
+  int length;
+  Layout layout;
+  int block;
+  const char* order;
+};
+std::span<const BlockOrder> block_orders();
+
+}  // namespace xfm::real
