@@ -143,10 +143,12 @@ Counts count(const Network& network) { return LaneCounter(network).run(); }
 
 int instructions(const Network& network) { return static_cast<int>(schedule(network).size()); }
 
-void check_memory(const Network& network, int read, int written, const std::string& name,
+namespace {
+
+void check_memory(const Network& network, Order order, int read, int written, const std::string& name,
                   const std::vector<int>& unread) {
   std::vector<int> loads(static_cast<std::size_t>(read)), stores(static_cast<std::size_t>(written));
-  for (const Step& step : schedule(network)) {
+  for (const Step& step : schedule(network, order)) {
     const bool loading = step.node >= 0 && network.node(step.node).op == Op::load;
     if (!loading && step.store < 0) continue;
     const auto& lanes = loading ? network.node(step.node).lanes
@@ -161,6 +163,14 @@ void check_memory(const Network& network, int read, int written, const std::stri
   for (const int scalar : unread) ++loads.at(static_cast<std::size_t>(scalar));
   check_once(std::move(loads), "read", name);
   check_once(std::move(stores), "written", name);
+}
+
+}  // namespace
+
+void check_memory(const Network& network, int read, int written, const std::string& name,
+                  const std::vector<int>& unread) {
+  for (const Order order : {Order::windows, Order::bisection})
+    check_memory(network, order, read, written, name, unread);
 }
 
 void check_counts(const Counts& counts, int adds, int mults, const std::string& name) {

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "gen/bisection.h"
+
 namespace xfm::gen {
 namespace {
 
@@ -15,8 +17,9 @@ class Scheduler {
     mark_tails();
   }
 
-  std::vector<Step> run() {
-    for (const NodeId id : windows()) {
+  std::vector<Step> run(Order order) {
+    for (const NodeId id : loads_of_tails()) emit(id);
+    for (const NodeId id : order == Order::windows ? windows() : bisected(network_, inner())) {
       emit(id);
       if (loads_ == 0) finish_ready();
     }
@@ -38,22 +41,31 @@ class Scheduler {
     for (const NodeId operand : operands(network_.node(id))) mark_live(operand);
   }
 
+  // The operations that are not written down on demand, in the recipe's order.
+  std::vector<NodeId> inner() const {
+    std::vector<NodeId> nodes;
+    for (NodeId id = 0; id < size(); ++id) {
+      const Op op = network_.node(id).op;
+      const bool on_demand = tail_[index(id)] || op == Op::load || op == Op::twice;
+      if (state_[index(id)] == State::live && !on_demand) nodes.push_back(id);
+    }
+    return nodes;
+  }
+
   // The recipe's order, but no operation before those that can start a window earlier: what waits for long
   // chains does not hold up what is ready. Within a window the order of the stages stays, for few live
   // values.
   std::vector<NodeId> windows() const {
-    constexpr int window =
-        24;  // cycles; 12 spills more, 48 is the recipe's order up to a few hundred operations
-    std::vector<NodeId> order = loads_of_tails();
+    // cycles; 12 spills more, 48 is the recipe's order up to a few hundred operations
+    const int window = network_.width() == 1 ? 16 : 24;
     std::vector<int> start(state_.size(), 0), end(state_.size(), 0);
     for (NodeId id = 0; id < size(); ++id) {
-      const Op op = network_.node(id).op;
       if (state_[index(id)] != State::live) continue;
       for (const NodeId operand : operands(network_.node(id)))
         start[index(id)] = std::max(start[index(id)], end[index(operand)]);
-      end[index(id)] = start[index(id)] + latency(op);
-      if (!tail_[index(id)] && op != Op::load) order.push_back(id);
+      end[index(id)] = start[index(id)] + latency(network_.node(id));
     }
+    std::vector<NodeId> order = inner();
     std::stable_sort(order.begin(), order.end(),
                      [&](NodeId a, NodeId b) { return start[index(a)] / window < start[index(b)] / window; });
     return order;
@@ -74,10 +86,11 @@ class Scheduler {
     return loads;
   }
 
-  // Cycles, typical of current processors.
-  static int latency(Op op) {
-    switch (op) {
+  // Cycles, typical of current processors. A statement converts, multiplies, adds up and converts back.
+  static int latency(const Node& node) {
+    switch (node.op) {
       case Op::load:
+      case Op::twice:
         return 0;
       case Op::shuffle:
       case Op::exchange:
@@ -86,6 +99,8 @@ class Scheduler {
       case Op::mul:
       case Op::factor:
         return 4;
+      case Op::sum:
+        return 12 + 3 * static_cast<int>(node.terms.size());
       default:
         return 3;
     }
@@ -161,6 +176,6 @@ std::vector<NodeId> operands(const Node& node) {
   return in;
 }
 
-std::vector<Step> schedule(const Network& network) { return Scheduler(network).run(); }
+std::vector<Step> schedule(const Network& network, Order order) { return Scheduler(network).run(order); }
 
 }  // namespace xfm::gen

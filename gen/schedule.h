@@ -13,11 +13,18 @@ struct Step {
   int store = -1;
 };
 
-/// The live operations in the order of the recipe's stages, smoothed by when an operation can start: loads at
-/// their first use, and each output finished and stored as soon as its operands are there and the last load
-/// is done. Measured: this order spills least of those tried, and is up to a tenth faster than the recipe's
-/// alone.
-std::vector<Step> schedule(const Network& network);
+enum class Order {
+  windows,    ///< the recipe's stages, smoothed by when an operation can start
+  bisection,  ///< few values in flight (bisection.h)
+};
+
+/// The live operations in an order: loads at their first use, and each output finished and stored as soon as
+/// its operands are there and the last load is done.
+///
+/// Measured: windows are best for packed kernels, up to a tenth faster than the recipe's order alone, and for
+/// scalar kernels whose statements are long chains of conversions. For scalar kernels of plain operations
+/// bisection halves the spills of large lengths.
+std::vector<Step> schedule(const Network& network, Order order = Order::windows);
 
 /// The operands of a node, present ones only.
 std::vector<NodeId> operands(const Node& node);
