@@ -1318,6 +1318,161 @@ xfmStatus xfmDFTInv_PermToR_63_64f(const xfm64f* src, xfm64f* dst, int32_t flag)
 xfmStatus xfmDFTInv_PermToR_64_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
 /** @} */
 
+/** @name Hartley
+ * xfmHartley_N_TYPE
+ * @{ */
+/**
+ * Hartley transform of length N, 2 to 64.
+ *
+ *     dst[k] = s * sum over j of src[j] * (cos(2 pi j k / N) + sin(2 pi j k / N)),   j, k = 0 .. N-1
+ *
+ * Reads N elements of src, writes N elements of dst, in natural order. The transform is its own inverse but for a
+ * factor N, and the flags have no direction:
+ *
+ * | flag                  | factor s  |
+ * |-----------------------|-----------|
+ * | XFM_SCALE_FWD_BY_N    | 1/N       |
+ * | XFM_SCALE_INV_BY_N    | 1/N       |
+ * | XFM_SCALE_BY_SQRT_N   | 1/sqrt(N) |
+ * | XFM_SCALE_NONE        | 1         |
+ *
+ * Scalar code: the arrays may have any alignment. They may overlap in any way: all input is read before the first
+ * output is written. Every output is multiplied by s as its last step, also by 1. In single precision sums are
+ * rounded to binary32, and linear combinations with constants are evaluated in binary64 and rounded once.
+ * Errors, in the order of the tests: a generic function gives xfmStsBadSize for a length that is not served; then
+ * xfmStsNullPtr (src or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
+ * Sources: Hartley 1942; Bracewell 1983; Sorensen, Jones, Burrus and Heideman 1985; Rader 1968.
+ */
+xfmStatus xfmHartley_32f(const xfm32f* src, xfm32f* dst, int32_t length, int32_t flag);
+xfmStatus xfmHartley_2_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_3_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_4_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_5_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_6_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_7_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_8_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_9_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_10_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_11_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_12_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_13_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_14_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_15_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_16_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_17_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_18_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_19_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_20_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_21_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_22_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_23_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_24_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_25_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_26_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_27_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_28_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_29_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_30_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_31_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_32_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_33_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_34_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_35_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_36_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_37_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_38_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_39_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_40_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_41_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_42_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_43_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_44_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_45_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_46_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_47_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_48_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_49_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_50_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_51_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_52_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_53_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_54_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_55_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_56_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_57_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_58_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_59_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_60_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_61_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_62_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_63_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_64_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
+xfmStatus xfmHartley_64f(const xfm64f* src, xfm64f* dst, int32_t length, int32_t flag);
+xfmStatus xfmHartley_2_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_3_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_4_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_5_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_6_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_7_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_8_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_9_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_10_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_11_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_12_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_13_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_14_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_15_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_16_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_17_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_18_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_19_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_20_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_21_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_22_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_23_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_24_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_25_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_26_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_27_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_28_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_29_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_30_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_31_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_32_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_33_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_34_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_35_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_36_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_37_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_38_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_39_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_40_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_41_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_42_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_43_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_44_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_45_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_46_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_47_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_48_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_49_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_50_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_51_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_52_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_53_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_54_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_55_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_56_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_57_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_58_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_59_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_60_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_61_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_62_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_63_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+xfmStatus xfmHartley_64_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+/** @} */
+
 #if defined(__GNUC__)
 #pragma GCC visibility pop
 #endif

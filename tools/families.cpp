@@ -1,6 +1,7 @@
 #include "tools/families.h"
 
 #include "src/dft/recipe/dft.h"
+#include "src/hartley/recipe/hartley.h"
 #include "src/real/recipe/real.h"
 
 namespace xfm {
@@ -73,6 +74,24 @@ const char* const real_common =
 output is written. Every output is multiplied by s as its last step, also by 1. In single precision sums are
 rounded to binary32, and linear combinations with constants are evaluated in binary64 and rounded once.)";
 
+const char* const hartley_documentation = R"(Hartley transform of length N, 2 to 64.
+
+    dst[k] = s * sum over j of src[j] * (cos(2 pi j k / N) + sin(2 pi j k / N)),   j, k = 0 .. N-1
+
+Reads N elements of src, writes N elements of dst, in natural order. The transform is its own inverse but for a
+factor N, and the flags have no direction:
+
+| flag                  | factor s  |
+|-----------------------|-----------|
+| XFM_SCALE_FWD_BY_N    | 1/N       |
+| XFM_SCALE_INV_BY_N    | 1/N       |
+| XFM_SCALE_BY_SQRT_N   | 1/sqrt(N) |
+| XFM_SCALE_NONE        | 1         |
+
+@COMMON@
+@ERRORS@
+Sources: Hartley 1942; Bracewell 1983; Sorensen, Jones, Burrus and Heideman 1985; Rader 1968.)";
+
 const char* const errors =
     R"(Errors, in the order of the tests: a generic function gives xfmStsBadSize for a length that is not served; then
 xfmStsNullPtr (src or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.)";
@@ -144,6 +163,18 @@ Family real_family(real::Direction direction, real::Layout layout) {
           }};
 }
 
+Family hartley_family() {
+  return {.name = "Hartley",
+          .types = {ElementType{Precision::single, false}, ElementType{Precision::twofold, false}},
+          .lengths = hartley::lengths(),
+          .lowest = 2,
+          .highest = 64,
+          .vocabulary = "",
+          .documentation =
+              replaced(replaced(hartley_documentation, "@COMMON@", real_common), "@ERRORS@", errors),
+          .make = hartley::make_kernel};
+}
+
 }  // namespace
 
 const std::vector<Family>& families() {
@@ -156,6 +187,7 @@ const std::vector<Family>& families() {
       real_family(real::Direction::inverse, real::Layout::ccs),
       real_family(real::Direction::inverse, real::Layout::pack),
       real_family(real::Direction::inverse, real::Layout::perm),
+      hartley_family(),
   };
   return all;
 }

@@ -30,7 +30,7 @@ class Binder {
         made_nodes_(uses_.size(), -1) {
     for (const Value& output : draft.outputs) {
       const std::size_t at = index(output.node);
-      open_[at] = node(output.node).op == Op::sum && uses_[at] == 1;
+      open_[at] = binding.factor_inside && node(output.node).op == Op::sum && uses_[at] == 1;
     }
   }
 

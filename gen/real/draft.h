@@ -19,12 +19,12 @@ std::vector<int> uses(const Draft& draft);
 /// Where the inputs and outputs of a draft stand in memory, by their numbers.
 struct Binding {
   std::vector<int> from, to;
-  std::vector<int> zeros;  ///< elements of dst that are zero whatever the data
+  std::vector<int> zeros{};    ///< elements of dst that are zero whatever the data
+  bool factor_inside = false;  ///< of the statement, where one makes an output and nothing else
 };
 
 /// The kernel's network, with the values that are turned made as their negatives (signs.h). Every output is
-/// multiplied by the factor as its last step, inside the statement where one makes the output and nothing
-/// else; one whose sign is still wrong then is subtracted from zero.
+/// multiplied by the factor as its last step; one whose sign is still wrong then is subtracted from zero.
 std::unique_ptr<Network> bind(const Draft& draft, const Binding& binding, const std::vector<bool>& turned);
 
 }  // namespace xfm::gen::real

@@ -1,6 +1,9 @@
 #include "gen/real/merge.h"
 
 #include <algorithm>
+#include <functional>
+#include <map>
+#include <set>
 #include <stdexcept>
 
 #include "gen/complex.h"
@@ -8,54 +11,33 @@
 namespace xfm::gen::real {
 namespace {
 
-class Merging {
+std::size_t index(NodeId id) { return static_cast<std::size_t>(id); }
+
+bool is_product(const Term& term) { return !magnitude(term.coefficient).is_one(); }
+
+// A single product.
+bool is_lone(const Node& of) {
+  return of.op == Op::twice || (of.op == Op::sum && of.terms.size() == 1 && is_product(of.terms[0]));
+}
+NodeId operand(const Node& lone) { return lone.op == Op::twice ? lone.in[0] : lone.terms[0].node; }
+
+bool only_products(const Node& of) {
+  return is_lone(of) || (of.op == Op::sum && std::all_of(of.terms.begin(), of.terms.end(), is_product));
+}
+
+// A draft made anew, node by node.
+class Rebuilding {
  public:
-  explicit Merging(const Draft& draft)
-      : old_(draft), uses_(uses(draft)), absorbed_(uses_.size(), false), values_(uses_.size()) {
-    for (NodeId id = 0; id < static_cast<NodeId>(uses_.size()); ++id) {
-      if (uses_[index(id)] > 0 && is_lone(id)) absorb(operand(id));
-    }
-  }
+  explicit Rebuilding(const Draft& draft) : old_(draft), uses_(uses(draft)), values_(uses_.size()) {}
 
-  Draft run() {
-    for (NodeId id = 0; id < static_cast<NodeId>(uses_.size()); ++id) {
-      if (uses_[index(id)] > 0 && !absorbed_[index(id)]) values_[index(id)] = make(id);
-    }
-    for (const Value& output : old_.outputs) {
-      const Value v = value(output.node);
-      made_.outputs.push_back(output.negative ? -v : v);
-    }
-    return std::move(made_);
-  }
-
- private:
-  static std::size_t index(NodeId id) { return static_cast<std::size_t>(id); }
+ protected:
   const Node& node(NodeId id) const { return old_.network->node(id); }
+  NodeId size() const { return static_cast<NodeId>(uses_.size()); }
+  bool live(NodeId id) const { return uses_[index(id)] > 0; }
   Value value(NodeId id) const { return values_[index(id)]; }
+  void define(NodeId id, const Value& v) { values_[index(id)] = v; }
 
-  // A single product.
-  bool is_lone(NodeId id) const {
-    const Node& of = node(id);
-    return of.op == Op::twice ||
-           (of.op == Op::sum && of.terms.size() == 1 && !magnitude(of.terms[0].coefficient).is_one());
-  }
-  NodeId operand(NodeId lone) const {
-    return node(lone).op == Op::twice ? node(lone).in[0] : node(lone).terms[0].node;
-  }
-
-  bool only_products(NodeId id) const {
-    const std::vector<Term>& terms = node(id).terms;
-    return is_lone(id) ||
-           (node(id).op == Op::sum && std::none_of(terms.begin(), terms.end(), [](const Term& t) {
-              return magnitude(t.coefficient).is_one();
-            }));
-  }
-
-  void absorb(NodeId id) {
-    if (only_products(id) && uses_[index(id)] == 1) absorbed_[index(id)] = true;
-  }
-
-  Value make(NodeId id) {
+  Value copy(NodeId id) const {
     const Node& of = node(id);
     switch (of.op) {
       case Op::load:
@@ -73,29 +55,108 @@ class Merging {
     }
   }
 
-  // The terms of a statement, what it absorbs multiplied out.
   std::vector<Network::Product> terms(NodeId id) const {
+    if (node(id).op == Op::twice) return {{constant("2", 2), value(node(id).in[0])}};
     std::vector<Network::Product> all;
-    if (node(id).op == Op::twice) {
-      all.push_back({constant("2", 2), value(node(id).in[0])});
-    } else if (is_lone(id) && absorbed_[index(operand(id))]) {
-      all = terms(operand(id));
-      for (Network::Product& term : all) term.c = node(id).terms[0].coefficient * term.c;
-    } else {
-      for (const Term& term : node(id).terms) all.push_back({term.coefficient, value(term.node)});
-    }
+    for (const Term& term : node(id).terms) all.push_back({term.coefficient, value(term.node)});
     return all;
   }
 
+  Draft finished() {
+    for (const Value& output : old_.outputs) {
+      const Value v = value(output.node);
+      made_.outputs.push_back(output.negative ? -v : v);
+    }
+    return std::move(made_);
+  }
+
   const Draft& old_;
-  Draft made_;
   std::vector<int> uses_;
-  std::vector<bool> absorbed_;
+
+ private:
+  Draft made_;
   std::vector<Value> values_;
+};
+
+std::vector<Network::Product> scaled(std::vector<Network::Product> terms, const Constant& by) {
+  for (Network::Product& term : terms) term.c = by * term.c;
+  return terms;
+}
+
+class Merging : Rebuilding {
+ public:
+  using Rebuilding::Rebuilding;
+
+  Draft run() {
+    std::vector<bool> absorbed(uses_.size(), false);
+    for (NodeId id = 0; id < size(); ++id) {
+      if (!live(id) || !is_lone(node(id))) continue;
+      const NodeId inner = operand(node(id));
+      absorbed[index(inner)] = only_products(node(inner)) && uses_[index(inner)] == 1;
+    }
+    const std::function<std::vector<Network::Product>(NodeId)> all_terms = [&](NodeId id) {
+      if (!is_lone(node(id)) || !absorbed[index(operand(node(id)))]) return terms(id);
+      return scaled(all_terms(operand(node(id))), node(id).terms[0].coefficient);
+    };
+    for (NodeId id = 0; id < size(); ++id) {
+      if (!live(id) || absorbed[index(id)]) continue;
+      define(id, is_lone(node(id)) && node(id).op == Op::sum ? statement(all_terms(id)) : copy(id));
+    }
+    return finished();
+  }
+};
+
+class PairMerging : Rebuilding {
+ public:
+  using Rebuilding::Rebuilding;
+
+  Draft run() {
+    find_pairs();
+    for (NodeId id = 0; id < size(); ++id) {
+      if (!live(id)) continue;
+      if (const auto by = scales_.find(id); by != scales_.end()) {
+        define(id, statement(scaled(terms(id), by->second)));
+      } else if (vanishing_.contains(id)) {
+        define(id, value(operand(node(id))));
+      } else {
+        define(id, copy(id));
+      }
+    }
+    return finished();
+  }
+
+ private:
+  // u + v and u - v, each multiplied by the same constant and used in no other way; u and v products alone.
+  void find_pairs() {
+    std::map<std::pair<NodeId, NodeId>, NodeId> lone_sums;
+    for (NodeId id = 0; id < size(); ++id) {
+      if (!live(id) || node(id).op != Op::sum || !is_lone(node(id))) continue;
+      const NodeId both = operand(node(id));
+      if (uses_[index(both)] != 1 || (node(both).op != Op::add && node(both).op != Op::sub)) continue;
+      const auto key = std::minmax(node(both).in[0], node(both).in[1]);
+      const auto [other, fresh] = lone_sums.try_emplace({key.first, key.second}, id);
+      if (!fresh) merge(key.first, key.second, id, other->second);
+    }
+  }
+
+  void merge(NodeId u, NodeId v, NodeId a, NodeId b) {
+    const auto fits = [&](NodeId id) { return only_products(node(id)) && uses_[index(id)] == 2; };
+    const Constant &k = node(a).terms[0].coefficient, &l = node(b).terms[0].coefficient;
+    if (!fits(u) || !fits(v) || k != l || u == v) return;
+    scales_.insert({u, k});
+    scales_.insert({v, k});
+    vanishing_.insert(a);
+    vanishing_.insert(b);
+  }
+
+  std::map<NodeId, Constant> scales_;
+  std::set<NodeId> vanishing_;
 };
 
 }  // namespace
 
 Draft merged(const Draft& draft) { return Merging(draft).run(); }
+
+Draft merged_pairs(const Draft& draft) { return PairMerging(draft).run(); }
 
 }  // namespace xfm::gen::real

@@ -9,4 +9,8 @@ namespace xfm::gen::real {
 
 Draft merged(const Draft& draft);
 
+/// Merges only what two products share: where u + v and u - v are multiplied by the same constant and used in
+/// no other way, u and v, statements of products alone, take it.
+Draft merged_pairs(const Draft& draft);
+
 }  // namespace xfm::gen::real

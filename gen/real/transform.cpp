@@ -8,15 +8,35 @@ int length_of(const Tree& plan) {
   if (plan.is_number()) return plan.number;
   if (plan.rule == "D") return plan.args[0].number;
   if (plan.rule == "R") return length_of(plan.args[1]) + 1;
+  if (plan.rule == "F") return 2 * length_of(plan.args[0]);
   int product = 1;
   for (const Tree& arg : plan.args) product *= length_of(arg);
   return product;
 }
 
+namespace {
+
+Points fork(const Tree& plan, const Values& x) {
+  const std::size_t half = x.size() / 2;
+  Values sums, differences;
+  for (std::size_t n = 0; n < half; ++n) {
+    sums.push_back(x[n] + x[n + half]);
+    differences.push_back(x[n] - x[n + half]);
+  }
+  const Points even = transform(plan.args[0], sums), odd = skew_transform(plan.args[1], differences);
+  Spectrum out(static_cast<int>(x.size()));
+  for (std::size_t k = 0; k < even.size(); ++k) out.put(static_cast<int>(2 * k), even[k]);
+  for (std::size_t f = 0; f < odd.size(); ++f) out.put(static_cast<int>(2 * f + 1), odd[f]);
+  return out.bins();
+}
+
+}  // namespace
+
 Points transform(const Tree& plan, const Values& x) {
   if (plan.is_number() || plan.rule == "D") return direct(plan, x);
   if (plan.rule == "x" || plan.rule == "*") return two_stages(plan, x);
   if (plan.rule == "R") return rader(plan, x);
+  if (plan.rule == "F") return fork(plan, x);
   throw std::invalid_argument("no rule " + plan.rule + " for real sequences");
 }
 

@@ -5,6 +5,7 @@
 //   2, 3, 5, 7, 11   a direct block; D(7, 1, 3, 2, 0) is one whose transpose sums the bins in that order
 //   a x b            Good-Thomas, a nearest the input
 //   a * b            Cooley-Tukey
+//   F(M, S)          a stage of two: M for the even bins, the skew S for the odd ones
 //   R(g, L, M, S)    Rader with root g: the transform there, and the two half-length ones back, which run
 //                    transposed: M for the real parts, the skew S for the imaginary parts (M, if left out)
 // A plan run from its bins to its samples, the transpose of its network, is the inverse transform.

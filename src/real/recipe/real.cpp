@@ -69,12 +69,12 @@ gen::real::Binding binding(Direction direction, Layout layout, int length) {
   for (int n = 0; n < length; ++n) natural.push_back(n);
   if (direction == Direction::forward) {
     for (const Half& of : halves(length)) packed.push_back(element(layout, length, of.k, of.part));
-    return {natural, packed, zeros(layout, length)};
+    return {natural, packed, zeros(layout, length), true};
   }
   packed.resize(static_cast<std::size_t>(length + 2));
   for (const Half& of : halves(length))
     packed[static_cast<std::size_t>(2 * of.k + of.part)] = element(layout, length, of.k, of.part);
-  return {packed, natural, {}};
+  return {packed, natural};
 }
 
 // X[k] = sum over j of x[j] exp(-2 pi i j k/N), and x[j] as the sum over all bins of the Hermitian spectrum.

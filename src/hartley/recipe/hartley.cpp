@@ -1,0 +1,127 @@
+#include "src/hartley/recipe/hartley.h"
+
+#include <stdexcept>
+
+#include "gen/check.h"
+#include "gen/real/merge.h"
+#include "gen/real/signs.h"
+#include "gen/real/transform.h"
+#include "gen/transpose.h"
+#include "src/hartley/recipe/structure.h"
+
+namespace xfm::hartley {
+namespace {
+
+using gen::Complex;
+using gen::Kernel;
+using gen::Precision;
+using gen::Tree;
+using gen::Wide;
+using gen::real::Draft;
+using gen::real::Values;
+
+// Numbers that stand for plans are spelled out.
+Tree spelled_out(const Tree& tree) {
+  if (tree.is_number()) {
+    const char* plan = plan_of(tree.number);
+    return plan == nullptr ? tree : spelled_out(gen::parse_tree(plan));
+  }
+  Tree plan = tree;
+  for (std::size_t a = tree.rule == "R" ? 1 : 0; a < plan.args.size(); ++a)
+    plan.args[a] = spelled_out(plan.args[a]);
+  return plan;
+}
+
+Values samples(gen::Network& network, int length) {
+  Values x;
+  for (int n = 0; n < length; ++n) x.push_back(network.load(n));
+  return x;
+}
+
+// H[k] = Re X[k] - Im X[k], and H[N-k] = Re X[k] + Im X[k].
+Draft forward(const Tree& plan, int length) {
+  Draft draft;
+  const gen::Points bins = gen::real::transform(plan, samples(*draft.network, length));
+  draft.outputs.resize(static_cast<std::size_t>(length));
+  for (std::size_t k = 0; k < bins.size(); ++k) {
+    const std::size_t mirror = (draft.outputs.size() - k) % draft.outputs.size();
+    draft.outputs[k] = bins[k].p - bins[k].q;
+    if (mirror != k) draft.outputs[mirror] = bins[k].p + bins[k].q;
+  }
+  return draft;
+}
+
+// H[k] = x0 + sum_j (x[j] + x[N-j]) cos(2 pi jk/N) + (x[j] - x[N-j]) sin(2 pi jk/N), j < N/2 (and +-x[N/2]
+// for even N): an inverse real transform of the bins x[j] + x[N-j], x[N-j] - x[j].
+Draft folded(const Tree& plan, int length) {
+  gen::Network there(1, gen::Rounding::statement);
+  const gen::Points bins = gen::real::transform(plan, samples(there, length));
+  Draft draft;
+  const Values x = samples(*draft.network, length);
+  gen::Transposition transposition(there);
+  for (std::size_t j = 0; j < bins.size(); ++j) {
+    const std::size_t mirror = (x.size() - j) % x.size();
+    transposition.send(bins[j].p, {mirror == j ? x[j] : x[j] + x[mirror], {}});
+    if (mirror != j) transposition.send(bins[j].q, {x[mirror] - x[j], {}});
+  }
+  for (const Complex& output : transposition.run(length)) draft.outputs.push_back(output.p);
+  return draft;
+}
+
+// dst[k] = sum over j of src[j] (cos + sin)(2 pi j k/N).
+void definition(const std::vector<Wide>& src, std::vector<Wide>& dst) {
+  const auto length = static_cast<long long>(src.size());
+  for (long long k = 0; k < length; ++k) {
+    Wide sum = 0;
+    for (long long j = 0; j < length; ++j) {
+      const gen::Turn angle = gen::turn(j * k, length);
+      sum += src[static_cast<std::size_t>(j)] * (gen::cosine(angle).value + gen::sine(angle).value);
+    }
+    dst[static_cast<std::size_t>(k)] = sum;
+  }
+}
+
+gen::real::Binding natural_order(int length) {
+  std::vector<int> order;
+  for (int n = 0; n < length; ++n) order.push_back(n);
+  return {order, order};
+}
+
+}  // namespace
+
+std::vector<int> lengths() {
+  std::vector<int> all;
+  for (const Row& row : table()) all.push_back(row.length);
+  return all;
+}
+
+Kernel make_kernel(int length, Precision precision, const std::string& plan) {
+  const Row& of = row(length);
+  Kernel kernel{.name = "",
+                .family = "Hartley",
+                .type = {precision, false},
+                .scaling = gen::Scaling::symmetric,
+                .length = length,
+                .read = length,
+                .written = length,
+                .tree = plan.empty() ? of.plan : plan,
+                .adds = of.adds,
+                .mults = of.mults,
+                .network = nullptr};
+  kernel.name = "xfm" + kernel.family + "_" + std::to_string(length) + "_" + kernel.type.suffix();
+  const Tree whole = spelled_out(gen::parse_tree(kernel.tree));
+  if (gen::real::length_of(whole) != length)
+    throw std::invalid_argument("plan " + kernel.tree + " is not one of length " + std::to_string(length));
+  const Draft raw = of.design == Design::forward ? forward(whole, length) : folded(whole, length);
+  const Draft draft = of.merge_pairs ? gen::real::merged_pairs(raw) : gen::real::merged(raw);
+  kernel.network = gen::real::bind(draft, natural_order(length), gen::real::turned_signs(draft));
+  gen::check_memory(*kernel.network, length, length, kernel.name);
+  gen::check_definition(*kernel.network, definition, length, length, kernel.name);
+  if (plan.empty()) {
+    check_structure(draft, of, kernel.name);
+    gen::check_counts(gen::count(*kernel.network), kernel.adds, kernel.mults, kernel.name);
+  }
+  return kernel;
+}
+
+}  // namespace xfm::hartley

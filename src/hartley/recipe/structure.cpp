@@ -1,0 +1,145 @@
+#include "src/hartley/recipe/structure.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <set>
+#include <stdexcept>
+
+#include "gen/number.h"
+#include "gen/schedule.h"
+
+namespace xfm::hartley {
+namespace {
+
+using gen::Node;
+using gen::NodeId;
+using gen::Op;
+using Set = std::uint64_t;  // of inputs
+
+Set one(int j) { return Set{1} << static_cast<unsigned>(j); }
+
+class Structure {
+ public:
+  Structure(const gen::real::Draft& draft, const Row& row)
+      : draft_(draft), row_(row), uses_(uses(draft)), supports_(uses_.size(), 0) {
+    for (NodeId id = 0; id < static_cast<NodeId>(uses_.size()); ++id) {
+      if (uses_[index(id)] == 0) continue;
+      const Node& of = node(id);
+      if (of.op == Op::load) supports_[index(id)] = one(of.lanes[0]);
+      for (const NodeId operand : operands(of)) supports_[index(id)] |= supports_[index(operand)];
+      values_.insert(supports_[index(id)]);
+    }
+  }
+
+  // Nothing but x[j] + x[N-j] and x[j] - x[N-j] uses x[j].
+  bool folds() const {
+    for (NodeId id = 0; id < static_cast<NodeId>(uses_.size()); ++id) {
+      if (uses_[index(id)] == 0) continue;
+      for (const NodeId operand : operands(node(id))) {
+        if (node(operand).op != Op::load) continue;
+        const int j = node(operand).lanes[0];
+        if (j == 0 || 2 * j == row_.length) continue;
+        if (supports_[index(id)] != (one(j) | one(row_.length - j))) return false;
+      }
+    }
+    return true;
+  }
+
+  // Some values depend on m inputs each, and their sets partition the inputs: all of them, for m = N-1 all
+  // but x[0], for a prime N and m dividing N-1 the same.
+  bool closes(int m) const {
+    const int n = row_.length;
+    const Set all = n == 64 ? ~Set{0} : one(n) - 1;
+    const bool without_first = n % m != 0;
+    if (m == 2 && row_.input == Input::fold && n % 2 == 1) return covers(all & ~Set{1}, m);
+    return covers(without_first ? all & ~Set{1} : all, m);
+  }
+
+  bool ends_with(Output output) const {
+    const int n = row_.length;
+    switch (output) {
+      case Output::conjugate:
+        return every(n / 2 + n % 2, [&](int k) { return k == 0 || paired(k, n - k); });
+      case Output::half:
+        return every(n / 2, [&](int k) { return paired(k, k + n / 2); });
+      default:
+        return ends_with_radix();
+    }
+  }
+
+ private:
+  static std::size_t index(NodeId id) { return static_cast<std::size_t>(id); }
+  const Node& node(NodeId id) const { return draft_.network->node(id); }
+
+  template <class Holds>
+  static bool every(int count, Holds holds) {
+    for (int k = 0; k < count; ++k) {
+      if (!holds(k)) return false;
+    }
+    return true;
+  }
+
+  // An exact cover by supports of size m: the lowest input left has to be in one of them.
+  bool covers(Set left, int m) const {
+    if (left == 0) return true;
+    const Set lowest = left & (~left + 1);
+    return std::any_of(values_.begin(), values_.end(), [&](Set support) {
+      const bool fits =
+          (support & lowest) != 0 && (support & ~left) == 0 && __builtin_popcountll(support) == m;
+      return fits && covers(left & ~support, m);
+    });
+  }
+
+  // The sum and the difference of the same two values.
+  bool paired(int k, int l) const {
+    const Node &a = node(draft_.outputs[static_cast<std::size_t>(k)].node),
+               &b = node(draft_.outputs[static_cast<std::size_t>(l)].node);
+    const auto two = [](const Node& of) { return of.op == Op::add || of.op == Op::sub; };
+    return two(a) && two(b) && a.op != b.op && std::set{a.in[0], a.in[1]} == std::set{b.in[0], b.in[1]};
+  }
+
+  // Groups of r outputs, all but one of each in pairs.
+  bool ends_with_radix() const {
+    const int n = row_.length, r = row_.radix;
+    std::vector<std::vector<int>> groups;
+    if (n % r == 0) {
+      for (int k = 0; k < n / r; ++k) {
+        std::vector<int>& group = groups.emplace_back();
+        for (int t = 0; t < r; ++t) group.push_back(k + t * (n / r));
+      }
+    } else {
+      const int g = gen::smallest_primitive_root(n);
+      for (int k = 0; k < (n - 1) / r; ++k) {
+        std::vector<int>& group = groups.emplace_back();
+        for (int t = 0; t < r; ++t) group.push_back(gen::power_modulo(g, k + t * (n - 1) / r, n));
+      }
+    }
+    return std::all_of(groups.begin(), groups.end(), [&](const std::vector<int>& group) {
+      const auto in_pair = [&](int k) {
+        return std::any_of(group.begin(), group.end(), [&](int l) { return l != k && paired(k, l); });
+      };
+      return std::count_if(group.begin(), group.end(), in_pair) >= r - 1;
+    });
+  }
+
+  const gen::real::Draft& draft_;
+  const Row& row_;
+  std::vector<int> uses_;
+  std::vector<Set> supports_;
+  std::set<Set> values_;
+};
+
+}  // namespace
+
+void check_structure(const gen::real::Draft& draft, const Row& row, const std::string& name) {
+  const Structure structure(draft, row);
+  if (row.input == Input::fold && !structure.folds())
+    throw std::runtime_error(name + ": inputs are used outside the fold");
+  for (const int m : row.groups) {
+    if (m > 0 && !structure.closes(m))
+      throw std::runtime_error(name + ": no closed groups of " + std::to_string(m) + " inputs");
+  }
+  if (!structure.ends_with(row.output)) throw std::runtime_error(name + ": another output stage");
+}
+
+}  // namespace xfm::hartley
