@@ -19,7 +19,7 @@ using Line = std::array<const Measured*, 2>;
 std::string rows_of_exceptions(const std::vector<Measured>& measured) {
   std::string rows;
   for (const auto& [kernel, errors] : measured) {
-    if (errors.worst <= matrix_bound(kernel.precision)) continue;
+    if (errors.worst <= common_bound(kernel)) continue;
     rows +=
         "| `" + std::string(kernel.name) + "` | " + kernel.tree + " | " + rounded_up(errors.worst) + " |\n";
   }
@@ -35,7 +35,7 @@ std::string exceptions(const std::vector<Measured>& measured) {
 std::string cells(const Measured* measured) {
   if (measured == nullptr) return " | |";
   const auto& [kernel, errors] = *measured;
-  const bool beyond = errors.worst > matrix_bound(kernel.precision);
+  const bool beyond = errors.worst > common_bound(kernel);
   const std::string mark = beyond ? "**" : "";
   return " " + mark + rounded_up(errors.worst) + mark + " | " + rounded_up(errors.rms) + " |";
 }

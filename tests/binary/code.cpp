@@ -1,12 +1,14 @@
 // The code of every kernel, body and twin: straight, self-contained, within the instruction set, and with no
 // more operations than its row allows.
 #include <map>
+#include <optional>
 #include <set>
 
 #include "paths.h"
 #include "tests/binary/disassembly.h"
 #include "tests/binary/tools.h"
 #include "tests/support/kernel_test.h"
+#include "tests/support/layout.h"
 
 namespace xfm::test {
 namespace {
@@ -41,6 +43,20 @@ class Code : public KernelTest {
     Tally result;
     for (const Instruction* instruction : body.instructions) result.add(*instruction);
     return result;
+  }
+
+  static bool clears(const Instruction& instruction) {
+    const std::string& both = instruction.operands;
+    const auto comma = both.find(',');
+    return instruction.mnemonic.find("xor") != std::string::npos && both.substr(0, comma) == both.substr(comma + 1);
+  }
+
+  /// The displacement in front of a base register: 8 of "0x8(%rdi),%xmm0", 0 of "(%rdi),%xmm0".
+  static std::optional<int> displacement_in(const std::string& operands, const std::string& base) {
+    const auto at = operands.find(base);
+    if (at == std::string::npos) return std::nullopt;
+    const auto start = operands.substr(0, at).find_last_of(',') + 1;
+    return at == start ? 0 : std::stoi(operands.substr(start, at - start), nullptr, 16);
   }
 
   /// Binary64 and packed: a register is one complex number.
@@ -91,7 +107,7 @@ TEST_P(Code, ConstantsAreReadOnly) {
 // The row bounds real operations; a packed instruction of four lanes may carry idle ones, so there the
 // generator's own count of instructions is what the code must have.
 TEST_P(Code, OperationCounts) {
-  const int adds = kernel().adds, mults = kernel().mults + kernel().written;
+  const int adds = kernel().adds, mults = kernel().mults + scaled_outputs(kernel());
   for (const auto& [name, body] : bodies()) {
     const Tally count = tally(body);
     if (kernel().packed_math) {
@@ -110,8 +126,33 @@ TEST_P(Code, OperationCounts) {
       EXPECT_LE(2 * count.packed_mults, mults) << name;
     }
     EXPECT_GE(count.packed_mults + count.scalar_mults,
-              kernel().packed_math ? kernel().written / 4 : kernel().written)
+              kernel().packed_math ? kernel().written / 4 : scaled_outputs(kernel()))
         << name << " does not multiply every output by the factor";
+  }
+}
+
+// A sign is turned by a subtraction from zero, never by its bit; a register is cleared by itself.
+TEST_P(Code, RealTransformsNegateNothing) {
+  if (real_family(kernel()) == nullptr) return;
+  for (const auto& [name, body] : bodies())
+    for (const Instruction* instruction : body.instructions)
+      EXPECT_TRUE(instruction->sort != Sort::bits || clears(*instruction)) << name << ": " << instruction->text();
+}
+
+// Stored zeros of a spectrum are no input: not even a load whose value goes nowhere touches them.
+TEST_P(Code, RealTransformsLoadEachInputOnce) {
+  const RealFamily* const family = real_family(kernel());
+  if (family == nullptr) return;
+  std::multiset<int> expected;
+  for (int in = 0; in < kernel().read; ++in)
+    if (family->forward || cells(family->layout, kernel().length)[static_cast<std::size_t>(in)].part != Part::zero)
+      expected.insert(in);
+  for (const auto& [name, body] : bodies()) {
+    std::multiset<int> loaded;
+    for (const Instruction* instruction : body.instructions)
+      if (const auto displacement = displacement_in(instruction->operands, "(%rdi)"))
+        loaded.insert(*displacement / step());
+    EXPECT_EQ(loaded, expected) << name;
   }
 }
 
