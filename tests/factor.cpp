@@ -26,9 +26,9 @@ class Factor : public KernelTest {
   }
 };
 
-/// Two binary32 factors have an exact product in binary64, so that this rounds once in either precision. Where the
-/// value is still a binary64 one when the factor comes to it, nothing but the result is rounded to binary32: then it is
-/// some value that rounds to the unscaled output.
+/// Two binary32 factors have an exact product in binary64, so that this rounds once in either precision.
+/// Where the value is still a binary64 one when the factor comes to it, nothing but the result is rounded to
+/// binary32: then it is some value that rounds to the unscaled output.
 bool Factor::is_scaled(int i, double scaled, double unscaled, double factor) {
   const auto product = [&](double value) { return rounded(kernel().precision, value * factor); };
   if (!may_scale_before_narrowing(kernel(), i)) {

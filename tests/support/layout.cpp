@@ -29,7 +29,8 @@ std::vector<Cell> cells(Layout layout, int length) {
 }
 
 const RealFamily* real_family(const catalogue::Kernel& kernel) {
-  const auto* const found = std::ranges::find(real_families, std::string_view(kernel.family), &RealFamily::name);
+  const auto* const found =
+      std::ranges::find(real_families, std::string_view(kernel.family), &RealFamily::name);
   return found == std::end(real_families) ? nullptr : found;
 }
 

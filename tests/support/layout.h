@@ -1,5 +1,5 @@
-// The half spectrum of a real sequence of N samples, bins 0 to N/2, as the three packed layouts hold it. In bin 0 and,
-// for even N, in bin N/2 the imaginary part is zero: CCS stores it, Pack and Perm leave it out.
+// The half spectrum of a real sequence of N samples, bins 0 to N/2, as the three packed layouts hold it. In
+// bin 0 and, for even N, in bin N/2 the imaginary part is zero: CCS stores it, Pack and Perm leave it out.
 #pragma once
 
 #include <optional>
@@ -14,8 +14,8 @@ constexpr Layout layouts[] = {Layout::ccs, Layout::pack, Layout::perm};
 
 enum class Part { real, imaginary, zero };
 
-/// What one element of a layout holds. A zero is an imaginary part that is not free: forward kernels store +0 there,
-/// inverse kernels do not fetch it.
+/// What one element of a layout holds. A zero is an imaginary part that is not free: forward kernels store +0
+/// there, inverse kernels do not fetch it.
 struct Cell {
   int bin;
   Part part;
@@ -32,8 +32,8 @@ struct RealFamily {
   bool forward;
 };
 constexpr RealFamily real_families[] = {
-    {"DFTFwd_RToCCS", Layout::ccs, true},   {"DFTFwd_RToPack", Layout::pack, true},
-    {"DFTFwd_RToPerm", Layout::perm, true}, {"DFTInv_CCSToR", Layout::ccs, false},
+    {"DFTFwd_RToCCS", Layout::ccs, true},    {"DFTFwd_RToPack", Layout::pack, true},
+    {"DFTFwd_RToPerm", Layout::perm, true},  {"DFTInv_CCSToR", Layout::ccs, false},
     {"DFTInv_PackToR", Layout::pack, false}, {"DFTInv_PermToR", Layout::perm, false},
 };
 
@@ -43,8 +43,8 @@ const RealFamily* real_family(const catalogue::Kernel& kernel);
 /// Scalars of dst that the factor multiplies: all but the stored zeros.
 int scaled_outputs(const catalogue::Kernel& kernel);
 
-/// Whether the factor may come to scalar `out` of dst while it still is a binary64 value: in the forward kernels of
-/// binary32, where the last stage is a direct block or a rotation, and never in bin 0.
+/// Whether the factor may come to scalar `out` of dst while it still is a binary64 value: in the forward
+/// kernels of binary32, where the last stage is a direct block or a rotation, and never in bin 0.
 bool may_scale_before_narrowing(const catalogue::Kernel& kernel, int out);
 
 }  // namespace xfm::test

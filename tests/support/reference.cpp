@@ -95,8 +95,8 @@ class RealToSpectrum : public Definition {
   Circle circle_;
 };
 
-/// x(j) = sum over all N bins of X(k) * exp(2 pi i j k / N), X(N-k) being the conjugate of X(k): both together
-/// give 2 (R(k) cos - I(k) sin).
+/// x(j) = sum over all N bins of X(k) * exp(2 pi i j k / N), X(N-k) being the conjugate of X(k): both
+/// together give 2 (R(k) cos - I(k) sin).
 class SpectrumToReal : public Definition {
  public:
   SpectrumToReal(Layout layout, int length)
