@@ -1,8 +1,10 @@
 // The three packed layouts: what element holds what, and that it is the same value in each of them.
 #include "tests/support/layout.h"
 
+#include <fstream>
 #include <map>
 #include <set>
+#include <sstream>
 
 #include "tests/bits/data.h"
 #include "tests/bits/same_values.h"
@@ -42,6 +44,27 @@ TEST(Layouts, OfTheShortLengths) {
     EXPECT_EQ(description(Layout::ccs, row.length), row.ccs);
     EXPECT_EQ(description(Layout::pack, row.length), row.pack);
     EXPECT_EQ(description(Layout::perm, row.length), row.perm);
+  }
+}
+
+// The pictures of the document are those of the layouts.
+TEST(Layouts, AreDocumented) {
+  std::ifstream file(XFM_LAYOUTS_DOCUMENT);
+  std::ostringstream text;
+  text << file.rdbuf();
+  for (const int length : {5, 6, 7, 8}) {
+    const auto start = text.str().find("N = " + std::to_string(length) + " ");
+    ASSERT_NE(start, std::string::npos) << length;
+    const std::string picture = text.str().substr(start, text.str().find("\n\n", start) - start);
+    for (const auto& [layout, name] :
+         {std::pair{Layout::ccs, "CCS "}, {Layout::pack, "Pack"}, {Layout::perm, "Perm"}}) {
+      std::string line = std::string(name) + " |";
+      for (const Cell& cell : cells(layout, length)) {
+        const std::string bin = std::to_string(cell.bin);
+        line += cell.part == Part::zero ? " 0  |" : (cell.part == Part::real ? " R" : " I") + bin + " |";
+      }
+      EXPECT_NE(picture.find(line + "\n"), std::string::npos) << line << " is not in\n" << picture;
+    }
   }
 }
 
