@@ -6,32 +6,24 @@
 
 namespace xfm::test {
 
-/// x0 + sum over j of cos(2 pi j k / p) * s(j), j = 1 .. (p-1)/2, inside a statement. The text leaves the
-/// order of the terms open, as it seldom shows in binary32: they stand in the order of j, and x0 before them
-/// where the first product is subtracted, behind them where it is added: (x0 - c2*s1) + c1*s2, (c1*s1 -
-/// c2*s2) + x0.
+/// x0 + sum over j of cos(2 pi j k / p) * s(j), j = 1 .. (p-1)/2, inside a statement.
 template <class T>
-double even_term(int k, T x0, const std::vector<T>& s) {
+OneOf<double> even_term(int k, T x0, const std::vector<T>& s) {
   const auto p = 2 * static_cast<long>(s.size()) + 1;
-  const bool x0_first = cosine<double>(k, p) < 0;
-  double sum = double{x0};
-  for (std::size_t j = 0; j < s.size(); ++j) {
-    const double product = cosine<double>(static_cast<long>(j + 1) * k, p) * double{s[j]};
-    sum = j > 0 || x0_first ? sum + product : product;
-  }
-  return x0_first ? sum : sum + double{x0};
+  std::vector<double> terms = {double{x0}};
+  for (std::size_t j = 0; j < s.size(); ++j)
+    terms.push_back(cosine<double>(static_cast<long>(j + 1) * k, p) * double{s[j]});
+  return sum_in_any_order(std::move(terms));
 }
 
-/// sum over j of sin(2 pi j k / p) * d(j), in the order of j; the first product is always added.
+/// sum over j of sin(2 pi j k / p) * d(j).
 template <class T>
-double odd_term(int k, const std::vector<T>& d) {
+OneOf<double> odd_term(int k, const std::vector<T>& d) {
   const auto p = 2 * static_cast<long>(d.size()) + 1;
-  double sum = 0;
-  for (std::size_t j = 0; j < d.size(); ++j) {
-    const double product = sine<double>(static_cast<long>(j + 1) * k, p) * double{d[j]};
-    sum = j > 0 ? sum + product : product;
-  }
-  return sum;
+  std::vector<double> terms;
+  for (std::size_t j = 0; j < d.size(); ++j)
+    terms.push_back(sine<double>(static_cast<long>(j + 1) * k, p) * double{d[j]});
+  return sum_in_any_order(std::move(terms));
 }
 
 /// From the left: the text gives no order, but for the inverse block of 7 points.
@@ -60,14 +52,14 @@ template <class T>
 struct Block {
   explicit Block(const Samples<T>& x) {
     const Folded<T> f(x);
-    even.push_back(f.x0 + sum_of(f.s));
-    odd.push_back(T(0));
+    even.emplace_back(f.x0 + sum_of(f.s));
+    odd.emplace_back(T(0));
     for (int k = 1; k <= static_cast<int>(f.s.size()); ++k) {
       even.push_back(narrow<T>(even_term(k, f.x0, f.s)));
       odd.push_back(narrow<T>(odd_term(k, f.d)));
     }
   }
-  std::vector<T> even, odd;
+  std::vector<OneOf<T>> even, odd;
 };
 
 }  // namespace xfm::test

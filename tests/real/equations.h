@@ -11,10 +11,10 @@
 namespace xfm::test {
 
 template <class T>
-using Forward = std::function<HalfSpectrum<T>(const Samples<T>& x, T s)>;
+using Forward = std::function<HalfSpectrum<OneOf<T>>(const Samples<T>& x, T s)>;
 
 template <class T>
-using Inverse = std::function<Samples<T>(const HalfSpectrum<T>& spectrum, T s, Layout layout)>;
+using Inverse = std::function<Samples<OneOf<T>>(const HalfSpectrum<T>& spectrum, T s, Layout layout)>;
 
 /// By length.
 template <class T>
@@ -24,6 +24,6 @@ std::map<int, Inverse<T>> inverse_equations();
 
 /// The first of the lengths that go through a convolution, N = 13.
 template <class T>
-HalfSpectrum<T> forward13(const Samples<T>& x, T s);
+HalfSpectrum<OneOf<T>> forward13(const Samples<T>& x, T s);
 
 }  // namespace xfm::test

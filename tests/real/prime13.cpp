@@ -40,9 +40,9 @@ std::array<Pair<T>, half + 1> spectrum_of_samples(const Samples<T>& x) {
     Samples<T> triple;
     for (std::size_t a = 0; a < 3; ++a) triple.push_back(x[powers[(4 * a + 3 * b) % period]]);
     const Block<T> block(triple);
-    sums[b] = block.even[0];
-    c[b] = block.even[1];
-    d[b] = block.odd[1];  // bin 1 of the block is c - i d
+    sums[b] = block.even[0].only();
+    c[b] = block.even[1].only();
+    d[b] = block.odd[1].only();  // bin 1 of the block is c - i d
   }
   const T even = sums[0] + sums[2], odd = sums[1] + sums[3];
   const T c0 = c[0] + c[2], c1 = c[1] + c[3], c2 = c[0] - c[2], c3 = c[1] - c[3];
@@ -99,7 +99,7 @@ std::array<T, half> skew_half(Pair<T> g1, Pair<T> g3, Pair<T> g5) {
 }  // namespace
 
 template <class T>
-HalfSpectrum<T> forward13(const Samples<T>& x, T s) {
+HalfSpectrum<OneOf<T>> forward13(const Samples<T>& x, T s) {
   const auto a = spectrum_of_samples(x);
   const auto constant = [](int k) {
     const auto [re, im] = spectrum_of_roots(k, k == half ? 1 : 2);
@@ -113,17 +113,17 @@ HalfSpectrum<T> forward13(const Samples<T>& x, T s) {
   const T t = narrow<T>(double{x[0]} - 1.0 / 12 * double{a[0].re});
   const auto re = real_half(t, g[2], g[4], g6), im = skew_half(g[1], g[3], g[5]);
 
-  HalfSpectrum<T> out(length);
+  HalfSpectrum<OneOf<T>> out(length);
   out.re[0] = (x[0] + a[0].re) * s;
   for (std::size_t p = 0; p < half; ++p) {
     const std::size_t k = powers[(period - p) % period], bin = std::min(k, length - k);
     out.re[bin] = re[p] * s;
-    out.im[bin] = k == bin ? im[p] * s : turned(im[p] * s);
+    out.im[bin] = k == bin ? OneOf<T>(im[p] * s) : turned<T>(im[p] * s);
   }
   return out;
 }
 
-template HalfSpectrum<float> forward13(const Samples<float>&, float);
-template HalfSpectrum<double> forward13(const Samples<double>&, double);
+template HalfSpectrum<OneOf<float>> forward13(const Samples<float>&, float);
+template HalfSpectrum<OneOf<double>> forward13(const Samples<double>&, double);
 
 }  // namespace xfm::test
