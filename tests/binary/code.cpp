@@ -9,6 +9,7 @@
 #include "tests/binary/tools.h"
 #include "tests/support/kernel_test.h"
 #include "tests/support/layout.h"
+#include "tests/support/reference.h"
 
 namespace xfm::test {
 namespace {
@@ -58,6 +59,23 @@ class Code : public KernelTest {
     if (at == std::string::npos) return std::nullopt;
     const auto start = operands.substr(0, at).find_last_of(',') + 1;
     return at == start ? 0 : std::stoi(operands.substr(start, at - start), nullptr, 16);
+  }
+
+  /// The register of the first argument, and those that it is copied to.
+  static std::set<std::string> homes_of_src(const Body& body) {
+    std::set<std::string> homes = {"%rdi"};
+    for (const Instruction* instruction : body.instructions)
+      if (instruction->mnemonic == "mov" && instruction->operands.starts_with("%rdi,%r"))
+        homes.insert(instruction->operands.substr(5));
+    return homes;
+  }
+
+  /// Inputs that stand for two bins: kernels double them first, and compilers write 2 x as x + x.
+  static int doublings() {
+    const auto reference = definition(kernel());
+    int count = 0;
+    for (int in = 0; in < kernel().read; ++in) count += reference->greatest(in) == 2 ? 1 : 0;
+    return count;
   }
 
   /// Binary64 and packed: a register is one complex number.
@@ -119,8 +137,9 @@ TEST_P(Code, OperationCounts) {
     } else {
       EXPECT_EQ(count.packed_adds, 0) << name;
       EXPECT_EQ(count.packed_mults, 0) << name;
-      EXPECT_LE(count.scalar_adds, adds) << name;
+      EXPECT_LE(count.scalar_adds, adds + doublings()) << name;
       EXPECT_LE(count.scalar_mults, mults) << name;
+      EXPECT_LE(count.scalar_adds + count.scalar_mults, adds + mults) << name;
     }
     if (in_pairs()) {
       EXPECT_LE(2 * count.packed_adds, adds) << name;
@@ -152,9 +171,10 @@ TEST_P(Code, RealTransformsLoadTheirInputAlone) {
       expected.insert(in);
   for (const auto& [name, body] : bodies()) {
     std::set<int> loaded;
-    for (const Instruction* instruction : body.instructions)
-      if (const auto displacement = displacement_in(instruction->operands, "(%rdi)"))
-        loaded.insert(*displacement / step());
+    for (const std::string& base : homes_of_src(body))
+      for (const Instruction* instruction : body.instructions)
+        if (const auto displacement = displacement_in(instruction->operands, "(" + base + ")"))
+          loaded.insert(*displacement / step());
     EXPECT_EQ(loaded, expected) << name;
   }
 }
