@@ -1,5 +1,6 @@
 // The code of every kernel, body and twin: straight, self-contained, within the instruction set, and with no
 // more operations than its row allows.
+#include <algorithm>
 #include <map>
 #include <optional>
 #include <set>
@@ -158,6 +159,17 @@ TEST_P(Code, RealTransformsNegateNothing) {
     for (const Instruction* instruction : body.instructions)
       EXPECT_TRUE(instruction->sort != Sort::bits || clears(*instruction))
           << name << ": " << instruction->text();
+}
+
+// Constants are binary64 in either precision; only the factor, and the two of a doubling, meet binary32
+// values.
+TEST_P(Code, RealTransformsMultiplyConstantsInBinary64) {
+  if (real_family(kernel()) == nullptr) return;
+  for (const auto& [name, body] : bodies()) {
+    const auto narrow = std::ranges::count(body.instructions, "mulss", &Instruction::mnemonic);
+    const bool single = kernel().precision == Precision::single;
+    EXPECT_LE(narrow, single ? scaled_outputs(kernel()) + doublings() : 0) << name;
+  }
 }
 
 // Stored zeros of a spectrum are no input: not even a load whose value goes nowhere touches them.
