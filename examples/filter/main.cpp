@@ -86,9 +86,9 @@ void read(Audio& audio, std::vector<Channel>& channels, std::int64_t done) {
 /// The output is as long as the input and in time with it: what the filter's delay puts in front is left out.
 Work filter(Audio& audio, Wav& wav, const Options& options, const std::vector<float>& h) {
   constexpr int blocks = 128;  // few enough to stay in the cache
-  const std::size_t stretch = static_cast<std::size_t>(blocks * (options.length - options.taps + 1));
-  std::vector<Channel> channels;
-  for (int i = 0; i < audio.channels(); ++i) channels.emplace_back(h, options.length, stretch);
+  const auto stretch = static_cast<std::size_t>(blocks * (options.length - options.taps + 1));
+  std::vector<Channel> channels(static_cast<std::size_t>(audio.channels()),
+                                Channel(h, options.length, stretch));
 
   Work work;
   Progress progress(audio.seconds());
@@ -101,7 +101,7 @@ Work filter(Audio& audio, Wav& wav, const Options& options, const std::vector<fl
     std::vector<std::span<const float>> outputs;
     for (Channel& channel : channels) {
       channel.filter(work);
-      outputs.push_back(std::span(channel.y).first(last).subspan(std::min(first, last)));
+      outputs.emplace_back(std::span(channel.y).first(last).subspan(std::min(first, last)));
     }
     about(options.output, [&] { wav.write(outputs); });
   }

@@ -50,7 +50,7 @@ std::chrono::nanoseconds transform(float* data, std::int64_t frames, int length)
 /// In CCS a bin is a complex number, bin 0 and that of half the rate too.
 void add_powers(const float* spectrum, Spectrogram& picture, std::size_t channel, int column) {
   for (int k = 0; k < picture.bins; ++k) {
-    const float re = spectrum[2 * k], im = spectrum[2 * k + 1];
+    const float re = *spectrum++, im = *spectrum++;
     picture.power[channel][static_cast<std::size_t>(k * picture.columns + column)] += re * re + im * im;
   }
 }
@@ -58,6 +58,7 @@ void add_powers(const float* spectrum, Spectrogram& picture, std::size_t channel
 /// What is left of each signal behind its first samples.
 std::vector<std::span<float>> behind(std::vector<std::vector<float>>& signals, std::size_t first) {
   std::vector<std::span<float>> rest;
+  rest.reserve(signals.size());
   for (auto& signal : signals) rest.push_back(std::span(signal).subspan(first));
   return rest;
 }

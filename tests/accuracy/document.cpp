@@ -80,7 +80,7 @@ std::string figures(const std::vector<Measured>& measured) {
   std::map<std::string, std::string> tables;
   for (const auto& [body, heading] : headings) tables[heading] = body;
   std::string text = "\n" + exceptions(measured);
-  for (const auto& [heading, body] : tables) text += "\n## " + heading + body;
+  for (const auto& [heading, body] : tables) text.append("\n## ").append(heading).append(body);
   return text;
 }
 

@@ -93,7 +93,7 @@ class Direction : public KernelTest {
     ASSERT_NE(inverse_, nullptr) << "no inverse kernel";
   }
 
-  Array forward(const Array& src, std::int32_t flag) const { return separate(src, flag); }
+  static Array forward(const Array& src, std::int32_t flag) { return separate(src, flag); }
   Array inverse(const Array& src, std::int32_t flag) const {
     Array dst(kernel().precision, inverse_->written);
     dst.fill(Poison::quiet_nan);
@@ -103,7 +103,7 @@ class Direction : public KernelTest {
 
   /// Of the rounding of one transform: that of a matrix entry, and in binary64, whose matrices are far better
   /// than they must be, four roundings.
-  double bound() const {
+  static double bound() {
     return kernel().precision == Precision::single ? matrix_bound(kernel()) : 4 * 0x1p-53;
   }
 

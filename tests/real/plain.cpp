@@ -71,9 +71,7 @@ TEST(PlainRealOrders, SeldomShow) {
   Random random("orders");
   int open_single = 0, open_double = 0;
   for (int round = 0; round < 1000; ++round) {
-    std::vector<double> terms;
-    for (int i = 0; i < 4; ++i) terms.push_back(random.even());
-    const OneOf<double> sum = sum_in_any_order(terms);
+    const OneOf<double> sum = sum_in_any_order({random.even(), random.even(), random.even(), random.even()});
     open_single += narrow<float>(sum).size() > 1 ? 1 : 0;
     open_double += sum.size() > 4 ? 1 : 0;
   }
