@@ -36,7 +36,8 @@ void Arrays::Free::operator()(std::byte* memory) const { operator delete (memory
 Arrays::Arrays(const catalogue::Kernel& kernel, Placement placement)
     : precision_(kernel.precision), read_(kernel.read), written_(kernel.written) {
   const std::size_t scalar = precision_ == catalogue::Precision::single ? sizeof(float) : sizeof(double);
-  const std::size_t array = scalar * static_cast<std::size_t>(std::max(read_, written_) + 1);
+  // One more for the unaligned place, and two for the zeros that a rival may hold along with a spectrum.
+  const std::size_t array = scalar * static_cast<std::size_t>(std::max(read_, written_) + 3);
   // dst stands half a page past a multiple of pages: addresses that agree modulo 4096 would make loads wait
   // for unrelated stores.
   const std::size_t distance = placement.in_place ? 0 : round_up(array, kPage) + kPage / 2;

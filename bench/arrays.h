@@ -23,7 +23,8 @@ class Arrays {
 
   /// The same pseudo-random input at every call.
   void fill();
-  /// Zeros: repeated transforms in place neither grow nor shrink, and take no longer or shorter than others.
+  /// Zeros: repeated transforms in place, or of an input that the last one has destroyed, neither grow nor
+  /// shrink, and take no longer or shorter than others.
   void clear();
   /// The elements of dst as binary64.
   std::vector<double> output() const;

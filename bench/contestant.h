@@ -11,6 +11,13 @@ class Contestant {
  public:
   virtual ~Contestant() = default;
   virtual void run(int calls) = 0;
+
+  /// A rival that packs its data in another way rearranges the kernel's input to its own before a call whose
+  /// output is looked at, and its output to the kernel's after it. In the race nothing is rearranged.
+  virtual void take_input() {}
+  virtual void give_output() {}
+  /// Whether a call overwrites src, so that the next one finds other data there.
+  virtual bool destroys_input() const { return false; }
 };
 
 using ContestantPtr = std::unique_ptr<Contestant>;

@@ -23,7 +23,11 @@ struct Api<float> {
   using Plan = fftwf_plan;
   using Complex = fftwf_complex;
   static constexpr auto plan_dft_1d = fftwf_plan_dft_1d;
+  static constexpr auto plan_r2c_1d = fftwf_plan_dft_r2c_1d;
+  static constexpr auto plan_c2r_1d = fftwf_plan_dft_c2r_1d;
   static constexpr auto execute_dft = fftwf_execute_dft;
+  static constexpr auto execute_r2c = fftwf_execute_dft_r2c;
+  static constexpr auto execute_c2r = fftwf_execute_dft_c2r;
   static constexpr auto destroy = fftwf_destroy_plan;
   static constexpr auto forget_wisdom = fftwf_forget_wisdom;
 };
@@ -33,9 +37,31 @@ struct Api<double> {
   using Plan = fftw_plan;
   using Complex = fftw_complex;
   static constexpr auto plan_dft_1d = fftw_plan_dft_1d;
+  static constexpr auto plan_r2c_1d = fftw_plan_dft_r2c_1d;
+  static constexpr auto plan_c2r_1d = fftw_plan_dft_c2r_1d;
   static constexpr auto execute_dft = fftw_execute_dft;
+  static constexpr auto execute_r2c = fftw_execute_dft_r2c;
+  static constexpr auto execute_c2r = fftw_execute_dft_c2r;
   static constexpr auto destroy = fftw_destroy_plan;
   static constexpr auto forget_wisdom = fftw_forget_wisdom;
+};
+
+/// Owns a plan; throws where FFTW made none.
+template <class Real>
+class Plan {
+ public:
+  using Handle = typename Api<Real>::Plan;
+
+  explicit Plan(Handle plan) : plan_(plan) {
+    if (plan_ == nullptr) throw std::runtime_error("FFTW made no plan");
+  }
+  Plan(const Plan&) = delete;
+  Plan& operator=(const Plan&) = delete;
+  ~Plan() { Api<Real>::destroy(plan_); }
+  Handle get() const { return plan_; }
+
+ private:
+  Handle plan_;
 };
 
 /// Patient planning chooses by measuring, so on a busy machine it can choose badly: plans of one length were
@@ -62,22 +88,17 @@ class ComplexDft final : public Contestant {
   ComplexDft(int length, int sign, Arrays& arrays)
       : src_(static_cast<Complex*>(arrays.src())),
         dst_(static_cast<Complex*>(arrays.dst())),
-        plan_(Api<Real>::plan_dft_1d(length, src_, dst_, sign, FFTW_PATIENT)) {
-    if (plan_ == nullptr) throw std::runtime_error("FFTW made no plan");
-  }
-  ComplexDft(const ComplexDft&) = delete;
-  ComplexDft& operator=(const ComplexDft&) = delete;
-  ~ComplexDft() override { Api<Real>::destroy(plan_); }
+        plan_(Api<Real>::plan_dft_1d(length, src_, dst_, sign, FFTW_PATIENT)) {}
 
   void run(int calls) override {
-    for (int i = 0; i < calls; ++i) Api<Real>::execute_dft(plan_, src_, dst_);
+    for (int i = 0; i < calls; ++i) Api<Real>::execute_dft(plan_.get(), src_, dst_);
   }
 
  private:
   using Complex = typename Api<Real>::Complex;
   Complex* src_;
   Complex* dst_;
-  typename Api<Real>::Plan plan_;
+  Plan<Real> plan_;
 };
 
 template <class Real, int sign>

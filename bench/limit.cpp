@@ -24,7 +24,8 @@ double limit_in_cycles(const catalogue::Kernel& kernel) {
   constexpr double kCall = 7;
   const double width = lanes(kernel);
   const double additions = kernel.adds / width;
-  const double multiplications = (kernel.mults + kernel.written) / width;  // each output times the factor
+  const double values = std::min(kernel.read, kernel.written);     // the zeros that a layout stores are none
+  const double multiplications = (kernel.mults + values) / width;  // each output times the factor
   const double loads = kernel.read / width;
   const double stores = kernel.written / width;
   return std::max(

@@ -47,13 +47,22 @@ void define(CLI::App& app, Options& options) {
   app.add_flag("--in-place", options.placement.in_place, "dst is src");
 }
 
-Kernels chosen(const std::vector<std::string>& only) {
+/// Pack and Perm are the arithmetic of CCS with other addresses: they run if they are asked for.
+bool runs_unasked(const catalogue::Kernel& kernel) {
+  const std::string name = kernel.name;
+  return name.find("Pack") == std::string::npos && name.find("Perm") == std::string::npos;
+}
+
+Kernels chosen(const Options& options) {
   Kernels kernels;
   for (const catalogue::Kernel& kernel : catalogue::kernels()) {
     const auto matches = [&](const std::string& text) {
       return std::string(kernel.name).find(text) != std::string::npos;
     };
-    if (only.empty() || std::any_of(only.begin(), only.end(), matches)) kernels.push_back(&kernel);
+    const auto& only = options.only;
+    const bool wanted =
+        only.empty() ? options.list || runs_unasked(kernel) : std::any_of(only.begin(), only.end(), matches);
+    if (wanted) kernels.push_back(&kernel);
   }
   return kernels;
 }
@@ -99,7 +108,7 @@ File opened(const std::string& path) {
 }
 
 void measure(const Options& options) {
-  const Kernels kernels = chosen(options.only);
+  const Kernels kernels = chosen(options);
   if (kernels.empty()) throw std::runtime_error("no kernel is named so; --list names them");
   if (options.list) {
     for (const catalogue::Kernel* kernel : kernels) fmt::print("{}\n", kernel->name);

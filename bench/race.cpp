@@ -43,7 +43,9 @@ class OwnKernel final : public Contestant {
 
 std::vector<double> output_of(Contestant& contestant, Arrays& arrays) {
   arrays.fill();
+  contestant.take_input();
   contestant.run(1);
+  contestant.give_output();
   return arrays.output();
 }
 
@@ -84,7 +86,7 @@ Race::Race(const catalogue::Kernel& kernel, Placement placement)
   auto ours = std::make_unique<OwnKernel>(kernel, arrays_);
   if (rival) check_agreement(kernel, *ours, *rival, arrays_);
   arrays_.fill();
-  if (placement.in_place) arrays_.clear();
+  if (placement.in_place || (rival && rival->destroys_input())) arrays_.clear();
   lanes_.emplace_back(std::make_unique<CycleChain>());
   lanes_.emplace_back(std::move(ours));
   if (rival) lanes_.emplace_back(std::move(rival));

@@ -4,10 +4,13 @@
 #include <string_view>
 
 #include "bench/fftw.h"
+#include "bench/fftw_real.h"
 
 namespace xfm::bench {
 
 namespace {
+
+using fftw::Layout;
 
 struct Rival {
   std::string_view family;
@@ -21,6 +24,18 @@ constexpr std::array kRivals{
     Rival{"DFTFwd_CToC", "64fc", fftw::complex_dft<double, FFTW_FORWARD>},
     Rival{"DFTInv_CToC", "32fc", fftw::complex_dft<float, FFTW_BACKWARD>},
     Rival{"DFTInv_CToC", "64fc", fftw::complex_dft<double, FFTW_BACKWARD>},
+    Rival{"DFTFwd_RToCCS", "32f", fftw::real_dft<float, Layout::ccs>},
+    Rival{"DFTFwd_RToCCS", "64f", fftw::real_dft<double, Layout::ccs>},
+    Rival{"DFTFwd_RToPack", "32f", fftw::real_dft<float, Layout::pack>},
+    Rival{"DFTFwd_RToPack", "64f", fftw::real_dft<double, Layout::pack>},
+    Rival{"DFTFwd_RToPerm", "32f", fftw::real_dft<float, Layout::perm>},
+    Rival{"DFTFwd_RToPerm", "64f", fftw::real_dft<double, Layout::perm>},
+    Rival{"DFTInv_CCSToR", "32f", fftw::inverse_real_dft<float, Layout::ccs>},
+    Rival{"DFTInv_CCSToR", "64f", fftw::inverse_real_dft<double, Layout::ccs>},
+    Rival{"DFTInv_PackToR", "32f", fftw::inverse_real_dft<float, Layout::pack>},
+    Rival{"DFTInv_PackToR", "64f", fftw::inverse_real_dft<double, Layout::pack>},
+    Rival{"DFTInv_PermToR", "32f", fftw::inverse_real_dft<float, Layout::perm>},
+    Rival{"DFTInv_PermToR", "64f", fftw::inverse_real_dft<double, Layout::perm>},
 };
 
 }  // namespace

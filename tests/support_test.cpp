@@ -1,9 +1,11 @@
 // The tools of the tests must themselves be able to say no.
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
 #include "tests/support/attempt.h"
 #include "tests/support/guarded.h"
+#include "tests/support/layout.h"
 #include "tests/support/random.h"
 #include "tests/support/reference.h"
 
@@ -86,6 +88,59 @@ TEST(Reference, KnownEntries) {
   EXPECT_TRUE(near(entry(6, 2, 2) * 2, 1));
   const Wide golden = 4 * entry(5, 2, 2) + 1;
   EXPECT_TRUE(near(golden * golden, 5));
+}
+
+// Of four points: X(1) = (x0 - x2) - i (x1 - x3), and the inverse with the bin between counted twice.
+TEST(Reference, RealTransforms) {
+  const auto row = [](const char* family, int out) {
+    catalogue::Kernel kernel = {};
+    kernel.family = family;
+    kernel.length = 4;
+    const auto reference = definition(kernel);
+    std::vector<double> entries;
+    for (int in = 0; in < 4; ++in) entries.push_back(static_cast<double>(reference->entry(out, in)));
+    return entries;
+  };
+  using Row = std::vector<double>;
+  EXPECT_EQ(row("DFTFwd_RToCCS", 1), (Row{0, 0, 0, 0}));
+  EXPECT_EQ(row("DFTFwd_RToCCS", 3), (Row{0, -1, 0, 1}));
+  EXPECT_EQ(row("DFTFwd_RToPack", 1), (Row{1, 0, -1, 0}));
+  EXPECT_EQ(row("DFTFwd_RToPerm", 1), (Row{1, -1, 1, -1}));
+  EXPECT_EQ(row("DFTInv_CCSToR", 1), (Row{1, 0, 0, -2}));
+  EXPECT_EQ(row("DFTInv_PackToR", 2), (Row{1, -2, 0, 1}));
+  EXPECT_EQ(row("DFTInv_PermToR", 3), (Row{1, -1, 0, 2}));
+}
+
+TEST(Reference, NoEntryPassesTheGreatestOfItsColumn) {
+  for (const RealFamily& family : real_families) {
+    for (int length = 2; length <= 64; ++length) {
+      catalogue::Kernel kernel = {};
+      kernel.family = family.name;
+      kernel.length = length;
+      const auto reference = definition(kernel);
+      const auto spectrum = static_cast<int>(cells(family.layout, length).size());
+      for (int in = 0; in < (family.forward ? length : spectrum); ++in) {
+        double greatest = 0;
+        for (int out = 0; out < (family.forward ? spectrum : length); ++out)
+          greatest = std::max(greatest, std::abs(static_cast<double>(reference->entry(out, in))));
+        ASSERT_LE(greatest, reference->greatest(in)) << family.name << " " << length << ", column " << in;
+        ASSERT_GE(greatest, 0.8 * reference->greatest(in))
+            << family.name << " " << length << ", column " << in;
+      }
+    }
+  }
+}
+
+// Spectra have bins that count twice: two inputs that are not read and one of each weight.
+TEST(Reference, Magnitude) {
+  catalogue::Kernel kernel = {};
+  kernel.family = "DFTInv_CCSToR";
+  kernel.length = 2;
+  Array src(Precision::twofold, 4);
+  for (int i = 0; i < 4; ++i) src.set(i, i % 2 == 0 ? 3 : -5);
+  EXPECT_EQ(magnitude(*definition(kernel), src), 6);
+  kernel.length = 3;
+  EXPECT_EQ(magnitude(*definition(kernel), src), 3 + 6 + 10);
 }
 
 TEST(Reference, Factors) {

@@ -11,9 +11,10 @@
 #include <fmt/format.h>
 #include <CLI/CLI.hpp>
 
-#include "audio.h"
 #include "picture.h"
-#include "progress.h"
+#include "sound/about.h"
+#include "sound/audio.h"
+#include "sound/progress.h"
 #include "spectrum.h"
 
 namespace {
@@ -53,26 +54,17 @@ void report(const Options& options, const Audio& audio, const Spectrogram& s) {
   fmt::print("         {}, {} channel{}, {} Hz, {:.2f} s\n", audio.format(), audio.channels(),
              audio.channels() == 1 ? "" : "s", audio.rate(), audio.seconds());
   fmt::print("frames   {} of {} samples, one every {}\n", s.frames, s.length, s.hop);
-  fmt::print("calls    {} of xfmDFTFwd_CToC_32fc, {:.1f} ns a call, {:.2f} ms in all\n", s.frames,
-             ns / static_cast<double>(s.frames), ns * 1e-6);
-  for (int channel = 0; channel < std::min(2, audio.channels()); ++channel) {
+  const std::int64_t calls = s.frames * s.channels();
+  fmt::print("calls    {} of xfmDFTFwd_RToCCS_32f, {:.1f} ns a call, {:.2f} ms in all\n", calls,
+             ns / static_cast<double>(calls), ns * 1e-6);
+  for (int channel = 0; channel < s.channels(); ++channel) {
     const Band band = loudest(s, channel, audio.rate());
     fmt::print("loudest  {:.0f} to {:.0f} Hz, {:.1f} dB{}\n", band.low, band.high, band.level,
-               audio.channels() == 1 ? ""
-               : channel == 0        ? ", left"
-                                     : ", right");
+               s.channels() == 1 ? ""
+               : channel == 0    ? ", left"
+                                 : ", right");
   }
   fmt::print("picture  {}\n", options.picture);
-}
-
-/// Puts the file's name before whatever went wrong with it.
-template <typename Work>
-auto about(const std::string& file, Work work) {
-  try {
-    return work();
-  } catch (const std::exception& error) {
-    throw std::runtime_error(file + ": " + error.what());
-  }
 }
 
 void run(const Options& options) {
@@ -88,7 +80,7 @@ void run(const Options& options) {
     return result;
   });
   const Caption caption{.title = std::filesystem::path(options.sound).filename().string(),
-                        .channels = std::min(2, audio.channels()),
+                        .channels = spectrogram.channels(),
                         .rate = audio.rate(),
                         .seconds = audio.seconds()};
   about(options.picture, [&] { draw(spectrogram, caption, options.picture); });
@@ -100,7 +92,7 @@ void run(const Options& options) {
 int main(int argc, char** argv) {
   try {
     Options options;
-    CLI::App app("Draws the spectrogram of a sound file: both channels in one complex transform.");
+    CLI::App app("Draws the spectrogram of a sound file: every window of a channel is one real transform.");
     app.add_option("sound", options.sound, "WAV, FLAC, OGG or whatever libsndfile reads")
         ->capture_default_str();
     app.add_option("-o,--output", options.picture, "PNG to write")->capture_default_str();

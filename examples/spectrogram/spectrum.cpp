@@ -3,9 +3,12 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <span>
 #include <stdexcept>
 
 #include <fmt/format.h>
+
+#include "xfm.h"
 
 namespace {
 
@@ -22,35 +25,42 @@ std::vector<float> hann(int length) {
   return window;
 }
 
-/// Lays the windows of a stretch of signal side by side, each weighted.
-void cut(const xfm32fc* signal, std::int64_t frames, int hop, const std::vector<float>& window,
-         xfm32fc* out) {
-  for (std::int64_t frame = 0; frame < frames; ++frame, signal += hop)
-    for (std::size_t n = 0; n < window.size(); ++n)
-      *out++ = {signal[n].re * window[n], signal[n].im * window[n]};
+/// Elements of a half spectrum in the CCS layout: bins 0 to length/2 as pairs.
+int spectrum_elements(int length) { return 2 * (length / 2 + 1); }
+
+/// Lays the windows of a stretch of signal side by side, each weighted, with room for its spectrum.
+void cut(const float* signal, std::int64_t frames, int hop, const std::vector<float>& window, float* out) {
+  const int stride = spectrum_elements(static_cast<int>(window.size()));
+  for (std::int64_t frame = 0; frame < frames; ++frame, signal += hop, out += stride)
+    for (std::size_t n = 0; n < window.size(); ++n) out[n] = signal[n] * window[n];
 }
 
 /// All transforms of a batch, in place, with nothing else between the two looks at the clock.
-std::chrono::nanoseconds transform(xfm32fc* data, std::int64_t frames, int length) {
+std::chrono::nanoseconds transform(float* data, std::int64_t frames, int length) {
   xfmStatus status = xfmStsOk;
+  const int stride = spectrum_elements(length);
   const auto start = Clock::now();
-  for (std::int64_t frame = 0; frame < frames && status == xfmStsOk; ++frame, data += length)
-    status = xfmDFTFwd_CToC_32fc(data, data, length, XFM_SCALE_FWD_BY_N);
+  for (std::int64_t frame = 0; frame < frames && status == xfmStsOk; ++frame, data += stride)
+    status = xfmDFTFwd_RToCCS_32f(data, data, length, XFM_SCALE_FWD_BY_N);
   const auto spent = Clock::now() - start;
   if (status != xfmStsOk) throw std::runtime_error(fmt::format("transform failed with status {}", status));
   return spent;
 }
 
-/// Adds the power of both channels. With Z the transform of left + i right, the symmetry of real signals
-/// gives 2 left[k] = Z[k] + conj Z[N-k] and 2 i right[k] = Z[k] - conj Z[N-k].
-void add_powers(const xfm32fc* z, Spectrogram& picture, int column) {
+/// In CCS a bin is a complex number, bin 0 and that of half the rate too.
+void add_powers(const float* spectrum, Spectrogram& picture, std::size_t channel, int column) {
   for (int k = 0; k < picture.bins; ++k) {
-    const xfm32fc a = z[k];
-    const xfm32fc b = z[(picture.length - k) % picture.length];
-    const auto at = static_cast<std::size_t>(k * picture.columns + column);
-    picture.power[0][at] += (a.re + b.re) * (a.re + b.re) + (a.im - b.im) * (a.im - b.im);
-    picture.power[1][at] += (a.re - b.re) * (a.re - b.re) + (a.im + b.im) * (a.im + b.im);
+    const float re = *spectrum++, im = *spectrum++;
+    picture.power[channel][static_cast<std::size_t>(k * picture.columns + column)] += re * re + im * im;
   }
+}
+
+/// What is left of each signal behind its first samples.
+std::vector<std::span<float>> behind(std::vector<std::vector<float>>& signals, std::size_t first) {
+  std::vector<std::span<float>> rest;
+  rest.reserve(signals.size());
+  for (auto& signal : signals) rest.push_back(std::span(signal).subspan(first));
+  return rest;
 }
 
 Spectrogram blank(const Audio& audio, int length, int columns) {
@@ -60,25 +70,25 @@ Spectrogram blank(const Audio& audio, int length, int columns) {
   picture.bins = length / 2 + 1;
   picture.frames = (audio.samples() - length) / picture.hop + 1;
   picture.columns = static_cast<int>(std::min<std::int64_t>(columns, picture.frames));
-  for (auto& power : picture.power)
-    power.assign(static_cast<std::size_t>(picture.bins) * static_cast<std::size_t>(picture.columns), 0.0F);
+  const std::vector<float> nothing(static_cast<std::size_t>(picture.bins) *
+                                   static_cast<std::size_t>(picture.columns));
+  picture.power.assign(static_cast<std::size_t>(std::min(2, audio.channels())), nothing);
   return picture;
 }
 
 /// Sums become means: of the windows of each column, and such that a sine of full scale has power 1. The mean
-/// of a Hann window is 1/2, a sine has half of its amplitude at k, and the sums above hold twice the
-/// spectrum.
+/// of a Hann window is 1/2, and a sine has half of its amplitude at k.
 void normalise(Spectrogram& picture, const std::vector<std::int64_t>& windows) {
   for (auto& power : picture.power)
     for (std::size_t i = 0; i < power.size(); ++i)
-      power[i] *= 4.0F / static_cast<float>(windows[i % windows.size()]);
+      power[i] *= 16.0F / static_cast<float>(windows[i % windows.size()]);
 }
 
 }  // namespace
 
 bool served(int length) {
   // The length is tested first, so null pointers are enough to ask.
-  return xfmDFTFwd_CToC_32fc(nullptr, nullptr, length, XFM_SCALE_NONE) != xfmStsBadSize;
+  return xfmDFTFwd_RToCCS_32f(nullptr, nullptr, length, XFM_SCALE_NONE) != xfmStsBadSize;
 }
 
 int longest_length() {
@@ -94,32 +104,40 @@ Spectrogram analyse(Audio& audio, int length, int columns, const std::function<v
   Spectrogram picture = blank(audio, length, columns);
   const std::vector<float> window = hann(length);
   std::vector<std::int64_t> windows(static_cast<std::size_t>(picture.columns));
-  std::vector<xfm32fc> signal(static_cast<std::size_t>(length + (batch - 1) * picture.hop));
-  std::vector<xfm32fc> spectra(static_cast<std::size_t>(length * batch));
+  const auto stretch = static_cast<std::size_t>(length + (batch - 1) * picture.hop);
+  std::vector<std::vector<float>> signals(picture.power.size(), std::vector<float>(stretch));
+  std::vector<float> spectra(static_cast<std::size_t>(spectrum_elements(length) * batch));
 
   std::int64_t done = 0;
   std::size_t kept = 0;  // the tail of the last stretch, which the next windows overlap
   while (done < picture.frames) {
     progress(static_cast<double>(done * picture.hop) / audio.rate());
-    const std::size_t filled = kept + audio.read(std::span(signal).subspan(kept));
+    const std::size_t filled = kept + audio.read(behind(signals, kept));
     if (filled < window.size())
       throw std::runtime_error(fmt::format("damaged: the sound ends after {:.2f} s of {:.2f} s",
                                            static_cast<double>(done * picture.hop) / audio.rate(),
                                            audio.seconds()));
 
     const std::int64_t frames = (static_cast<std::int64_t>(filled) - length) / picture.hop + 1;
-    cut(signal.data(), frames, picture.hop, window, spectra.data());
-    picture.inside += transform(spectra.data(), frames, length);
-    for (std::int64_t frame = 0; frame < frames; ++frame) {
-      const auto column = static_cast<std::size_t>((done + frame) * picture.columns / picture.frames);
-      add_powers(&spectra[static_cast<std::size_t>(frame * length)], picture, static_cast<int>(column));
-      ++windows[column];
+    const auto column_of = [&](std::int64_t frame) {
+      return static_cast<int>((done + frame) * picture.columns / picture.frames);
+    };
+    for (std::size_t channel = 0; channel < signals.size(); ++channel) {
+      cut(signals[channel].data(), frames, picture.hop, window, spectra.data());
+      picture.inside += transform(spectra.data(), frames, length);
+      for (std::int64_t frame = 0; frame < frames; ++frame)
+        add_powers(&spectra[static_cast<std::size_t>(frame * spectrum_elements(length))], picture, channel,
+                   column_of(frame));
     }
+    for (std::int64_t frame = 0; frame < frames; ++frame)
+      ++windows[static_cast<std::size_t>(column_of(frame))];
 
     done += frames;
-    const std::ptrdiff_t used = static_cast<std::ptrdiff_t>(frames) * picture.hop;
-    std::copy(signal.begin() + used, signal.begin() + static_cast<std::ptrdiff_t>(filled), signal.begin());
-    kept = filled - static_cast<std::size_t>(used);
+    const std::size_t used = static_cast<std::size_t>(frames) * static_cast<std::size_t>(picture.hop);
+    for (auto& signal : signals)
+      std::copy(signal.begin() + static_cast<std::ptrdiff_t>(used),
+                signal.begin() + static_cast<std::ptrdiff_t>(filled), signal.begin());
+    kept = filled - used;
   }
   normalise(picture, windows);
   return picture;

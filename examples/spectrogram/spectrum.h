@@ -1,13 +1,12 @@
-// Short-time spectra of two channels, both out of every single complex transform.
+// Short-time spectra of one or two channels, by real transforms.
 #pragma once
 
-#include <array>
 #include <chrono>
 #include <cstdint>
 #include <functional>
 #include <vector>
 
-#include "audio.h"
+#include "sound/audio.h"
 
 /// What the analysis found: for each channel the mean power of every bin 0..length/2 in every column of time.
 /// A sine of full scale in the middle of a bin has the power 1.
@@ -16,9 +15,12 @@ struct Spectrogram {
   int hop = 0;     ///< samples from one window to the next
   int bins = 0;
   int columns = 0;
-  std::int64_t frames = 0;            ///< windows, and calls of the library: one call serves both channels
+  std::int64_t frames = 0;            ///< windows of a channel, each of them one call of the library
   std::chrono::nanoseconds inside{};  ///< time spent in the calls
-  std::array<std::vector<float>, 2> power;  ///< left, right: power[channel][bin * columns + column]
+  std::vector<std::vector<float>>
+      power;  ///< left and right, or the only one: power[channel][bin * columns + column]
+
+  int channels() const { return static_cast<int>(power.size()); }
 
   float at(int channel, int bin, int column) const {
     return power[static_cast<std::size_t>(channel)][static_cast<std::size_t>(bin * columns + column)];

@@ -35,7 +35,7 @@ TEST(Accuracy, ExceptionsAreNotStale) {
     for (const auto& [kernel, errors] : measured()) {
       if (!is_of(exception, kernel)) continue;
       ++kernels;
-      EXPECT_GT(errors.worst, matrix_bound(kernel.precision)) << kernel.name << " needs no exception";
+      EXPECT_GT(errors.worst, common_bound(kernel)) << kernel.name << " needs no exception";
       EXPECT_EQ(rounded_up(errors.worst), rounded_up(exception.worst)) << kernel.name;
     }
     EXPECT_EQ(kernels, 1) << exception.family << ", " << exception.length << ", " << exception.type;

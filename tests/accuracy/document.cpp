@@ -19,7 +19,7 @@ using Line = std::array<const Measured*, 2>;
 std::string rows_of_exceptions(const std::vector<Measured>& measured) {
   std::string rows;
   for (const auto& [kernel, errors] : measured) {
-    if (errors.worst <= matrix_bound(kernel.precision)) continue;
+    if (errors.worst <= common_bound(kernel)) continue;
     rows +=
         "| `" + std::string(kernel.name) + "` | " + kernel.tree + " | " + rounded_up(errors.worst) + " |\n";
   }
@@ -35,14 +35,13 @@ std::string exceptions(const std::vector<Measured>& measured) {
 std::string cells(const Measured* measured) {
   if (measured == nullptr) return " | |";
   const auto& [kernel, errors] = *measured;
-  const bool beyond = errors.worst > matrix_bound(kernel.precision);
+  const bool beyond = errors.worst > common_bound(kernel);
   const std::string mark = beyond ? "**" : "";
   return " " + mark + rounded_up(errors.worst) + mark + " | " + rounded_up(errors.rms) + " |";
 }
 
-std::string table(const std::string& family, const std::map<int, Line>& lines) {
+std::string table(const std::map<int, Line>& lines) {
   std::string text =
-      "\n## " + family +
       "\n\n| N | binary32: worst | r.m.s. | binary64: worst | r.m.s. |\n|---|---|---|---|---|\n";
   for (const auto& [length, line] : lines)
     text += "| " + std::to_string(length) + " |" + cells(line[0]) + cells(line[1]) + "\n";
@@ -72,8 +71,16 @@ std::string figures(const std::vector<Measured>& measured) {
   std::map<std::string, std::map<int, Line>> families;
   for (const Measured& one : measured)
     families[one.kernel.family][one.kernel.length][one.kernel.precision == Precision::twofold] = &one;
+  // Families of equal figures, such as the layouts of one transform, have one table under all their names.
+  std::map<std::string, std::string> headings;
+  for (const auto& [family, lines] : families) {
+    std::string& heading = headings[table(lines)];
+    heading += (heading.empty() ? "" : ", ") + family;
+  }
+  std::map<std::string, std::string> tables;
+  for (const auto& [body, heading] : headings) tables[heading] = body;
   std::string text = "\n" + exceptions(measured);
-  for (const auto& [family, lines] : families) text += table(family, lines);
+  for (const auto& [heading, body] : tables) text.append("\n## ").append(heading).append(body);
   return text;
 }
 

@@ -5,12 +5,15 @@
 #include <limits>
 
 #include "tests/support/attempt.h"
+#include "tests/support/layout.h"
 
 namespace xfm::test {
 
 Errors errors_of_matrix(const catalogue::Kernel& kernel, const Definition& definition) {
   double worst = 0, squares = 0;
+  int columns = 0;
   for (int in = 0; in < kernel.read; ++in) {
+    columns += definition.greatest(in) > 0 ? 1 : 0;
     Array unit(kernel.precision, kernel.read), dst(kernel.precision, kernel.written);
     unit.fill(0.0);
     unit.set(in, 1.0);
@@ -23,7 +26,7 @@ Errors errors_of_matrix(const catalogue::Kernel& kernel, const Definition& defin
       squares += error * error;
     }
   }
-  return {.worst = worst, .rms = std::sqrt(squares / kernel.read / kernel.written)};
+  return {.worst = worst, .rms = std::sqrt(squares / columns / scaled_outputs(kernel))};
 }
 
 std::vector<Measured> measure_all() {

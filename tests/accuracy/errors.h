@@ -12,7 +12,8 @@ struct Errors {
 };
 
 /// Of the matrix that all unit vectors give, each real scalar of src in turn. An entry that is NaN is
-/// infinitely wrong.
+/// infinitely wrong. The mean is that of the scalars that are read and computed: zeros of a layout are
+/// neither.
 Errors errors_of_matrix(const catalogue::Kernel& kernel, const Definition& definition);
 
 struct Measured {

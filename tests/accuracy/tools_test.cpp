@@ -79,6 +79,16 @@ TEST(Figures, TableOfAFamily) {
   EXPECT_NE(figures({{wide, {1e-16, 0}}}).find("No kernel."), std::string::npos);
 }
 
+TEST(Figures, FamiliesOfEqualFiguresShareATable) {
+  const Kernel& one = kernel_named("xfmDFTFwd_CToC_8_64fc");
+  const Kernel& other = kernel_named("xfmDFTInv_CToC_8_64fc");
+  const std::string equal = figures({{one, {1e-16, 0}}, {other, {1e-16, 0}}});
+  EXPECT_NE(equal.find("\n## DFTFwd_CToC, DFTInv_CToC\n"), std::string::npos) << equal;
+  const std::string apart = figures({{one, {1e-16, 0}}, {other, {2e-16, 0}}});
+  EXPECT_NE(apart.find("\n## DFTFwd_CToC\n"), std::string::npos) << apart;
+  EXPECT_NE(apart.find("\n## DFTInv_CToC\n"), std::string::npos) << apart;
+}
+
 TEST(Figures, FirstDifference) {
   EXPECT_EQ(first_difference("a\nb\n", "a\nb\n"), "");
   EXPECT_EQ(first_difference("a\nb\n", "a\nc\n"), "published: b\nmeasured:  c\n");

@@ -1,12 +1,16 @@
 // The code of every kernel, body and twin: straight, self-contained, within the instruction set, and with no
 // more operations than its row allows.
+#include <algorithm>
 #include <map>
+#include <optional>
 #include <set>
 
 #include "paths.h"
 #include "tests/binary/disassembly.h"
 #include "tests/binary/tools.h"
 #include "tests/support/kernel_test.h"
+#include "tests/support/layout.h"
+#include "tests/support/reference.h"
 
 namespace xfm::test {
 namespace {
@@ -41,6 +45,38 @@ class Code : public KernelTest {
     Tally result;
     for (const Instruction* instruction : body.instructions) result.add(*instruction);
     return result;
+  }
+
+  static bool clears(const Instruction& instruction) {
+    const std::string& both = instruction.operands;
+    const auto comma = both.find(',');
+    return instruction.mnemonic.find("xor") != std::string::npos &&
+           both.substr(0, comma) == both.substr(comma + 1);
+  }
+
+  /// The displacement in front of a base register: 8 of "0x8(%rdi),%xmm0", 0 of "(%rdi),%xmm0".
+  static std::optional<int> displacement_in(const std::string& operands, const std::string& base) {
+    const auto at = operands.find(base);
+    if (at == std::string::npos) return std::nullopt;
+    const auto start = operands.substr(0, at).find_last_of(',') + 1;
+    return at == start ? 0 : std::stoi(operands.substr(start, at - start), nullptr, 16);
+  }
+
+  /// The register of the first argument, and those that it is copied to.
+  static std::set<std::string> homes_of_src(const Body& body) {
+    std::set<std::string> homes = {"%rdi"};
+    for (const Instruction* instruction : body.instructions)
+      if (instruction->mnemonic == "mov" && instruction->operands.starts_with("%rdi,%r"))
+        homes.insert(instruction->operands.substr(5));
+    return homes;
+  }
+
+  /// Inputs that stand for two bins: kernels double them first, and compilers write 2 x as x + x.
+  static int doublings() {
+    const auto reference = definition(kernel());
+    int count = 0;
+    for (int in = 0; in < kernel().read; ++in) count += reference->greatest(in) == 2 ? 1 : 0;
+    return count;
   }
 
   /// Binary64 and packed: a register is one complex number.
@@ -91,7 +127,7 @@ TEST_P(Code, ConstantsAreReadOnly) {
 // The row bounds real operations; a packed instruction of four lanes may carry idle ones, so there the
 // generator's own count of instructions is what the code must have.
 TEST_P(Code, OperationCounts) {
-  const int adds = kernel().adds, mults = kernel().mults + kernel().written;
+  const int adds = kernel().adds, mults = kernel().mults + scaled_outputs(kernel());
   for (const auto& [name, body] : bodies()) {
     const Tally count = tally(body);
     if (kernel().packed_math) {
@@ -102,16 +138,56 @@ TEST_P(Code, OperationCounts) {
     } else {
       EXPECT_EQ(count.packed_adds, 0) << name;
       EXPECT_EQ(count.packed_mults, 0) << name;
-      EXPECT_LE(count.scalar_adds, adds) << name;
+      EXPECT_LE(count.scalar_adds, adds + doublings()) << name;
       EXPECT_LE(count.scalar_mults, mults) << name;
+      EXPECT_LE(count.scalar_adds + count.scalar_mults, adds + mults) << name;
     }
     if (in_pairs()) {
       EXPECT_LE(2 * count.packed_adds, adds) << name;
       EXPECT_LE(2 * count.packed_mults, mults) << name;
     }
     EXPECT_GE(count.packed_mults + count.scalar_mults,
-              kernel().packed_math ? kernel().written / 4 : kernel().written)
+              kernel().packed_math ? kernel().written / 4 : scaled_outputs(kernel()))
         << name << " does not multiply every output by the factor";
+  }
+}
+
+// A sign is turned by a subtraction from zero, never by its bit; a register is cleared by itself.
+TEST_P(Code, RealTransformsNegateNothing) {
+  if (real_family(kernel()) == nullptr) return;
+  for (const auto& [name, body] : bodies())
+    for (const Instruction* instruction : body.instructions)
+      EXPECT_TRUE(instruction->sort != Sort::bits || clears(*instruction))
+          << name << ": " << instruction->text();
+}
+
+// Constants are binary64 in either precision; only the factor, and the two of a doubling, meet binary32
+// values.
+TEST_P(Code, RealTransformsMultiplyConstantsInBinary64) {
+  if (real_family(kernel()) == nullptr) return;
+  for (const auto& [name, body] : bodies()) {
+    const auto narrow = std::ranges::count(body.instructions, "mulss", &Instruction::mnemonic);
+    const bool single = kernel().precision == Precision::single;
+    EXPECT_LE(narrow, single ? scaled_outputs(kernel()) + doublings() : 0) << name;
+  }
+}
+
+// Stored zeros of a spectrum are no input: not even a load whose value goes nowhere touches them.
+TEST_P(Code, RealTransformsLoadTheirInputAlone) {
+  const RealFamily* const family = real_family(kernel());
+  if (family == nullptr) return;
+  std::set<int> expected;
+  for (int in = 0; in < kernel().read; ++in)
+    if (family->forward ||
+        cells(family->layout, kernel().length)[static_cast<std::size_t>(in)].part != Part::zero)
+      expected.insert(in);
+  for (const auto& [name, body] : bodies()) {
+    std::set<int> loaded;
+    for (const std::string& base : homes_of_src(body))
+      for (const Instruction* instruction : body.instructions)
+        if (const auto displacement = displacement_in(instruction->operands, "(" + base + ")"))
+          loaded.insert(*displacement / step());
+    EXPECT_EQ(loaded, expected) << name;
   }
 }
 

@@ -11,6 +11,19 @@ namespace xfm::test {
 
 std::string heading(const std::string& name) { return name + ", XFM_SEED=" + std::to_string(seed()); }
 
+std::vector<Kernel> kernels_of(const std::string& family) {
+  std::vector<Kernel> found;
+  for (const Kernel& kernel : catalogue::kernels())
+    if (kernel.family == family) found.push_back(kernel);
+  return found;
+}
+
+const Kernel* find_kernel(const std::string& family, int length, const std::string& type) {
+  for (const Kernel& kernel : catalogue::kernels())
+    if (kernel.length == length && kernel.family == family && kernel.type == type) return &kernel;
+  return nullptr;
+}
+
 KernelTest::KernelTest() : random(GetParam().name), trace_(__FILE__, __LINE__, heading(GetParam().name)) {}
 
 Array KernelTest::separate(const Array& src, std::int32_t flag) {
@@ -25,12 +38,7 @@ Array KernelTest::separate(const Array& src, std::int32_t flag) {
 GenericTest::GenericTest() : random(GetParam().name), trace_(__FILE__, __LINE__, heading(GetParam().name)) {}
 
 const Kernel* GenericTest::kernel_of(int length) {
-  for (const Kernel& kernel : catalogue::kernels()) {
-    if (std::string(kernel.family) == generic().family && std::string(kernel.type) == generic().type &&
-        kernel.length == length)
-      return &kernel;
-  }
-  return nullptr;
+  return find_kernel(generic().family, length, generic().type);
 }
 
 }  // namespace xfm::test

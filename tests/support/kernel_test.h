@@ -6,6 +6,7 @@
 
 #include <iosfwd>
 #include <string>
+#include <vector>
 
 #include "tests/support/attempt.h"
 #include "tests/support/random.h"
@@ -20,6 +21,11 @@ namespace xfm::test {
 
 using catalogue::Generic;
 using catalogue::Kernel;
+
+/// The kernels of a family, in both precisions.
+std::vector<Kernel> kernels_of(const std::string& family);
+/// One of them, or null.
+const Kernel* find_kernel(const std::string& family, int length, const std::string& type);
 
 class KernelTest : public testing::TestWithParam<Kernel> {
  protected:

@@ -10,6 +10,11 @@ namespace xfm::test {
 
 using Wide = __float128;
 
+/// cos(2 pi num / den); exact where the cosine is 0 or one.
+Wide cosine(long num, unsigned long den);
+/// sin(2 pi num / den), as exact.
+Wide sine(long num, unsigned long den);
+
 /// The definition of a family as a matrix of real scalars.
 class Definition {
  public:
@@ -17,6 +22,8 @@ class Definition {
   /// How real scalar `in` of src enters real scalar `out` of dst, without a factor. The values 0, 1 and -1
   /// are exact.
   virtual Wide entry(int out, int in) const = 0;
+  /// The greatest magnitude that the entries of a column may have; 0 where src is not read.
+  virtual double greatest(int /*in*/) const { return 1; }
 };
 
 /// Throws where the family has no definition here yet: each family adds its own.
@@ -25,8 +32,13 @@ std::unique_ptr<Definition> definition(const catalogue::Kernel& kernel);
 /// The output by direct summation in binary128, without a factor.
 std::vector<Wide> transform(const Definition& definition, const Array& src, int written);
 
-/// The bound on an entry of a kernel's matrix: 2e-7 in binary32, 2e-15 in binary64.
-double matrix_bound(Precision precision);
+/// The magnitudes of the inputs, each times the greatest of its column: no output is greater.
+double magnitude(const Definition& definition, const Array& src);
+
+/// 2e-7 in binary32, 2e-15 in binary64.
+double relative_bound(Precision precision);
+/// The bound on the error of an entry of a kernel's matrix, in binary32 relative to the greatest entry.
+double common_bound(const catalogue::Kernel& kernel);
 /// The same, but for the few kernels whose prescribed scheme rounds more: there it is what they reach.
 double matrix_bound(const catalogue::Kernel& kernel);
 

@@ -52,6 +52,11 @@ TEST(Families, LengthsRiseWithinTheirLimits) {
   }
 }
 
+std::string without_spaces(std::string text) {
+  std::erase(text, ' ');
+  return text;
+}
+
 TEST(Families, KernelsAreWhatTheFamilySays) {
   std::map<std::string, gen::Wide> values;
   for (const Family& family : families()) {
@@ -60,7 +65,7 @@ TEST(Families, KernelsAreWhatTheFamilySays) {
         const gen::Kernel kernel = family.make(length, type.precision, "");
         EXPECT_EQ(kernel.name, "xfm" + family.name + "_" + std::to_string(length) + "_" + type.suffix());
         EXPECT_EQ(kernel.length, length);
-        EXPECT_EQ(gen::to_string(gen::parse_tree(kernel.tree)), kernel.tree);
+        EXPECT_EQ(without_spaces(gen::to_string(gen::parse_tree(kernel.tree))), without_spaces(kernel.tree));
         for (const gen::Node& node : kernel.network->nodes()) {
           for (const gen::Constant& c : node.constants)
             ASSERT_TRUE(values.emplace(c.name, c.value).first->second == c.value)

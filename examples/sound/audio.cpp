@@ -21,15 +21,14 @@ std::string Audio::format() const {
   return name.name ? name.name : "unknown format";
 }
 
-std::size_t Audio::read(std::span<xfm32fc> block) {
+std::size_t Audio::read(std::span<const std::span<float>> signals) {
   const auto channels = static_cast<std::size_t>(info_.channels);
-  interleaved_.resize(block.size() * channels);
+  const std::size_t wanted = signals.front().size();
+  interleaved_.resize(wanted * channels);
   const auto got = static_cast<std::size_t>(
-      sf_readf_float(file_.get(), interleaved_.data(), static_cast<sf_count_t>(block.size())));
+      sf_readf_float(file_.get(), interleaved_.data(), static_cast<sf_count_t>(wanted)));
 
-  for (std::size_t i = 0; i < got; ++i) {
-    const float* sample = &interleaved_[i * channels];
-    block[i] = {sample[0], channels > 1 ? sample[1] : 0.0F};
-  }
+  for (std::size_t channel = 0; channel < signals.size(); ++channel)
+    for (std::size_t i = 0; i < got; ++i) signals[channel][i] = interleaved_[i * channels + channel];
   return got;
 }

@@ -1,4 +1,4 @@
-// A sound file as one complex signal.
+// A sound file as real signals, one a channel.
 #pragma once
 
 #include <cstdint>
@@ -9,11 +9,7 @@
 
 #include <sndfile.h>
 
-#include "xfm.h"
-
-/// An open sound file. Two real signals travel as one complex one: the left channel is the real part, the
-/// right channel the imaginary part. A single channel leaves the imaginary part zero; channels after the
-/// second are not read. All failures are std::runtime_error with a message of one line.
+/// An open sound file. All failures are std::runtime_error with a message of one line.
 class Audio {
  public:
   explicit Audio(const std::string& path);
@@ -24,8 +20,9 @@ class Audio {
   double seconds() const { return static_cast<double>(info_.frames) / info_.samplerate; }
   std::string format() const;
 
-  /// Reads the next samples, and says how many: fewer than asked for only at the end.
-  std::size_t read(std::span<xfm32fc> block);
+  /// Reads the next samples of the first channels, each into an array of its own; the arrays are equally
+  /// long. Says how many there were: fewer than asked for only at the end.
+  std::size_t read(std::span<const std::span<float>> signals);
 
  private:
   struct Close {

@@ -1,0 +1,93 @@
+// FFTW's real transforms as contestants. Its half spectrum is an array of complex numbers, as in CCS; where a
+// kernel has another layout, FFTW still makes its own, and is only compared after rearranging.
+#pragma once
+
+#include <cstring>
+
+#include "bench/fftw.h"
+
+namespace xfm::bench::fftw {
+
+enum class Layout { ccs, pack, perm };
+
+/// Elements of a half spectrum of N real samples, moved in their array from one layout to another.
+template <class Real>
+void ccs_to(Layout layout, Real* spectrum, int length) {
+  const auto n = static_cast<std::size_t>(length);
+  if (layout == Layout::perm && length % 2 == 0) {
+    spectrum[1] = spectrum[n];
+  } else if (layout != Layout::ccs) {
+    std::memmove(spectrum + 1, spectrum + 2, (n - 1) * sizeof(Real));
+  }
+}
+
+template <class Real>
+void to_ccs(Layout layout, Real* spectrum, int length) {
+  const auto n = static_cast<std::size_t>(length);
+  if (layout == Layout::perm && length % 2 == 0) {
+    spectrum[n] = spectrum[1];
+  } else if (layout != Layout::ccs) {
+    std::memmove(spectrum + 2, spectrum + 1, (n - 1) * sizeof(Real));
+  }
+  spectrum[1] = 0;
+  if (length % 2 == 0) spectrum[n + 1] = 0;
+}
+
+template <class Real, Layout layout>
+class RealDft final : public Contestant {
+ public:
+  RealDft(int length, Arrays& arrays)
+      : length_(length),
+        src_(static_cast<Real*>(arrays.src())),
+        dst_(static_cast<Complex*>(arrays.dst())),
+        plan_(Api<Real>::plan_r2c_1d(length, src_, dst_, FFTW_PATIENT)) {}
+
+  void run(int calls) override {
+    for (int i = 0; i < calls; ++i) Api<Real>::execute_r2c(plan_.get(), src_, dst_);
+  }
+  void give_output() override { ccs_to(layout, reinterpret_cast<Real*>(dst_), length_); }
+
+ private:
+  using Complex = typename Api<Real>::Complex;
+  int length_;
+  Real* src_;
+  Complex* dst_;
+  Plan<Real> plan_;
+};
+
+/// FFTW may destroy the input of this one, which is its default: told to preserve it, as our kernels do, it
+/// takes two to three times as long at many even lengths.
+template <class Real, Layout layout>
+class InverseRealDft final : public Contestant {
+ public:
+  InverseRealDft(int length, Arrays& arrays)
+      : length_(length),
+        src_(static_cast<Complex*>(arrays.src())),
+        dst_(static_cast<Real*>(arrays.dst())),
+        plan_(Api<Real>::plan_c2r_1d(length, src_, dst_, FFTW_PATIENT | FFTW_DESTROY_INPUT)) {}
+
+  void run(int calls) override {
+    for (int i = 0; i < calls; ++i) Api<Real>::execute_c2r(plan_.get(), src_, dst_);
+  }
+  void take_input() override { to_ccs(layout, reinterpret_cast<Real*>(src_), length_); }
+  bool destroys_input() const override { return true; }
+
+ private:
+  using Complex = typename Api<Real>::Complex;
+  int length_;
+  Complex* src_;
+  Real* dst_;
+  Plan<Real> plan_;
+};
+
+template <class Real, Layout layout>
+ContestantPtr real_dft(int length, Arrays& arrays) {
+  return best_plan<Real>([&] { return std::make_unique<RealDft<Real, layout>>(length, arrays); });
+}
+
+template <class Real, Layout layout>
+ContestantPtr inverse_real_dft(int length, Arrays& arrays) {
+  return best_plan<Real>([&] { return std::make_unique<InverseRealDft<Real, layout>>(length, arrays); });
+}
+
+}  // namespace xfm::bench::fftw
