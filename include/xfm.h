@@ -380,6 +380,86 @@ xfmStatus xfmDFTInv_CToC_63_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag)
 xfmStatus xfmDFTInv_CToC_64_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
 /** @} */
 
+/** @name WHT
+ * xfmWHT_N_TYPE
+ * @{ */
+/**
+ * Walsh-Hadamard transform of N = 2^order real elements, order 1 to 13, in natural (Hadamard) order.
+ *
+ *     dst[k] = s * sum over j of (-1)^popcount(j AND k) * src[j],   j, k = 0 .. N-1
+ *
+ * Reads N elements of src, writes N elements of dst. The transform has no direction: it is its own inverse up to N, so
+ * the two flags of 1/N mean the same here. The number in a kernel's name is the order.
+ *
+ * | flag                  | factor s  |
+ * |-----------------------|-----------|
+ * | XFM_SCALE_FWD_BY_N    | 1/N       |
+ * | XFM_SCALE_INV_BY_N    | 1/N       |
+ * | XFM_SCALE_BY_SQRT_N   | 1/sqrt(N) |
+ * | XFM_SCALE_NONE        | 1         |
+ *
+ * The stages run in ascending order, all elements are added and subtracted in the precision of their type, and every
+ * output is multiplied by s as its last step, also by 1: the bits are those of a plain loop nest over strides 1, 2, 4, ...
+ * 1/sqrt(N) is a stored constant: a power of two at even orders. At odd orders the one in binary32 is the nearest value,
+ * the one in binary64 the quotient of 1 by the rounded root of N, one unit in the last place below the nearest value.
+ *
+ * Both arrays may have any alignment; multiples of 16 are fastest, and the bits do not depend on it. src and dst may
+ * overlap in any way: all input is read before the first output is written, and dst is never read.
+ *
+ * buffer: orders 1 to 7 never look at it, whatever it is. From order 8 on it is work space of the bytes that
+ * xfmWHTGetBufferSize_TYPE tells, aligned to 16; what it holds before does not matter, and afterwards it holds nothing of
+ * use. It belongs to one call at a time. A null buffer is served too, by one xfmMalloc and one xfmFree in every call; the
+ * bits are the same.
+ * Hazards: the call does not test whether xfmMalloc gave anything, and a program whose memory is exhausted ends there. A
+ * buffer that is not a multiple of 16 ends the program as well. A buffer that is too small is written past its end.
+ *
+ * Errors, in the order of the tests: a generic function gives xfmStsBadSize for an order that is not served; then
+ * xfmStsNullPtr (src or dst is null), xfmStsBadScale (flag). A failed call writes nothing and allocates nothing.
+ * Re-entrant.
+ * Sources: Good 1958; Fino and Algazi 1976; for the cut into passes Johnson and Pueschel 2000.
+ */
+xfmStatus xfmWHT_32f(const xfm32f* src, xfm32f* dst, int32_t order, int32_t flag, void* buffer);
+xfmStatus xfmWHT_1_32f(const xfm32f* src, xfm32f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_2_32f(const xfm32f* src, xfm32f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_3_32f(const xfm32f* src, xfm32f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_4_32f(const xfm32f* src, xfm32f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_5_32f(const xfm32f* src, xfm32f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_6_32f(const xfm32f* src, xfm32f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_7_32f(const xfm32f* src, xfm32f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_8_32f(const xfm32f* src, xfm32f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_9_32f(const xfm32f* src, xfm32f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_10_32f(const xfm32f* src, xfm32f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_11_32f(const xfm32f* src, xfm32f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_12_32f(const xfm32f* src, xfm32f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_13_32f(const xfm32f* src, xfm32f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_64f(const xfm64f* src, xfm64f* dst, int32_t order, int32_t flag, void* buffer);
+xfmStatus xfmWHT_1_64f(const xfm64f* src, xfm64f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_2_64f(const xfm64f* src, xfm64f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_3_64f(const xfm64f* src, xfm64f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_4_64f(const xfm64f* src, xfm64f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_5_64f(const xfm64f* src, xfm64f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_6_64f(const xfm64f* src, xfm64f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_7_64f(const xfm64f* src, xfm64f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_8_64f(const xfm64f* src, xfm64f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_9_64f(const xfm64f* src, xfm64f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_10_64f(const xfm64f* src, xfm64f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_11_64f(const xfm64f* src, xfm64f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_12_64f(const xfm64f* src, xfm64f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_13_64f(const xfm64f* src, xfm64f* dst, int32_t flag, void* buffer);
+/** @} */
+
+/** @name WHT work buffer
+ * xfmWHTGetBufferSize_TYPE
+ * @{ */
+/**
+ * Bytes of the work buffer of the Walsh-Hadamard kernel of this order, stored through size: 0 for the orders 1 to 7.
+ * The order is the only thing tested: size must not be null.
+ * Errors: xfmStsBadSize for an order that is not 1 to 13; size stays as it was. Re-entrant; no allocation.
+ */
+xfmStatus xfmWHTGetBufferSize_32f(int32_t order, uint32_t* size);
+xfmStatus xfmWHTGetBufferSize_64f(int32_t order, uint32_t* size);
+/** @} */
+
 #if defined(__GNUC__)
 #pragma GCC visibility pop
 #endif

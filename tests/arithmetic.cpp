@@ -98,7 +98,7 @@ TEST_P(Arithmetic, SubnormalNumbersCount) {
   for (int i = 0; i < src.count(); ++i) magnitudes += std::abs(src[i]);
   const std::vector<Wide> expected = transform(*reference, src, kernel().written);
   const Array dst = separate(src, XFM_SCALE_NONE);
-  const double allowed = matrix_bound(kernel().precision) * magnitudes + kernel().length * least_subnormal();
+  const double allowed = matrix_bound(kernel().precision) * magnitudes + kernel().points * least_subnormal();
   for (int out = 0; out < dst.count(); ++out) {
     const auto error = static_cast<double>(Wide{dst[out]} - expected[static_cast<std::size_t>(out)]);
     ASSERT_LE(std::abs(error), allowed) << "scalar " << out << " is " << dst[out];
