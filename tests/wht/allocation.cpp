@@ -1,5 +1,5 @@
-// Work buffers that nobody gave: one block of the stated size in a call, released by its end. The core's functions
-// are this program's own, and hand out blocks that end at a guard page.
+// Work buffers that nobody gave: one block of the stated size in a call, released by its end. The core's
+// functions are this program's own, and hand out blocks that end at a guard page.
 #include <memory>
 
 #include "tests/support/guarded.h"
@@ -85,7 +85,8 @@ TEST_P(OwnBuffer, RefusalsAskForNone) {
 
 TEST_P(OwnBuffer, GenericAsksOnce) {
   for (const Generic& generic : catalogue::generics()) {
-    if (std::string(generic.family) != kernel().family || std::string(generic.type) != kernel().type) continue;
+    if (std::string(generic.family) != kernel().family || std::string(generic.type) != kernel().type)
+      continue;
     const Array src = random_input();
     Array dst = output();
     ASSERT_EQ(run(generic, src.data(), dst.data(), 0, XFM_SCALE_NONE), xfmStsBadSize);

@@ -1,5 +1,5 @@
-// Every kernel gives the bits of the loop nest: with every factor, at every alignment, with a work buffer of the
-// caller and without, in place and over any overlap.
+// Every kernel gives the bits of the loop nest: with every factor, at every alignment, with a work buffer of
+// the caller and without, in place and over any overlap.
 #include <algorithm>
 #include <cmath>
 
@@ -14,7 +14,9 @@ namespace {
 
 class LoopNest : public KernelTest {
  protected:
-  LoopNest() : buffer_(kernel().precision, kernel().buffer_bytes / step()) { buffer_.fill(Poison::quiet_nan); }
+  LoopNest() : buffer_(kernel().precision, kernel().buffer_bytes / step()) {
+    buffer_.fill(Poison::quiet_nan);
+  }
 
   static double stored_factor(std::int32_t flag) {
     if (flag == XFM_SCALE_NONE) return 1;
@@ -50,7 +52,8 @@ TEST_P(LoopNest, AnyDataFlagAlignmentAndBuffer) {
     for (const std::int32_t flag : flags)
       for (int src_offset = 0; src_offset < 16; src_offset += step())
         for (int dst_offset = 0; dst_offset < 16; dst_offset += step())
-          ASSERT_NO_FATAL_FAILURE(expect_at_offsets(src, flag, src_offset, dst_offset)) << data.name << " data";
+          ASSERT_NO_FATAL_FAILURE(expect_at_offsets(src, flag, src_offset, dst_offset))
+              << data.name << " data";
   }
 }
 
@@ -90,13 +93,15 @@ TEST_P(LoopNest, AnyOverlap) {
         for (const std::int32_t one : flags) results.push_back(expected(src, one));
       }
       ASSERT_TRUE(same_bits(dst, results[static_cast<unsigned>(shift) % 4].data(), kernel().precision, n))
-          << "src at scalar " << at << " past a multiple of 16, dst " << shift << " scalars further, flag " << flag;
+          << "src at scalar " << at << " past a multiple of 16, dst " << shift << " scalars further, flag "
+          << flag;
     }
   }
 }
 
 TEST_P(LoopNest, FactorsAreThoseOnRecord) {
-  for (const std::int32_t flag : flags) EXPECT_EQ(factor(kernel(), flag), stored_factor(flag)) << "flag " << flag;
+  for (const std::int32_t flag : flags)
+    EXPECT_EQ(factor(kernel(), flag), stored_factor(flag)) << "flag " << flag;
   Array ones(kernel().precision, kernel().read), impulse(ones);
   ones.fill(1.0);
   impulse.fill(0.0);
@@ -115,16 +120,17 @@ TEST_P(LoopNest, IsItsOwnInverse) {
   const Array src = random_input();
   EXPECT_TRUE(same_bits(separate(src, XFM_SCALE_FWD_BY_N), separate(src, XFM_SCALE_INV_BY_N)));
   const double rounding = kernel().precision == Precision::single ? 0x1p-24 : 0x1p-53;
-  for (const auto& [first, second] : {std::pair{XFM_SCALE_NONE, XFM_SCALE_FWD_BY_N},
-                                      std::pair{XFM_SCALE_INV_BY_N, XFM_SCALE_NONE},
-                                      std::pair{XFM_SCALE_BY_SQRT_N, XFM_SCALE_BY_SQRT_N}}) {
+  for (const auto& [first, second] :
+       {std::pair{XFM_SCALE_NONE, XFM_SCALE_FWD_BY_N}, std::pair{XFM_SCALE_INV_BY_N, XFM_SCALE_NONE},
+        std::pair{XFM_SCALE_BY_SQRT_N, XFM_SCALE_BY_SQRT_N}}) {
     const Array back = separate(separate(src, first), second);
     double error = 0, norm = 0;
     for (int i = 0; i < src.count(); ++i) {
       error += std::pow(back[i] - src[i], 2);
       norm += src[i] * src[i];
     }
-    EXPECT_LE(std::sqrt(error / norm), (kernel().length + 4) * rounding) << "flags " << first << ", " << second;
+    EXPECT_LE(std::sqrt(error / norm), (kernel().length + 4) * rounding)
+        << "flags " << first << ", " << second;
   }
 }
 

@@ -28,7 +28,8 @@ TEST(BufferSize, RefusesOtherOrders) {
   for (std::int32_t order = -300; order <= 300; ++order)
     if (order < 1 || order > 13) orders.push_back(order);
   for (std::int32_t order = 1; order <= 13; ++order)
-    for (const std::int32_t beyond : {1 << 8, 1 << 16, 1 << 24, 1 << 30, least}) orders.push_back(order + beyond);
+    for (const std::int32_t beyond : {1 << 8, 1 << 16, 1 << 24, 1 << 30, least})
+      orders.push_back(order + beyond);
   for (const Query query : queries) {
     for (const std::int32_t order : orders) {
       std::uint32_t size = 0xAAAAAAAA;
@@ -125,11 +126,13 @@ TEST_P(Buffer, RefusalsDoNotTouchIt) {
 
 TEST_P(Buffer, GenericHandsItOver) {
   for (const Generic& generic : catalogue::generics()) {
-    if (std::string(generic.family) != kernel().family || std::string(generic.type) != kernel().type) continue;
+    if (std::string(generic.family) != kernel().family || std::string(generic.type) != kernel().type)
+      continue;
     const Array src = random_input();
     Array dst = output(), buffer(kernel().precision, static_cast<int>(bytes()) / step());
     const auto call = [&](void* work, std::int32_t order) {
-      return attempt([&] { return generic.call_with_buffer(src.data(), dst.data(), order, XFM_SCALE_NONE, work); });
+      return attempt(
+          [&] { return generic.call_with_buffer(src.data(), dst.data(), order, XFM_SCALE_NONE, work); });
     };
     buffer.fill(Poison::quiet_nan);
     const Array before(buffer);
@@ -143,7 +146,8 @@ TEST_P(Buffer, GenericHandsItOver) {
   FAIL() << "no generic function";
 }
 
-// A fault of the caller, which ends the program where the aligned moves meet it. Sanitizers report it in their way.
+// A fault of the caller, which ends the program where the aligned moves meet it. Sanitizers report it in
+// their way.
 #if !defined(__SANITIZE_ADDRESS__)
 TEST_P(Buffer, MisalignedFaults) {
   if (!is_used()) return;
@@ -151,7 +155,8 @@ TEST_P(Buffer, MisalignedFaults) {
   Array dst = output(), buffer(kernel().precision, static_cast<int>(bytes()) / step() + 4);
   for (int offset = step(); offset < 16; offset += step())
     EXPECT_TRUE(faults([&] {
-      kernel().call_with_buffer(src.data(), dst.data(), XFM_SCALE_NONE, static_cast<std::byte*>(buffer.data()) + offset);
+      kernel().call_with_buffer(src.data(), dst.data(), XFM_SCALE_NONE,
+                                static_cast<std::byte*>(buffer.data()) + offset);
     })) << offset;
 }
 #endif

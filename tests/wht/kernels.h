@@ -33,6 +33,6 @@ inline xfmStatus run(const Kernel& kernel, const void* src, void* dst, std::int3
 
 }  // namespace xfm::test
 
-#define XFM_FOR_WALSH_HADAMARD_KERNELS(suite)                                                       \
-  INSTANTIATE_TEST_SUITE_P(All, suite, testing::ValuesIn(xfm::test::walsh_hadamard_kernels()),      \
+#define XFM_FOR_WALSH_HADAMARD_KERNELS(suite)                                                  \
+  INSTANTIATE_TEST_SUITE_P(All, suite, testing::ValuesIn(xfm::test::walsh_hadamard_kernels()), \
                            xfm::test::ByName())

@@ -36,8 +36,7 @@ gen::Row row(int order, gen::Precision precision) {
   const Passes p = single ? passes<float>(order) : passes<double>(order);
   const gen::ElementType type{precision, false};
   const int n = p.length(), width = single ? lanes<float>(p.block) : lanes<double>(p.block);
-  const bool both_in_one = !single && order == 3;  // the aligned body and the unaligned one
-  const int bodies = both_in_one ? 2 : 1;
+  const bool twin = width > 1 && (single || order > 3);  // one kernel holds both of its bodies itself
   return {.name = "xfmWHT_" + std::to_string(order) + "_" + type.suffix(),
           .family = "WHT",
           .type = type,
@@ -47,14 +46,14 @@ gen::Row row(int order, gen::Precision precision) {
           .read = n,
           .written = n,
           .exchanges = -1,
-          .packed = width > 1 && !both_in_one,
+          .packed = twin,
           .packed_math = width > 1,
           .straight = p.is_block(),
           .tree = text(p),
           .adds = n * order,
           .mults = 0,
-          .add_instructions = bodies * additions(p, width),
-          .mult_instructions = bodies * (p.is_block() ? n / width : p.last),
+          .add_instructions = additions(p, width),
+          .mult_instructions = p.is_block() ? n / width : p.last,
           .takes_buffer = true,
           .buffer_bytes = static_cast<int>(single ? p.buffer_bytes<float>() : p.buffer_bytes<double>())};
 }
