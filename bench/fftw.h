@@ -23,7 +23,9 @@ struct Api<float> {
   using Plan = fftwf_plan;
   using Complex = fftwf_complex;
   static constexpr auto plan_dft_1d = fftwf_plan_dft_1d;
+  static constexpr auto plan_r2r = fftwf_plan_r2r;
   static constexpr auto execute_dft = fftwf_execute_dft;
+  static constexpr auto execute_r2r = fftwf_execute_r2r;
   static constexpr auto destroy = fftwf_destroy_plan;
   static constexpr auto forget_wisdom = fftwf_forget_wisdom;
 };
@@ -33,7 +35,9 @@ struct Api<double> {
   using Plan = fftw_plan;
   using Complex = fftw_complex;
   static constexpr auto plan_dft_1d = fftw_plan_dft_1d;
+  static constexpr auto plan_r2r = fftw_plan_r2r;
   static constexpr auto execute_dft = fftw_execute_dft;
+  static constexpr auto execute_r2r = fftw_execute_r2r;
   static constexpr auto destroy = fftw_destroy_plan;
   static constexpr auto forget_wisdom = fftw_forget_wisdom;
 };
@@ -83,6 +87,43 @@ class ComplexDft final : public Contestant {
 template <class Real, int sign>
 ContestantPtr complex_dft(int length, Arrays& arrays) {
   return best_plan<Real>([&] { return std::make_unique<ComplexDft<Real>>(length, sign, arrays); });
+}
+
+/// Walsh-Hadamard transform: a real transform of rank `order` and 2 x ... x 2 elements, of two elements each
+/// dimension's sum and difference.
+template <class Real>
+class Hypercube final : public Contestant {
+ public:
+  Hypercube(int order, fftw_r2r_kind kind, Arrays& arrays)
+      : src_(static_cast<Real*>(arrays.src())), dst_(static_cast<Real*>(arrays.dst())) {
+    const std::vector<int> sides(static_cast<std::size_t>(order), 2);
+    const std::vector<fftw_r2r_kind> kinds(sides.size(), kind);
+    plan_ = Api<Real>::plan_r2r(order, sides.data(), src_, dst_, kinds.data(), FFTW_PATIENT);
+    if (plan_ == nullptr) throw std::runtime_error("FFTW made no plan");
+  }
+  Hypercube(const Hypercube&) = delete;
+  Hypercube& operator=(const Hypercube&) = delete;
+  ~Hypercube() override { Api<Real>::destroy(plan_); }
+
+  void run(int calls) override {
+    for (int i = 0; i < calls; ++i) Api<Real>::execute_r2r(plan_, src_, dst_);
+  }
+
+ private:
+  Real* src_;
+  Real* dst_;
+  typename Api<Real>::Plan plan_;
+};
+
+/// Of two elements the half-complex transform and the Hartley transform are the same; the planner treats them
+/// differently, so both have their turns.
+template <class Real>
+ContestantPtr walsh_hadamard(int order, Arrays& arrays) {
+  fftw_r2r_kind kind = FFTW_DHT;
+  return best_plan<Real>([&] {
+    kind = kind == FFTW_DHT ? FFTW_R2HC : FFTW_DHT;
+    return std::make_unique<Hypercube<Real>>(order, kind, arrays);
+  });
 }
 
 }  // namespace xfm::bench::fftw

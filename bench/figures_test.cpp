@@ -21,7 +21,7 @@ Kernel kernel(const char* type, Precision precision, int length, bool packed, in
   result.precision = precision;
   result.length = length;
   result.read = result.written = 2 * length;
-  result.packed = packed;
+  result.packed = result.packed_math = packed;
   result.exchanges = exchanges;
   result.adds = adds;
   result.mults = mults;
@@ -74,8 +74,8 @@ TEST(Groups, ByFamilyAndTypeWithLengthsBehind) {
   const Kernel b = kernel("64fc", Precision::twofold, 6, true, 2, 36, 8);
   const Kernel c = kernel("32fc", Precision::single, 7, true, -1, 60, 36);
   const Summary ten{10, 12};
-  const auto groups =
-      grouped({{&a, 1, 1, ten, Summary{20, 18}}, {&b, 1, 1, ten, {}}, {&c, 1, 1, ten, Summary{9, 15}}});
+  const auto groups = grouped(
+      {{&a, 1, 1, ten, Summary{20, 18}, {}}, {&b, 1, 1, ten, {}, {}}, {&c, 1, 1, ten, Summary{9, 15}, {}}});
   ASSERT_EQ(groups.size(), 2U);
   EXPECT_EQ(groups[0].type, "32fc");
   EXPECT_EQ(groups[0].ratios(), (std::vector{2.0, 0.9}));

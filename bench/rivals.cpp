@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "bench/fftw.h"
+#include "bench/loop_nest.h"
 
 namespace xfm::bench {
 
@@ -21,6 +22,8 @@ constexpr std::array kRivals{
     Rival{"DFTFwd_CToC", "64fc", fftw::complex_dft<double, FFTW_FORWARD>},
     Rival{"DFTInv_CToC", "32fc", fftw::complex_dft<float, FFTW_BACKWARD>},
     Rival{"DFTInv_CToC", "64fc", fftw::complex_dft<double, FFTW_BACKWARD>},
+    Rival{"WHT", "32f", fftw::walsh_hadamard<float>},
+    Rival{"WHT", "64f", fftw::walsh_hadamard<double>},
 };
 
 }  // namespace
@@ -29,6 +32,18 @@ ContestantPtr make_rival(const catalogue::Kernel& kernel, Arrays& arrays) {
   for (const Rival& rival : kRivals)
     if (rival.family == kernel.family && rival.type == kernel.type) return rival.make(kernel.length, arrays);
   return nullptr;
+}
+
+// Loop nests have rows of their own, one for each compiler at hand.
+std::vector<NamedContestant> further_rivals(const catalogue::Kernel& kernel, Arrays& arrays) {
+  std::vector<NamedContestant> rivals;
+  if (std::string_view(kernel.family) != "WHT") return rivals;
+  const bool single = kernel.precision == catalogue::Precision::single;
+  for (const LoopNest& nest : loop_nests) {
+    rivals.push_back({nest.name, single ? contestant(nest.single, kernel.length, arrays)
+                                        : contestant(nest.twofold, kernel.length, arrays)});
+  }
+  return rivals;
 }
 
 std::string rival_version() { return fftw_version; }
