@@ -34,8 +34,8 @@ const char* const walsh_hadamard_documentation =
 
     dst[k] = s * sum over j of (-1)^popcount(j AND k) * src[j],   j, k = 0 .. N-1
 
-Reads N elements of src, writes N elements of dst. The transform has no direction: it is its own inverse up to N, so
-the two flags of 1/N mean the same here. The number in a kernel's name is the order.
+Reads N elements of src, writes N elements of dst. The transform has no direction: it is its own inverse up to N,
+so the two flags of 1/N mean the same here. The number in a kernel's name is the order.
 
 | flag                  | factor s  |
 |-----------------------|-----------|
@@ -44,19 +44,19 @@ the two flags of 1/N mean the same here. The number in a kernel's name is the or
 | XFM_SCALE_BY_SQRT_N   | 1/sqrt(N) |
 | XFM_SCALE_NONE        | 1         |
 
-The stages run in ascending order, all elements are added and subtracted in the precision of their type, and every
-output is multiplied by s as its last step, also by 1: the bits are those of a plain loop nest over strides 1, 2, 4, ...
-1/sqrt(N) is a stored constant: a power of two at even orders. At odd orders the one in binary32 is the nearest value,
-the one in binary64 the quotient of 1 by the rounded root of N, one unit in the last place below the nearest value.
+The stages run in ascending order, additions and subtractions are those of the element type, and every output is
+multiplied by s as its last step, also by 1: the bits are those of a plain loop nest over strides 1, 2, 4, ...
+1/sqrt(N) is a stored constant: a power of two at even orders. At odd orders the one in binary32 is the nearest
+value, the one in binary64 the quotient of 1 by the rounded root of N, which lies one unit in the last place below.
 
 Both arrays may have any alignment; multiples of 16 are fastest, and the bits do not depend on it. src and dst may
 overlap in any way: all input is read before the first output is written, and dst is never read.
 
 buffer: orders 1 to 7 never look at it, whatever it is. From order 8 on it is work space of the bytes that
-xfmWHTGetBufferSize_TYPE tells, aligned to 16; what it holds before does not matter, and afterwards it holds nothing of
-use. It belongs to one call at a time. A null buffer is served too, by one xfmMalloc and one xfmFree in every call; the
-bits are the same.
-Hazards: the call does not test whether xfmMalloc gave anything, and a program whose memory is exhausted ends there. A
+xfmWHTGetBufferSize_TYPE tells, aligned to 16. What it holds before does not matter; afterwards it holds nothing of
+use. It belongs to one call at a time. A null buffer is served too, by one xfmMalloc and one xfmFree in every call;
+the bits are the same.
+Hazards: the call does not test whether xfmMalloc gave anything: a program whose memory is exhausted ends there. A
 buffer that is not a multiple of 16 ends the program as well. A buffer that is too small is written past its end.
 
 Errors, in the order of the tests: a generic function gives xfmStsBadSize for an order that is not served; then

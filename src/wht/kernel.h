@@ -82,19 +82,23 @@ XFM_BODY auto factor(std::int32_t flag) {
   return Memory::load(factors<T, order>.of(flag));
 }
 
+/// What the last pass does with its results.
+template <class Memory, class T, class V>
+XFM_BODY auto scale_and_store(T* dst, V s) {
+  return [=](int i, V v) XFM_INLINE { Memory::store(dst + i, s * v); };
+}
+
 template <class T, int order, class Memory>
 XFM_BODY xfmStatus body(const T* src, T* dst, std::int32_t flag, void* buffer) {
   if (const xfmStatus status = check(src, dst, flag); status != xfmStsOk) return status;
   constexpr Passes p = passes<T>(order);
-  const auto s = factor<T, order>(flag);
-  const auto finish = [&](int i, auto v) XFM_INLINE { Memory::store(dst + i, s * v); };
   if constexpr (p.is_block()) {
-    block_pass<p.block, Memory>(src, finish);
+    block_pass<p.block, Memory>(src, scale_and_store<Memory>(dst, factor<T, order>(flag)));
   } else {
     // There is no status for exhausted memory: what xfmMalloc gives is used as it is.
     T* const work = static_cast<T*>(buffer != nullptr ? buffer : xfmMalloc(p.template buffer_bytes<T>()));
     fill_main_area<T, order, Memory>(src, work);
-    column_pass<p.last, p.super_block()>(work, finish);
+    column_pass<p.last, p.super_block()>(work, scale_and_store<Memory>(dst, factor<T, order>(flag)));
     if (buffer == nullptr) xfmFree(work);
   }
   return xfmStsOk;
