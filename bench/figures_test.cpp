@@ -84,5 +84,13 @@ TEST(Groups, ByFamilyAndTypeWithLengthsBehind) {
   EXPECT_FALSE(groups[1].has_rival());
 }
 
+TEST(Groups, FurtherRivals) {
+  const Kernel a = kernel("32f", Precision::single, 1, false, -1, 2, 0);
+  const Group group{
+      "WHT", "32f", {{&a, 1, 1, Summary{10, 12}, {}, {{"loops", {40, 41}}, {"others", {5, 6}}}}}};
+  EXPECT_EQ(group.ratios_to_other(0), std::vector{4.0});
+  EXPECT_EQ(group.ratios_to_other(1), std::vector{0.5});
+}
+
 }  // namespace
 }  // namespace xfm::bench

@@ -22,7 +22,7 @@ inline constexpr int group_size = lanes_of<V> == 4 && count > 4 ? 8 : lanes_of<V
 
 /// All stages of `block` adjacent elements; take(index, register) of every result.
 template <int block, class Memory, class T, class Take>
-XFM_BODY void block_pass(const T* src, Take take) {
+XFM_INLINE inline void block_pass(const T* src, Take take) {
   using V = Register<T, block>;
   constexpr int width = lanes_of<V>, count = block / width, group = group_size<V, count>;
   transform<count, group, V>(
@@ -35,7 +35,7 @@ XFM_BODY void block_pass(const T* src, Take take) {
 
 /// The stages between `radix` vectors that lie `stride` elements apart, for all vectors of a stride.
 template <int radix, int stride, class T, class Take>
-XFM_BODY void column_pass(const T* src, Take take) {
+XFM_INLINE inline void column_pass(const T* src, Take take) {
   using V = Vector<T>;
   for (int at = 0; at < stride; at += lanes_of<V>) {
     transform<radix, 1, V>([&](V* v, int i) XFM_INLINE { *v = Aligned::load(src + at + i * stride); },
@@ -46,7 +46,7 @@ XFM_BODY void column_pass(const T* src, Take take) {
 /// All stages but the last pass's, from src into the main area. With a middle pass, the blocks of a
 /// super-block are staged, so that what the two passes work on stays in the nearest cache.
 template <class T, int order, class Memory>
-XFM_BODY void fill_main_area(const T* src, T* buffer) {
+XFM_INLINE inline void fill_main_area(const T* src, T* buffer) {
   constexpr Passes p = passes<T>(order);
   T* const staging = buffer + p.main_area();
   for (int at = 0; at < p.length(); at += p.super_block()) {
@@ -76,7 +76,7 @@ template <class T, int order>
 inline constexpr auto factors = make_factors<T, order>();
 
 template <class T, int order>
-XFM_BODY auto factor(std::int32_t flag) {
+XFM_INLINE inline auto factor(std::int32_t flag) {
   using V = Register<T, 1 << order>;
   using Memory = std::conditional_t<lanes_of<V> == 1, Single, Aligned>;
   return Memory::load(factors<T, order>.of(flag));
@@ -84,12 +84,12 @@ XFM_BODY auto factor(std::int32_t flag) {
 
 /// What the last pass does with its results.
 template <class Memory, class T, class V>
-XFM_BODY auto scale_and_store(T* dst, V s) {
+XFM_INLINE inline auto scale_and_store(T* dst, V s) {
   return [=](int i, V v) XFM_INLINE { Memory::store(dst + i, s * v); };
 }
 
 template <class T, int order, class Memory>
-XFM_BODY xfmStatus body(const T* src, T* dst, std::int32_t flag, void* buffer) {
+XFM_INLINE inline xfmStatus body(const T* src, T* dst, std::int32_t flag, void* buffer) {
   if (const xfmStatus status = check(src, dst, flag); status != xfmStsOk) return status;
   constexpr Passes p = passes<T>(order);
   if constexpr (p.is_block()) {

@@ -8,14 +8,11 @@
 
 #include "src/wht/vectors.h"
 
-/// For the lambdas of a body.
-#define XFM_INLINE __attribute__((always_inline))
-
 namespace xfm::wht {
 
 /// step(0), step(1), ... one after the other, with constant indices.
 template <int count, class Step>
-XFM_BODY void unrolled(Step step) {
+XFM_INLINE inline void unrolled(Step step) {
   [&]<int... i>(std::integer_sequence<int, i...>) XFM_INLINE {
     (step(std::integral_constant<int, i>{}), ...);
   }
@@ -23,7 +20,7 @@ XFM_BODY void unrolled(Step step) {
 }
 
 template <class V>
-XFM_BODY void butterfly(V& a, V& b) {
+XFM_INLINE inline void butterfly(V& a, V& b) {
   const V sum = a + b;
   b = a - b;
   a = sum;
@@ -32,7 +29,7 @@ XFM_BODY void butterfly(V& a, V& b) {
 /// All stages of `count` registers, of which make(v, at) fills those from `at` on, `leaf` at a time, and does
 /// the stages within them.
 template <int count, int leaf, class V, class Make>
-XFM_BODY void stages(V* v, Make make, int at = 0) {
+XFM_INLINE inline void stages(V* v, Make make, int at = 0) {
   if constexpr (count == leaf) {
     make(v, at);
   } else {
@@ -48,7 +45,7 @@ inline constexpr auto filled = [](auto*, int) XFM_INLINE {};
 
 /// All stages of `count` registers, and take(i, register i) of every result.
 template <int count, int leaf, class V, class Make, class Take>
-XFM_BODY void transform(Make make, Take take) {
+XFM_INLINE inline void transform(Make make, Take take) {
   V v[count];
   if constexpr (count == leaf) {
     make(v, 0);
@@ -68,7 +65,7 @@ XFM_BODY void transform(Make make, Take take) {
 /// All stages of a group of `count` registers of adjacent elements. The low ones are out of reach, for they
 /// combine lanes of one register: a transpose turns lanes into registers, and another one turns them back.
 template <int count, class V>
-XFM_BODY void group_stages(V* v) {
+XFM_INLINE inline void group_stages(V* v) {
   constexpr int width = lanes_of<V>, sets = count / width;
   V t[count];  // register i holds the elements i, i + count, i + 2 count, ...
   unrolled<sets>([&](auto set) XFM_INLINE {

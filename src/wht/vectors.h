@@ -6,6 +6,14 @@
 
 #include "src/frame/contract.h"
 
+/// For the parts of a body, which is straight-line code. Nobody looks at that of an unoptimised build, and
+/// forced inlining would make it take minutes.
+#ifdef __OPTIMIZE__
+#define XFM_INLINE __attribute__((always_inline))
+#else
+#define XFM_INLINE
+#endif
+
 namespace xfm::wht {
 
 using Quad = float __attribute__((vector_size(16)));   ///< four elements of binary32
@@ -21,28 +29,28 @@ inline constexpr int lanes_of<Pair> = 2;
 /// One element a register: for lengths that fill no vector.
 struct Single {
   template <class T>
-  XFM_BODY T load(const T* p) {
+  XFM_INLINE static T load(const T* p) {
     return *p;
   }
   template <class T>
-  XFM_BODY void store(T* p, T v) {
+  XFM_INLINE static void store(T* p, T v) {
     *p = v;
   }
 };
 
 struct Aligned {
-  XFM_BODY Quad load(const float* p) { return _mm_load_ps(p); }
-  XFM_BODY Pair load(const double* p) { return _mm_load_pd(p); }
-  XFM_BODY void store(float* p, Quad v) { _mm_store_ps(p, v); }
-  XFM_BODY void store(double* p, Pair v) { _mm_store_pd(p, v); }
+  XFM_INLINE static Quad load(const float* p) { return _mm_load_ps(p); }
+  XFM_INLINE static Pair load(const double* p) { return _mm_load_pd(p); }
+  XFM_INLINE static void store(float* p, Quad v) { _mm_store_ps(p, v); }
+  XFM_INLINE static void store(double* p, Pair v) { _mm_store_pd(p, v); }
 };
 
 /// Binary64 goes in halves, each of which is as aligned as an element is.
 struct Unaligned {
-  XFM_BODY Quad load(const float* p) { return _mm_loadu_ps(p); }
-  XFM_BODY Pair load(const double* p) { return _mm_loadh_pd(_mm_load_sd(p), p + 1); }
-  XFM_BODY void store(float* p, Quad v) { _mm_storeu_ps(p, v); }
-  XFM_BODY void store(double* p, Pair v) {
+  XFM_INLINE static Quad load(const float* p) { return _mm_loadu_ps(p); }
+  XFM_INLINE static Pair load(const double* p) { return _mm_loadh_pd(_mm_load_sd(p), p + 1); }
+  XFM_INLINE static void store(float* p, Quad v) { _mm_storeu_ps(p, v); }
+  XFM_INLINE static void store(double* p, Pair v) {
     _mm_storel_pd(p, v);
     _mm_storeh_pd(p + 1, v);
   }
@@ -53,33 +61,33 @@ struct Unaligned {
 // Compilers that are given the intrinsics turn them back.
 
 /// a0 b0 a1 b1
-XFM_BODY Quad interleave_low(Quad a, Quad b) {
+XFM_INLINE inline Quad interleave_low(Quad a, Quad b) {
   asm("punpckldq %1, %0" : "+x"(a) : "x"(b));
   return a;
 }
 /// a2 b2 a3 b3
-XFM_BODY Quad interleave_high(Quad a, Quad b) {
+XFM_INLINE inline Quad interleave_high(Quad a, Quad b) {
   asm("punpckhdq %1, %0" : "+x"(a) : "x"(b));
   return a;
 }
 template <class V>
-XFM_BODY V low_halves(V a, V b) {
+XFM_INLINE inline V low_halves(V a, V b) {
   asm("punpcklqdq %1, %0" : "+x"(a) : "x"(b));
   return a;
 }
 template <class V>
-XFM_BODY V high_halves(V a, V b) {
+XFM_INLINE inline V high_halves(V a, V b) {
   asm("punpckhqdq %1, %0" : "+x"(a) : "x"(b));
   return a;
 }
 
 /// As many registers as they have lanes: what was lane j of register i becomes lane i of register j.
-XFM_BODY void transpose(Pair* v) {
+XFM_INLINE inline void transpose(Pair* v) {
   const Pair low = low_halves(v[0], v[1]);
   v[1] = high_halves(v[0], v[1]);
   v[0] = low;
 }
-XFM_BODY void transpose(Quad* v) {
+XFM_INLINE inline void transpose(Quad* v) {
   const Quad low01 = interleave_low(v[0], v[1]), high01 = interleave_high(v[0], v[1]);
   const Quad low23 = interleave_low(v[2], v[3]), high23 = interleave_high(v[2], v[3]);
   v[0] = low_halves(low01, low23);
