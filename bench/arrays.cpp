@@ -41,10 +41,12 @@ Arrays::Arrays(const catalogue::Kernel& kernel, Placement placement)
   // dst stands half a page past a multiple of pages: addresses that agree modulo 4096 would make loads wait
   // for unrelated stores.
   const std::size_t distance = placement.in_place ? 0 : round_up(array, kPage) + kPage / 2;
-  size_ = distance + array;
+  const std::size_t to_buffer = round_up(distance + array, kPage) + kPage / 4;
+  size_ = to_buffer + static_cast<std::size_t>(kernel.buffer_bytes);
   memory_.reset(static_cast<std::byte*>(operator new (size_, std::align_val_t{kPage})));
   src_ = memory_.get() + (placement.unaligned ? scalar : 0);
   dst_ = src_ + distance;
+  buffer_ = kernel.buffer_bytes > 0 ? memory_.get() + to_buffer : nullptr;
   clear();
 }
 

@@ -20,6 +20,8 @@ class Arrays {
 
   void* src() { return src_; }
   void* dst() { return dst_; }
+  /// Work buffer of the kernel; null where it needs none.
+  void* buffer() { return buffer_; }
 
   /// The same pseudo-random input at every call.
   void fill();
@@ -39,6 +41,7 @@ class Arrays {
   int read_, written_;
   std::byte* src_;
   std::byte* dst_;
+  std::byte* buffer_;
 };
 
 }  // namespace xfm::bench

@@ -28,6 +28,8 @@ struct Api<float> {
   static constexpr auto execute_dft = fftwf_execute_dft;
   static constexpr auto execute_r2c = fftwf_execute_dft_r2c;
   static constexpr auto execute_c2r = fftwf_execute_dft_c2r;
+  static constexpr auto plan_r2r = fftwf_plan_r2r;
+  static constexpr auto execute_r2r = fftwf_execute_r2r;
   static constexpr auto destroy = fftwf_destroy_plan;
   static constexpr auto forget_wisdom = fftwf_forget_wisdom;
 };
@@ -42,6 +44,8 @@ struct Api<double> {
   static constexpr auto execute_dft = fftw_execute_dft;
   static constexpr auto execute_r2c = fftw_execute_dft_r2c;
   static constexpr auto execute_c2r = fftw_execute_dft_c2r;
+  static constexpr auto plan_r2r = fftw_plan_r2r;
+  static constexpr auto execute_r2r = fftw_execute_r2r;
   static constexpr auto destroy = fftw_destroy_plan;
   static constexpr auto forget_wisdom = fftw_forget_wisdom;
 };
@@ -104,6 +108,43 @@ class ComplexDft final : public Contestant {
 template <class Real, int sign>
 ContestantPtr complex_dft(int length, Arrays& arrays) {
   return best_plan<Real>([&] { return std::make_unique<ComplexDft<Real>>(length, sign, arrays); });
+}
+
+/// Walsh-Hadamard transform: a real transform of rank `order` and 2 x ... x 2 elements, of two elements each
+/// dimension's sum and difference.
+template <class Real>
+class Hypercube final : public Contestant {
+ public:
+  Hypercube(int order, fftw_r2r_kind kind, Arrays& arrays)
+      : src_(static_cast<Real*>(arrays.src())), dst_(static_cast<Real*>(arrays.dst())) {
+    const std::vector<int> sides(static_cast<std::size_t>(order), 2);
+    const std::vector<fftw_r2r_kind> kinds(sides.size(), kind);
+    plan_ = Api<Real>::plan_r2r(order, sides.data(), src_, dst_, kinds.data(), FFTW_PATIENT);
+    if (plan_ == nullptr) throw std::runtime_error("FFTW made no plan");
+  }
+  Hypercube(const Hypercube&) = delete;
+  Hypercube& operator=(const Hypercube&) = delete;
+  ~Hypercube() override { Api<Real>::destroy(plan_); }
+
+  void run(int calls) override {
+    for (int i = 0; i < calls; ++i) Api<Real>::execute_r2r(plan_, src_, dst_);
+  }
+
+ private:
+  Real* src_;
+  Real* dst_;
+  typename Api<Real>::Plan plan_;
+};
+
+/// Of two elements the half-complex transform and the Hartley transform are the same; the planner treats them
+/// differently, so both have their turns.
+template <class Real>
+ContestantPtr walsh_hadamard(int order, Arrays& arrays) {
+  fftw_r2r_kind kind = FFTW_DHT;
+  return best_plan<Real>([&] {
+    kind = kind == FFTW_DHT ? FFTW_R2HC : FFTW_DHT;
+    return std::make_unique<Hypercube<Real>>(order, kind, arrays);
+  });
 }
 
 }  // namespace xfm::bench::fftw

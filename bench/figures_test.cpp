@@ -21,7 +21,7 @@ Kernel kernel(const char* type, Precision precision, int length, bool packed, in
   result.precision = precision;
   result.length = length;
   result.read = result.written = 2 * length;
-  result.packed = packed;
+  result.packed = result.packed_math = packed;
   result.exchanges = exchanges;
   result.adds = adds;
   result.mults = mults;
@@ -74,14 +74,22 @@ TEST(Groups, ByFamilyAndTypeWithLengthsBehind) {
   const Kernel b = kernel("64fc", Precision::twofold, 6, true, 2, 36, 8);
   const Kernel c = kernel("32fc", Precision::single, 7, true, -1, 60, 36);
   const Summary ten{10, 12};
-  const auto groups =
-      grouped({{&a, 1, 1, ten, Summary{20, 18}}, {&b, 1, 1, ten, {}}, {&c, 1, 1, ten, Summary{9, 15}}});
+  const auto groups = grouped(
+      {{&a, 1, 1, ten, Summary{20, 18}, {}}, {&b, 1, 1, ten, {}, {}}, {&c, 1, 1, ten, Summary{9, 15}, {}}});
   ASSERT_EQ(groups.size(), 2U);
   EXPECT_EQ(groups[0].type, "32fc");
   EXPECT_EQ(groups[0].ratios(), (std::vector{2.0, 0.9}));
   EXPECT_EQ(groups[0].ratios_of_medians(), (std::vector{1.5, 1.25}));
   EXPECT_EQ(groups[0].lengths_behind(), std::vector{7});
   EXPECT_FALSE(groups[1].has_rival());
+}
+
+TEST(Groups, FurtherRivals) {
+  const Kernel a = kernel("32f", Precision::single, 1, false, -1, 2, 0);
+  const Group group{
+      "WHT", "32f", {{&a, 1, 1, Summary{10, 12}, {}, {{"loops", {40, 41}}, {"others", {5, 6}}}}}};
+  EXPECT_EQ(group.ratios_to_other(0), std::vector{4.0});
+  EXPECT_EQ(group.ratios_to_other(1), std::vector{0.5});
 }
 
 }  // namespace

@@ -33,6 +33,10 @@ std::string object(const Result& result) {
     text += fmt::format(R"(, "rival": {}, "ratio": {:.4f}, "ratio_median": {:.4f})",
                         object(*result.rival, result.nanoseconds_per_cycle), result.ratio(),
                         result.ratio_of_medians());
+  for (const Other& other : result.others)
+    text += fmt::format(R"(, {}: {}, {}: {:.4f})", quoted(other.name),
+                        object(other.time, result.nanoseconds_per_cycle), quoted("ratio to " + other.name),
+                        result.ratio_to(other));
   return text + "}";
 }
 

@@ -7,7 +7,7 @@ namespace xfm::bench {
 namespace {
 
 int lanes(const catalogue::Kernel& kernel) {
-  if (!kernel.packed) return 1;
+  if (!kernel.packed_math) return 1;
   return kernel.precision == catalogue::Precision::single ? 4 : 2;
 }
 

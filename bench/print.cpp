@@ -11,7 +11,7 @@ namespace xfm::bench {
 namespace {
 
 void print_row(const Result& result) {
-  const auto& [kernel, cycle, limit, ours, rival] = result;
+  const auto& [kernel, cycle, limit, ours, rival, others] = result;
   const std::string length = fmt::format("{:5}", kernel->length);
   const std::string own = fmt::format("{:8.1f} {:8.1f}", ours.least, ours.median);
   const std::string reach = fmt::format("{:8.1f} {:10.2f}", limit, ours.least / limit);
@@ -29,6 +29,23 @@ void print_table(const Group& group) {
   fmt::print("{:>5} {:>9} {:>8}   {:>8} {:>8} {:>8} {:>8}   {:>8} {:>10}\n", "N", "ratio", "(median)", "ours",
              "(median)", "rival", "(median)", "limit", "ours/limit");
   for (const Result& result : group.results) print_row(result);
+}
+
+/// Further rivals: ratio and core cycles, and the geometric mean of the ratios.
+void print_others(const Group& group) {
+  const std::vector<Other>& names = group.results.front().others;
+  if (names.empty()) return;
+  fmt::print("\n{:>5}", "N");
+  for (const Other& other : names) fmt::print(" {:>20}", other.name);
+  for (const Result& result : group.results) {
+    fmt::print("\n{:5}", result.kernel->length);
+    for (const Other& other : result.others)
+      fmt::print(" {:8.2f}x {:10.1f}", result.ratio_to(other), other.time.least);
+  }
+  fmt::print("\n{:>5}", "mean");
+  for (std::size_t i = 0; i < names.size(); ++i)
+    fmt::print(" {:8.2f}x {:10}", geometric_mean(group.ratios_to_other(i)), "");
+  fmt::print("\n");
 }
 
 void print_means(const Group& group) {
@@ -61,7 +78,10 @@ void print_tables(const std::vector<Group>& groups) {
   fmt::print(
       "\nratio: time of the rival over ours, by least time and by median; above 1 we are ahead.\n"
       "ours, rival, limit: core cycles a call; the limit is an estimate for 128-bit instructions.\n");
-  for (const Group& group : groups) print_table(group);
+  for (const Group& group : groups) {
+    print_table(group);
+    print_others(group);
+  }
 }
 
 void print_summary(const std::vector<Group>& groups) {

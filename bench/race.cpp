@@ -20,16 +20,17 @@ enum Index : std::size_t { kChain, kOurs, kRival };
 /// The exported function itself: the catalogue's call goes through a function of its own that casts the
 /// pointers, which costs three cycles, a quarter of the shortest kernels' time. The rival has no such thing
 /// between.
-catalogue::Call exported(const catalogue::Kernel& kernel) {
+template <class Call>
+Call exported(const catalogue::Kernel& kernel) {
   void* const address = dlsym(RTLD_DEFAULT, kernel.name);
   if (address == nullptr) throw std::runtime_error(fmt::format("{}: not exported", kernel.name));
-  return reinterpret_cast<catalogue::Call>(address);
+  return reinterpret_cast<Call>(address);
 }
 
 class OwnKernel final : public Contestant {
  public:
   OwnKernel(const catalogue::Kernel& kernel, Arrays& arrays)
-      : call_(exported(kernel)), src_(arrays.src()), dst_(arrays.dst()) {}
+      : call_(exported<catalogue::Call>(kernel)), src_(arrays.src()), dst_(arrays.dst()) {}
 
   void run(int calls) override {
     for (int i = 0; i < calls; ++i) call_(src_, dst_, XFM_SCALE_NONE);
@@ -40,6 +41,30 @@ class OwnKernel final : public Contestant {
   const void* src_;
   void* dst_;
 };
+
+class OwnBufferedKernel final : public Contestant {
+ public:
+  OwnBufferedKernel(const catalogue::Kernel& kernel, Arrays& arrays)
+      : call_(exported<catalogue::BufferedCall>(kernel)),
+        src_(arrays.src()),
+        dst_(arrays.dst()),
+        buffer_(arrays.buffer()) {}
+
+  void run(int calls) override {
+    for (int i = 0; i < calls; ++i) call_(src_, dst_, XFM_SCALE_NONE, buffer_);
+  }
+
+ private:
+  catalogue::BufferedCall call_;
+  const void* src_;
+  void* dst_;
+  void* buffer_;
+};
+
+ContestantPtr own_kernel(const catalogue::Kernel& kernel, Arrays& arrays) {
+  if (kernel.call_with_buffer == nullptr) return std::make_unique<OwnKernel>(kernel, arrays);
+  return std::make_unique<OwnBufferedKernel>(kernel, arrays);
+}
 
 std::vector<double> output_of(Contestant& contestant, Arrays& arrays) {
   arrays.fill();
@@ -83,13 +108,19 @@ void Race::Lane::sample() { samples.push_back(time_batch(*contestant, calls)); }
 Race::Race(const catalogue::Kernel& kernel, Placement placement)
     : kernel_(&kernel), arrays_(kernel, placement) {
   auto rival = make_rival(kernel, arrays_);
-  auto ours = std::make_unique<OwnKernel>(kernel, arrays_);
+  auto ours = own_kernel(kernel, arrays_);
+  auto others = further_rivals(kernel, arrays_);
   if (rival) check_agreement(kernel, *ours, *rival, arrays_);
+  for (auto& other : others) check_agreement(kernel, *ours, *other.contestant, arrays_);
   arrays_.fill();
   if (placement.in_place || (rival && rival->destroys_input())) arrays_.clear();
   lanes_.emplace_back(std::make_unique<CycleChain>());
   lanes_.emplace_back(std::move(ours));
   if (rival) lanes_.emplace_back(std::move(rival));
+  for (auto& other : others) {
+    others_.push_back(other.name);
+    lanes_.emplace_back(std::move(other.contestant));
+  }
 }
 
 void Race::run(int rounds) {
@@ -104,9 +135,12 @@ void Race::run(int rounds) {
 
 Result Race::result() const {
   const double cycle = summarize(lanes_[kChain].samples).least / CycleChain::kCyclesPerCall;
-  Result result{
-      kernel_, cycle, limit_in_cycles(*kernel_), divided(summarize(lanes_[kOurs].samples), cycle), {}};
-  if (lanes_.size() > kRival) result.rival = divided(summarize(lanes_[kRival].samples), cycle);
+  const auto time = [&](std::size_t lane) { return divided(summarize(lanes_[lane].samples), cycle); };
+  Result result{kernel_, cycle, limit_in_cycles(*kernel_), time(kOurs), {}, {}};
+  const std::size_t first_other = lanes_.size() - others_.size();
+  if (first_other > kRival) result.rival = time(kRival);
+  for (std::size_t i = 0; i < others_.size(); ++i)
+    result.others.push_back({others_[i], time(first_other + i)});
   return result;
 }
 

@@ -8,6 +8,7 @@
 #pragma once
 
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "bench/arrays.h"
@@ -18,6 +19,12 @@
 
 namespace xfm::bench {
 
+/// A further rival's time.
+struct Other {
+  std::string name;
+  Summary time;
+};
+
 /// Core cycles a call. A cycle lasts as long as the fastest batch of the cycle chain says.
 struct Result {
   const catalogue::Kernel* kernel;
@@ -25,8 +32,10 @@ struct Result {
   double limit;
   Summary ours;
   std::optional<Summary> rival;
+  std::vector<Other> others;
 
   double ratio() const { return rival->least / ours.least; }
+  double ratio_to(const Other& other) const { return other.time.least / ours.least; }
   double ratio_of_medians() const { return rival->median / ours.median; }
 };
 
@@ -53,7 +62,8 @@ class Race {
 
   const catalogue::Kernel* kernel_;
   Arrays arrays_;
-  std::vector<Lane> lanes_;  // the cycle chain, the kernel, and its rival if there is one
+  std::vector<Lane> lanes_;          // the cycle chain, the kernel, its rival if there is one, further rivals
+  std::vector<std::string> others_;  // their names
 };
 
 }  // namespace xfm::bench

@@ -10,6 +10,12 @@ std::vector<double> Group::ratios() const {
   return all;
 }
 
+std::vector<double> Group::ratios_to_other(std::size_t i) const {
+  std::vector<double> all;
+  for (const Result& result : results) all.push_back(result.ratio_to(result.others[i]));
+  return all;
+}
+
 std::vector<double> Group::ratios_of_medians() const {
   std::vector<double> all;
   for (const Result& result : results) all.push_back(result.ratio_of_medians());

@@ -18,6 +18,8 @@ struct Group {
 
   bool has_rival() const { return results.front().rival.has_value(); }
   std::vector<double> ratios() const;
+  /// To further rival number i.
+  std::vector<double> ratios_to_other(std::size_t i) const;
   std::vector<double> ratios_of_medians() const;
   /// The lengths at which the rival is ahead, by least time.
   std::vector<int> lengths_behind() const;

@@ -5,6 +5,7 @@
 
 #include "bench/fftw.h"
 #include "bench/fftw_real.h"
+#include "bench/loop_nest.h"
 
 namespace xfm::bench {
 
@@ -36,6 +37,8 @@ constexpr std::array kRivals{
     Rival{"DFTInv_PackToR", "64f", fftw::inverse_real_dft<double, Layout::pack>},
     Rival{"DFTInv_PermToR", "32f", fftw::inverse_real_dft<float, Layout::perm>},
     Rival{"DFTInv_PermToR", "64f", fftw::inverse_real_dft<double, Layout::perm>},
+    Rival{"WHT", "32f", fftw::walsh_hadamard<float>},
+    Rival{"WHT", "64f", fftw::walsh_hadamard<double>},
 };
 
 }  // namespace
@@ -44,6 +47,18 @@ ContestantPtr make_rival(const catalogue::Kernel& kernel, Arrays& arrays) {
   for (const Rival& rival : kRivals)
     if (rival.family == kernel.family && rival.type == kernel.type) return rival.make(kernel.length, arrays);
   return nullptr;
+}
+
+// Loop nests have rows of their own, one for each compiler at hand.
+std::vector<NamedContestant> further_rivals(const catalogue::Kernel& kernel, Arrays& arrays) {
+  std::vector<NamedContestant> rivals;
+  if (std::string_view(kernel.family) != "WHT") return rivals;
+  const bool single = kernel.precision == catalogue::Precision::single;
+  for (const LoopNest& nest : loop_nests) {
+    rivals.push_back({nest.name, single ? contestant(nest.single, kernel.length, arrays)
+                                        : contestant(nest.twofold, kernel.length, arrays)});
+  }
+  return rivals;
 }
 
 std::string rival_version() { return fftw_version; }

@@ -38,4 +38,17 @@ struct Kernel {
   bool packed() const { return network->width() > 1; }
 };
 
+/// What the catalogue (tools/catalogue.h, which explains the fields) tells of a kernel.
+struct Row {
+  std::string name, family;
+  ElementType type;
+  Scaling scaling;
+  int length, points, read, written, exchanges;
+  bool packed, packed_math, straight;
+  std::string tree;
+  int adds, mults, add_instructions, mult_instructions;
+  bool takes_buffer = false;
+  int buffer_bytes = 0;
+};
+
 }  // namespace xfm::gen

@@ -50,7 +50,8 @@ TEST_P(Arithmetic, KeepsTheControlBits) {
 
 void Arithmetic::expect_flow(double poisonous, bool nan) {
   const auto reference = definition(kernel());
-  for (int in = 0; in < kernel().read; ++in) {
+  const int apart = kernel().read > 1000 ? 7 : 1;  // a prime: every lane, block and column has its turn
+  for (int in = 0; in < kernel().read; in += apart) {
     Array src = random_input();
     src.set(in, poisonous);
     const Array dst = separate(src, XFM_SCALE_BY_SQRT_N);
@@ -97,7 +98,7 @@ TEST_P(Arithmetic, SubnormalNumbersCount) {
   const std::vector<Wide> expected = transform(*reference, src, kernel().written);
   const Array dst = separate(src, XFM_SCALE_NONE);
   const double allowed =
-      relative_bound(kernel().precision) * magnitude(*reference, src) + kernel().length * least_subnormal();
+      relative_bound(kernel().precision) * magnitude(*reference, src) + kernel().points * least_subnormal();
   for (int out = 0; out < dst.count(); ++out) {
     const auto error = static_cast<double>(Wide{dst[out]} - expected[static_cast<std::size_t>(out)]);
     ASSERT_LE(std::abs(error), allowed) << "scalar " << out << " is " << dst[out];

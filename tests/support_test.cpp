@@ -145,7 +145,7 @@ TEST(Reference, Magnitude) {
 
 TEST(Reference, Factors) {
   catalogue::Kernel kernel = {};
-  kernel.length = 3;
+  kernel.points = 3;
   kernel.precision = Precision::single;
   kernel.scaling = catalogue::Scaling::forward;
   EXPECT_EQ(factor(kernel, XFM_SCALE_FWD_BY_N), double{0.33333334F});

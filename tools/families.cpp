@@ -3,6 +3,7 @@
 #include "src/dft/recipe/dft.h"
 #include "src/hartley/recipe/hartley.h"
 #include "src/real/recipe/real.h"
+#include "src/wht/recipe/rows.h"
 
 namespace xfm {
 namespace {
@@ -96,6 +97,41 @@ const char* const errors =
     R"(Errors, in the order of the tests: a generic function gives xfmStsBadSize for a length that is not served; then
 xfmStsNullPtr (src or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.)";
 
+const char* const walsh_hadamard_documentation =
+    R"(Walsh-Hadamard transform of N = 2^order real elements, order 1 to 13, in natural (Hadamard) order.
+
+    dst[k] = s * sum over j of (-1)^popcount(j AND k) * src[j],   j, k = 0 .. N-1
+
+Reads N elements of src, writes N elements of dst. The transform has no direction: it is its own inverse up to N,
+so the two flags of 1/N mean the same here. The number in a kernel's name is the order.
+
+| flag                  | factor s  |
+|-----------------------|-----------|
+| XFM_SCALE_FWD_BY_N    | 1/N       |
+| XFM_SCALE_INV_BY_N    | 1/N       |
+| XFM_SCALE_BY_SQRT_N   | 1/sqrt(N) |
+| XFM_SCALE_NONE        | 1         |
+
+The stages run in ascending order, additions and subtractions are those of the element type, and every output is
+multiplied by s as its last step, also by 1: the bits are those of a plain loop nest over strides 1, 2, 4, ...
+1/sqrt(N) is a stored constant: a power of two at even orders. At odd orders the one in binary32 is the nearest
+value, the one in binary64 the quotient of 1 by the rounded root of N, which lies one unit in the last place below.
+
+Both arrays may have any alignment; multiples of 16 are fastest, and the bits do not depend on it. src and dst may
+overlap in any way: all input is read before the first output is written, and dst is never read.
+
+buffer: orders 1 to 7 never look at it, whatever it is. From order 8 on it is work space of the bytes that
+xfmWHTGetBufferSize_TYPE tells, aligned to 16. What it holds before does not matter; afterwards it holds nothing of
+use. It belongs to one call at a time. A null buffer is served too, by one xfmMalloc and one xfmFree in every call;
+the bits are the same.
+Hazards: the call does not test whether xfmMalloc gave anything: a program whose memory is exhausted ends there. A
+buffer that is not a multiple of 16 ends the program as well. A buffer that is too small is written past its end.
+
+Errors, in the order of the tests: a generic function gives xfmStsBadSize for an order that is not served; then
+xfmStsNullPtr (src or dst is null), xfmStsBadScale (flag). A failed call writes nothing and allocates nothing.
+Re-entrant.
+Sources: Good 1958; Fino and Algazi 1976; for the cut into passes Johnson and Pueschel 2000.)";
+
 const char* map_of(real::Layout layout, real::Direction direction) {
   switch (layout) {
     case real::Layout::ccs:
@@ -175,6 +211,20 @@ Family hartley_family() {
           .make = hartley::make_kernel};
 }
 
+Family walsh_hadamard_family() {
+  return {.name = "WHT",
+          .types = {ElementType{Precision::single, false}, ElementType{Precision::twofold, false}},
+          .lengths = wht::orders(),
+          .lowest = wht::orders().front(),
+          .highest = wht::orders().back(),
+          .vocabulary = "",
+          .documentation = walsh_hadamard_documentation,
+          .make = nullptr,
+          .row = wht::row,
+          .argument = "order",
+          .takes_buffer = true};
+}
+
 }  // namespace
 
 const std::vector<Family>& families() {
@@ -188,6 +238,16 @@ const std::vector<Family>& families() {
       real_family(real::Direction::inverse, real::Layout::pack),
       real_family(real::Direction::inverse, real::Layout::perm),
       hartley_family(),
+      walsh_hadamard_family(),
+  };
+  return all;
+}
+
+const std::vector<std::string>& plain_functions() {
+  static const std::vector<std::string> all = {
+      "xfmGetLibVersion",
+      "xfmWHTGetBufferSize_32f",
+      "xfmWHTGetBufferSize_64f",
   };
   return all;
 }

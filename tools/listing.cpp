@@ -11,7 +11,7 @@ namespace xfm {
 namespace {
 
 using gen::ElementType;
-using gen::Kernel;
+using gen::Row;
 
 std::string kernel_name(const Family& family, int length, const ElementType& type) {
   return fmt::format("xfm{}_{}_{}", family.name, length, type.suffix());
@@ -32,19 +32,22 @@ std::string comment(const std::string& documentation) {
   return text + " */\n";
 }
 
-std::string arguments(const ElementType& type, const char* rest) {
-  return fmt::format("(const {0}* src, {0}* dst, {1})", type.name(), rest);
+// "(const xfm32f* src, xfm32f* dst, int32_t flag)", with the length in front of the flag for the generic
+// function.
+std::string parameters(const Family& family, const ElementType& type, bool generic) {
+  return fmt::format("(const {0}* src, {0}* dst, {1}int32_t flag{2})", type.name(),
+                     generic ? "int32_t " + family.argument + ", " : "",
+                     family.takes_buffer ? ", void* buffer" : "");
 }
 
 std::string declarations(const Family& family) {
   std::string text = fmt::format("/** @name {0}\n * xfm{0}_N_TYPE\n * @{{ */\n", family.name) +
                      comment(family.documentation);
   for (const ElementType& type : family.types) {
-    text += fmt::format("xfmStatus {}{};\n", family.generic(type),
-                        arguments(type, "int32_t length, int32_t flag"));
+    text += fmt::format("xfmStatus {}{};\n", family.generic(type), parameters(family, type, true));
     for (const int length : family.lengths) {
       text += fmt::format("xfmStatus {}{};\n", kernel_name(family, length, type),
-                          arguments(type, "int32_t flag"));
+                          parameters(family, type, false));
     }
   }
   return text + "/** @} */\n";
@@ -61,17 +64,21 @@ std::string scaling_name(gen::Scaling scaling) {
   }
 }
 
-std::string catalogue_row(const Kernel& kernel) {
-  const gen::Counts counts = count(*kernel.network);
-  const int exchanges = kernel.network->width() == 2 ? counts.exchanges : -1;
-  std::string row =
-      fmt::format(R"(    {{"{}", "{}", "{}", )", kernel.name, kernel.family, kernel.type.suffix());
-  row += kernel.type.precision == gen::Precision::single ? "Precision::single, " : "Precision::twofold, ";
-  row += fmt::format("{}, {}, {}, {}, {}, ", scaling_name(kernel.scaling), kernel.length, kernel.read,
-                     kernel.written, exchanges);
-  row +=
-      fmt::format("{0}, {0}, \"{1}\", {2}, {3}, ", kernel.packed(), kernel.tree, kernel.adds, kernel.mults);
-  return row + fmt::format("{}, {}, &call<{}>}},\n", counts.add_nodes, counts.mult_nodes, kernel.name);
+// The last two columns of a kernel or a generic function.
+std::string calls(const std::string& function, bool takes_buffer) {
+  return takes_buffer ? fmt::format("&call_with_null<{0}>, &call<{0}>", function)
+                      : fmt::format("&call<{}>, nullptr", function);
+}
+
+std::string catalogue_row(const Row& row) {
+  std::string text = fmt::format(R"(    {{"{}", "{}", "{}", )", row.name, row.family, row.type.suffix());
+  text += row.type.precision == gen::Precision::single ? "Precision::single, " : "Precision::twofold, ";
+  text += fmt::format("{}, {}, {}, {}, {}, {}, ", scaling_name(row.scaling), row.length, row.points, row.read,
+                      row.written, row.exchanges);
+  text += fmt::format("{}, {}, {}, \"{}\", ", row.packed, row.packed_math, row.straight, row.tree);
+  text += fmt::format("{}, {}, {}, {}, {}, ", row.adds, row.mults, row.add_instructions,
+                      row.mult_instructions, row.buffer_bytes);
+  return text + calls(row.name, row.takes_buffer) + "},\n";
 }
 
 }  // namespace
@@ -85,7 +92,8 @@ std::string public_header(const std::string& frame) {
 }
 
 std::string export_map() {
-  std::string text = "{\n  global:\n    xfmGetLibVersion;\n";
+  std::string text = "{\n  global:\n";
+  for (const std::string& name : plain_functions()) text += fmt::format("    {};\n", name);
   for_each_type([&](const Family& family, const ElementType& type) {
     text += fmt::format("    {};\n", family.generic(type));
     for (const int length : family.lengths)
@@ -100,23 +108,45 @@ std::string generic_functions() {
       "tested here.\n";
   text += "#include \"xfm.h\"\n\n";
   for_each_type([&](const Family& family, const ElementType& type) {
-    text += fmt::format("xfmStatus {}{} {{\n  switch (length) {{\n", family.generic(type),
-                        arguments(type, "int32_t length, int32_t flag"));
+    text += fmt::format("xfmStatus {}{} {{\n  switch ({}) {{\n", family.generic(type),
+                        parameters(family, type, true), family.argument);
     for (const int length : family.lengths) {
-      text +=
-          fmt::format("    case {}: return {}(src, dst, flag);\n", length, kernel_name(family, length, type));
+      text += fmt::format("    case {}: return {}(src, dst, flag{});\n", length,
+                          kernel_name(family, length, type), family.takes_buffer ? ", buffer" : "");
     }
     text += "    default: return xfmStsBadSize;\n  }\n}\n\n";
   });
   return text;
 }
 
-std::string catalogue(std::span<const Kernel> all) {
+Row row_of(const gen::Kernel& kernel) {
+  const gen::Counts counts = count(*kernel.network);
+  return {.name = kernel.name,
+          .family = kernel.family,
+          .type = kernel.type,
+          .scaling = kernel.scaling,
+          .length = kernel.length,
+          .points = kernel.length,
+          .read = kernel.read,
+          .written = kernel.written,
+          .exchanges = kernel.network->width() == 2 ? counts.exchanges : -1,
+          .packed = kernel.packed(),
+          .packed_math = kernel.packed(),
+          .straight = true,
+          .tree = kernel.tree,
+          .adds = kernel.adds,
+          .mults = kernel.mults,
+          .add_instructions = counts.add_nodes,
+          .mult_instructions = counts.mult_nodes};
+}
+
+std::string catalogue(std::span<const Row> all) {
   std::string kernels, generics;
-  for (const Kernel& kernel : all) kernels += catalogue_row(kernel);
+  for (const Row& row : all) kernels += catalogue_row(row);
   for_each_type([&](const Family& family, const ElementType& type) {
-    generics += fmt::format("    {{\"{0}\", \"{1}\", \"{2}\", {3}, {4}, &call_generic<{0}>}},\n",
-                            family.generic(type), family.name, type.suffix(), family.lowest, family.highest);
+    generics += fmt::format("    {{\"{}\", \"{}\", \"{}\", {}, {}, {}}},\n", family.generic(type),
+                            family.name, type.suffix(), family.lowest, family.highest,
+                            calls(family.generic(type), family.takes_buffer));
   });
   return R"(// Written by xfmgen from the list of families.
 #include "tools/catalogue.h"
@@ -124,26 +154,18 @@ std::string catalogue(std::span<const Kernel> all) {
 namespace xfm::catalogue {
 namespace {
 
-template <class T>
-using Fixed = xfmStatus (*)(const T*, T*, std::int32_t);
-template <class T>
-using Sized = xfmStatus (*)(const T*, T*, std::int32_t, std::int32_t);
-
-template <class T>
-xfmStatus run(Fixed<T> kernel, const void* src, void* dst, std::int32_t flag) {
-  return kernel(static_cast<const T*>(src), static_cast<T*>(dst), flag);
+// Elements go without their type, so that all kernels have one shape and all generic functions another.
+template <class T, class... Rest>
+xfmStatus run(xfmStatus (*function)(const T*, T*, Rest...), const void* src, void* dst, Rest... rest) {
+  return function(static_cast<const T*>(src), static_cast<T*>(dst), rest...);
 }
-template <class T>
-xfmStatus run(Sized<T> generic, const void* src, void* dst, std::int32_t length, std::int32_t flag) {
-  return generic(static_cast<const T*>(src), static_cast<T*>(dst), length, flag);
+template <auto function, class... Rest>
+xfmStatus call(const void* src, void* dst, Rest... rest) {
+  return run(function, src, dst, rest...);
 }
-template <auto kernel>
-xfmStatus call(const void* src, void* dst, std::int32_t flag) {
-  return run(kernel, src, dst, flag);
-}
-template <auto generic>
-xfmStatus call_generic(const void* src, void* dst, std::int32_t length, std::int32_t flag) {
-  return run(generic, src, dst, length, flag);
+template <auto function, class... Rest>
+xfmStatus call_with_null(const void* src, void* dst, Rest... rest) {
+  return run(function, src, dst, rest..., static_cast<void*>(nullptr));
 }
 
 constexpr Kernel all_kernels[] = {

@@ -17,7 +17,10 @@ std::string export_map();
 /// The generic functions: length to kernel.
 std::string generic_functions();
 
+/// The row of a generated kernel.
+gen::Row row_of(const gen::Kernel& kernel);
+
 /// The tables behind catalogue.h.
-std::string catalogue(std::span<const gen::Kernel> all);
+std::string catalogue(std::span<const gen::Row> all);
 
 }  // namespace xfm

@@ -24,18 +24,23 @@ void write_all(const std::filesystem::path& out) {
     xfm::gen::write_if_changed(out / name, text);
   };
   xfm::gen::SharedConstants shared;
-  std::vector<Kernel> all;
+  std::vector<xfm::gen::Row> rows;
   for (const Family& family : families()) {
     for (const int length : family.lengths) {
-      const std::size_t first = all.size();
-      for (const auto& type : family.types) all.push_back(family.make(length, type.precision, ""));
-      write(fmt::format("{}_{}.cpp", family.name, length),
-            xfm::gen::emit_file(std::span(all).subspan(first), family.vocabulary, shared));
+      std::vector<Kernel> kernels;
+      for (const auto& type : family.types) {
+        if (!family.by_hand()) kernels.push_back(family.make(length, type.precision, ""));
+        rows.push_back(family.by_hand() ? family.row(length, type.precision) : xfm::row_of(kernels.back()));
+      }
+      if (!family.by_hand()) {
+        write(fmt::format("{}_{}.cpp", family.name, length),
+              xfm::gen::emit_file(kernels, family.vocabulary, shared));
+      }
     }
   }
   write("constants.cpp", shared.definitions("src/dft/vectors.h"));
   write("generic.cpp", xfm::generic_functions());
-  write("catalogue.cpp", xfm::catalogue(all));
+  write("catalogue.cpp", xfm::catalogue(rows));
   write("xfm.map", xfm::export_map());
 }
 
@@ -54,7 +59,7 @@ int door(const std::filesystem::path& frame, const std::filesystem::path& header
 int show(const std::vector<std::string>& what, const std::string& tree) {
   for (const Family& family : families()) {
     for (const auto& type : family.types) {
-      if (family.name != what[0] || type.suffix() != what[2]) continue;
+      if (family.by_hand() || family.name != what[0] || type.suffix() != what[2]) continue;
       const Kernel kernel = family.make(std::stoi(what[1]), type.precision, tree);
       const xfm::gen::Counts counts = count(*kernel.network);
       fmt::print("{}\n  tree       {}\n  adds       {} (row {})\n  mults      {} (row {})\n", kernel.name,
@@ -70,13 +75,14 @@ int show(const std::vector<std::string>& what, const std::string& tree) {
       return 0;
     }
   }
-  std::cerr << "no such family or type: " << what[0] << " " << what[2] << "\n";
+  std::cerr << "no such generated family or type: " << what[0] << " " << what[2] << "\n";
   return 1;
 }
 
 void costs() {
   fmt::print("{:<32} {:>6} {:>6} {:>6} {:>6}  {}\n", "kernel", "adds", "row", "mults", "row", "tree");
   for (const Family& family : families()) {
+    if (family.by_hand()) continue;
     for (const auto& type : family.types) {
       for (const int length : family.lengths) {
         const Kernel kernel = family.make(length, type.precision, "");

@@ -73,7 +73,8 @@ class Tracer {
   }
 
   void depart(const Instruction& from, const std::string& how) {
-    body_.departures.push_back(how + ": " + from.text() + " in " + code_.function_at(from.address));
+    const std::string to = from.target ? code_.function_at(*from.target) : "";
+    body_.departures.push_back({to, how + ": " + from.text() + " in " + code_.function_at(from.address)});
   }
 
   /// What may run next, inside the body.

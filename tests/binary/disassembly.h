@@ -28,11 +28,17 @@ class Disassembly {
   std::map<std::uint64_t, std::string> names_;
 };
 
+/// A call or a jump to elsewhere, or what cannot be followed.
+struct Departure {
+  std::string to;  ///< the function, if it is known
+  std::string text;
+};
+
 /// All that can run between the entry of a function and its return, wherever the compiler has put it:
 /// seldom-run parts may stand away from the rest, under the name NAME.cold or the like.
 struct Body {
   std::vector<const Instruction*> instructions;
-  std::vector<std::string> departures;     ///< calls and jumps to elsewhere, and what cannot be followed
+  std::vector<Departure> departures;
   std::vector<std::string> late_branches;  ///< conditional jumps that come after arithmetic
   bool has_loop = false;
 };

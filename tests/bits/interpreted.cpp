@@ -1,4 +1,4 @@
-// Every compiled kernel equals its network, run by the interpreter, to the bit: so a kernel that fails here
+// Every generated kernel equals its network, run by the interpreter, to the bit: so a kernel that fails here
 // was written or compiled wrongly, and one that fails elsewhere has the wrong network.
 #include "gen/evaluate.h"
 #include "tests/bits/data.h"
@@ -46,7 +46,7 @@ TEST_P(Interpreted, EqualsTheKernel) {
   }
 }
 
-XFM_FOR_ALL_KERNELS(Interpreted);
+INSTANTIATE_TEST_SUITE_P(All, Interpreted, testing::ValuesIn(generated_kernels()), ByName());
 
 }  // namespace
 }  // namespace xfm::test

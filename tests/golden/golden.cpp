@@ -3,6 +3,7 @@
 
 #include <cstdlib>
 #include <map>
+#include <set>
 
 #include "gen/check.h"
 #include "tests/bits/generated.h"
@@ -15,6 +16,16 @@ namespace {
 const Row headings = {"kernel",   "tree",      "adds",  "mults",  "packed_adds", "packed_mults",
                       "shuffles", "exchanges", "loads", "stores", "digest"};
 
+/// What only a network tells stays open.
+Row row_by_hand(const catalogue::Kernel& kernel) {
+  Row row = {kernel.name, kernel.tree};
+  for (const int number : {kernel.adds, kernel.mults, kernel.add_instructions, kernel.mult_instructions})
+    row.push_back(std::to_string(number));
+  for (int open = 0; open < 4; ++open) row.emplace_back("-");
+  row.push_back(digest(kernel));
+  return row;
+}
+
 Row row(const catalogue::Kernel& kernel) {
   const gen::Counts counts = gen::count(*generated(kernel).network);
   Row row = {kernel.name, kernel.tree};
@@ -26,8 +37,11 @@ Row row(const catalogue::Kernel& kernel) {
 }
 
 TEST(Golden, KernelsAreAsRecorded) {
+  std::set<std::string> by_generator;
+  for (const catalogue::Kernel& kernel : generated_kernels()) by_generator.insert(kernel.name);
   Table built;
-  for (const catalogue::Kernel& kernel : catalogue::kernels()) built.push_back(row(kernel));
+  for (const catalogue::Kernel& kernel : catalogue::kernels())
+    built.push_back(by_generator.contains(kernel.name) ? row(kernel) : row_by_hand(kernel));
   if (std::getenv("XFM_GOLDEN_UPDATE") != nullptr) write_table(XFM_GOLDEN_TABLE, headings, built);
   const std::string changed = difference(read_table(XFM_GOLDEN_TABLE), built);
   EXPECT_TRUE(changed.empty()) << "Not as on record; if that is meant, build the target \"golden\":\n"

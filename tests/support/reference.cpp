@@ -3,6 +3,7 @@
 #include <mpfr.h>
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
 #include <stdexcept>
 #include <string_view>
@@ -120,6 +121,14 @@ class SpectrumToReal : public Definition {
   Circle circle_;
 };
 
+/// dst[k] = sum over j of (-1)^popcount(j AND k) * src[j].
+class Hadamard : public Definition {
+ public:
+  Wide entry(int out, int in) const override {
+    return std::popcount(static_cast<unsigned>(out & in)) % 2 == 0 ? 1 : -1;
+  }
+};
+
 /// 1/N, or 1/sqrt(N), by one correct rounding to binary32.
 double nearest_single(unsigned long n, bool root) {
   Multiple value(24);
@@ -160,6 +169,7 @@ std::unique_ptr<Definition> definition(const Kernel& kernel) {
   const std::string family = kernel.family;
   if (family == "DFTFwd_CToC") return std::make_unique<ComplexFourier>(kernel.length, -1);
   if (family == "DFTInv_CToC") return std::make_unique<ComplexFourier>(kernel.length, +1);
+  if (family == "WHT") return std::make_unique<Hadamard>();
   throw std::logic_error("tests/support/reference.cpp has no definition of " + family);
 }
 
@@ -204,8 +214,8 @@ double factor(const Kernel& kernel, std::int32_t flag) {
   const bool root = flag == XFM_SCALE_BY_SQRT_N;
   if (!root && !carries_by_n(kernel.scaling, flag)) return 1;
   if (kernel.precision == Precision::single)
-    return nearest_single(static_cast<unsigned long>(kernel.length), root);
-  const double n = kernel.length;
+    return nearest_single(static_cast<unsigned long>(kernel.points), root);
+  const double n = kernel.points;
   return 1.0 / (root ? std::sqrt(n) : n);
 }
 

@@ -43,7 +43,7 @@ double common_bound(const catalogue::Kernel& kernel);
 double matrix_bound(const catalogue::Kernel& kernel);
 
 /// The stored factor that a flag selects. In binary32 the exact value rounded once; in binary64 the quotient
-/// of 1.0 by the length or by its rounded root.
+/// of 1.0 by N or by its rounded root.
 double factor(const catalogue::Kernel& kernel, std::int32_t flag);
 
 constexpr std::int32_t flags[] = {XFM_SCALE_FWD_BY_N, XFM_SCALE_INV_BY_N, XFM_SCALE_BY_SQRT_N,

@@ -105,7 +105,7 @@ class ScheduleOf : public test::KernelTest {};
 
 TEST_P(ScheduleOf, AKernel) { expect_order(*test::generated(kernel()).network); }
 
-XFM_FOR_ALL_KERNELS(ScheduleOf);
+INSTANTIATE_TEST_SUITE_P(All, ScheduleOf, testing::ValuesIn(test::generated_kernels()), test::ByName());
 
 }  // namespace
 }  // namespace xfm::gen

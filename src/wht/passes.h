@@ -1,0 +1,63 @@
+// How an order is cut into passes: the one table of the family, and what follows from a row.
+#pragma once
+
+#include <cstdint>
+
+namespace xfm::wht {
+
+constexpr int lowest_order = 1, highest_order = 13;
+
+/// The block pass does the low stages, `block` adjacent elements at a time. A column pass does the next ones,
+/// between `middle` or `last` vectors as far apart as the passes before have come.
+struct Passes {
+  int block;       ///< elements
+  int middle = 1;  ///< radix; 1: there is no such pass
+  int last = 1;    ///< radix; 1: one block is all
+
+  constexpr int length() const { return block * middle * last; }
+  constexpr bool is_block() const { return last == 1; }
+  constexpr bool has_staging() const { return middle > 1; }
+  /// What the block pass and the middle pass work on at a time.
+  constexpr int super_block() const { return block * middle; }
+
+  // The work buffer, in elements: a copy of the vector, and behind it a super-block where there is staging.
+  constexpr int main_area() const { return is_block() ? 0 : length(); }
+  constexpr int staging_area() const { return has_staging() ? super_block() : 0; }
+  template <class T>
+  constexpr std::uint32_t buffer_bytes() const {
+    return static_cast<std::uint32_t>(main_area() + staging_area()) * static_cast<std::uint32_t>(sizeof(T));
+  }
+};
+
+// By order, from 1 on. The rows stand for themselves: no rule makes them.
+constexpr Passes passes_32f[] = {
+    {2},        {4},        {8},         {16},        {32},       {64},        {128},
+    {32, 1, 8}, {64, 1, 8}, {64, 1, 16}, {64, 1, 32}, {64, 8, 8}, {64, 8, 16},
+};
+constexpr Passes passes_64f[] = {
+    {2},        {4},         {8},         {16},       {32},        {64},        {128},
+    {32, 1, 8}, {32, 1, 16}, {128, 1, 8}, {32, 8, 8}, {32, 8, 16}, {128, 8, 8},
+};
+
+template <class T>
+constexpr const Passes& passes(int order) {
+  return (sizeof(T) == sizeof(float) ? passes_32f : passes_64f)[order - lowest_order];
+}
+
+/// Elements a register: vectors of 16 bytes, but blocks of less than four of them go element by element.
+template <class T>
+constexpr int lanes(int block) {
+  constexpr int width = 16 / sizeof(T);
+  return block < 4 * width ? 1 : width;
+}
+
+constexpr bool rows_make_their_orders() {
+  for (int order = lowest_order; order <= highest_order; ++order) {
+    if (passes<float>(order).length() != 1 << order || passes<double>(order).length() != 1 << order)
+      return false;
+  }
+  return true;
+}
+static_assert(rows_make_their_orders());
+
+}  // namespace xfm::wht

@@ -1,0 +1,83 @@
+// Butterfly stages as straight-line code. The order of the additions of every element is part of the family's
+// contract, since it fixes the rounding: ascending distance, the element at the lower index first. Which
+// element is served before which other one is not: one half of the registers is finished before the other is
+// loaded, and a result is handed on as soon as it is there, so that few values are alive at once.
+#pragma once
+
+#include <utility>
+
+#include "src/wht/vectors.h"
+
+namespace xfm::wht {
+
+/// step(0), step(1), ... one after the other, with constant indices.
+template <int count, class Step>
+XFM_INLINE inline void unrolled(Step step) {
+  [&]<int... i>(std::integer_sequence<int, i...>) XFM_INLINE {
+    (step(std::integral_constant<int, i>{}), ...);
+  }
+  (std::make_integer_sequence<int, count>{});
+}
+
+template <class V>
+XFM_INLINE inline void butterfly(V& a, V& b) {
+  const V sum = a + b;
+  b = a - b;
+  a = sum;
+}
+
+/// All stages of `count` registers, of which make(v, at) fills those from `at` on, `leaf` at a time, and does
+/// the stages within them.
+template <int count, int leaf, class V, class Make>
+XFM_INLINE inline void stages(V* v, Make make, int at = 0) {
+  if constexpr (count == leaf) {
+    make(v, at);
+  } else {
+    constexpr int half = count / 2;
+    stages<half, leaf>(v, make, at);
+    stages<half, leaf>(v + half, make, at + half);
+    unrolled<half>([&](auto i) XFM_INLINE { butterfly(v[i], v[i + half]); });
+  }
+}
+
+/// For registers that are filled already.
+inline constexpr auto filled = [](auto*, int) XFM_INLINE {};
+
+/// All stages of `count` registers, and take(i, register i) of every result.
+template <int count, int leaf, class V, class Make, class Take>
+XFM_INLINE inline void transform(Make make, Take take) {
+  V v[count];
+  if constexpr (count == leaf) {
+    make(v, 0);
+    unrolled<count>([&](auto i) XFM_INLINE { take(i, v[i]); });
+  } else {
+    constexpr int half = count / 2;
+    stages<half, leaf>(v, make);
+    stages<half, leaf>(v + half, make, half);
+    unrolled<half>([&](auto i) XFM_INLINE {
+      butterfly(v[i], v[i + half]);
+      take(i, v[i]);
+      take(i + half, v[i + half]);
+    });
+  }
+}
+
+/// All stages of a group of `count` registers of adjacent elements. The low ones are out of reach, for they
+/// combine lanes of one register: a transpose turns lanes into registers, and another one turns them back.
+template <int count, class V>
+XFM_INLINE inline void group_stages(V* v) {
+  constexpr int width = lanes_of<V>, sets = count / width;
+  V t[count];  // register i holds the elements i, i + count, i + 2 count, ...
+  unrolled<sets>([&](auto set) XFM_INLINE {
+    unrolled<width>([&](auto i) XFM_INLINE { t[set * width + i] = v[set + i * sets]; });
+    transpose(t + set * width);
+  });
+  stages<count, 1>(t, filled);
+  unrolled<sets>([&](auto set) XFM_INLINE {
+    transpose(t + set * width);
+    unrolled<width>([&](auto i) XFM_INLINE { v[set + i * sets] = t[set * width + i]; });
+  });
+  stages<count, sets>(v, filled);
+}
+
+}  // namespace xfm::wht
