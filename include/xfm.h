@@ -380,6 +380,84 @@ xfmStatus xfmDFTInv_CToC_63_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag)
 xfmStatus xfmDFTInv_CToC_64_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag);
 /** @} */
 
+/** @name DCT4
+ * xfmDCT4_TYPE
+ * @{ */
+/**
+ * A state of the DCT-IV in single precision: a plan, its tables and its work areas, in one block of memory. Opaque.
+ */
+typedef struct xfmDCT4State_32f xfmDCT4State_32f;
+/** The same in double precision. */
+typedef struct xfmDCT4State_64f xfmDCT4State_64f;
+
+/**
+ * Bytes that a state of this length takes, among them what aligning the block costs: a block of any address will do.
+ *
+ * Accepted lengths: N = 2^k with 1 <= k <= 26, in double precision k <= 25. That is the DCT-IV.
+ * Hazards: some more lengths pass and are NO DCT-IV of any length. They are kept as they are; do not use them.
+ * - N = 2^k + 1 with 5 <= k <= 26, in double precision 3 <= k <= 25. Such a state runs the plan of 2^k over a wrong map
+ *   of the indices, leaves elements of dst unwritten, and reads and writes src[N] and dst[N], one past the end.
+ * - N = 2^30 and 2^30 + 1, in double precision 2^29 and 2^29 + 1 too: the sum of bytes wraps around in 32 bits, and
+ *   the state would be written far beyond a block of the size told.
+ *
+ * Errors: xfmStsBadSize for every other length; size stays as it was. size is not tested for null. Re-entrant.
+ */
+xfmStatus xfmDCT4GetSize_32f(int32_t length, int32_t* size);
+xfmStatus xfmDCT4GetSize_64f(int32_t length, int32_t* size);
+
+/**
+ * Builds a state in memory of the caller: block has at least the bytes told by the size query, at any address.
+ *
+ * The state lies in the block and holds addresses: the block must not move, and ends the state when it is given up. A
+ * state needs no other end; the block may be used again, by another init too. What state receives is not the block's
+ * address. All cosines and sines are worked out here, none when the state runs.
+ * In the last 2 GiB of each 4 GiB of addresses (bit 31 set) a block that is no multiple of 32 wastes up to 31 bytes
+ * more, and a state of N = 2 .. 32 there may take up to 31 bytes more than told. Blocks aligned to 32 are free of this.
+ *
+ * Errors, in the order of the tests: xfmStsNullPtr (state or block is null), xfmStsBadSize (the length cannot be broken
+ * down); the pointer at state is then as it was. The size of the block is not tested. One thread a block.
+ */
+xfmStatus xfmDCT4Init_32f(xfmDCT4State_32f** state, int32_t length, void* block);
+xfmStatus xfmDCT4Init_64f(xfmDCT4State_64f** state, int32_t length, void* block);
+
+/**
+ * Builds a state in memory of xfmMalloc, which xfmDCT4Free releases.
+ *
+ * Errors, in the order of the tests: xfmStsNullPtr (state is null), xfmStsBadSize (the length is refused by the size
+ * query; nothing was allocated), xfmStsNullPtr (no memory). The pointer at state is then as it was. Any thread.
+ */
+xfmStatus xfmDCT4InitAlloc_32f(xfmDCT4State_32f** state, int32_t length);
+xfmStatus xfmDCT4InitAlloc_64f(xfmDCT4State_64f** state, int32_t length);
+
+/**
+ * The discrete cosine transform of type IV, of the length N of the state.
+ *
+ *     dst[k] = sum over j of src[j] * cos(pi/N * (j + 1/2) * (k + 1/2)),   j, k = 0 .. N-1
+ *
+ * Reads N real elements of src, writes N real elements of dst, in natural order, without a factor: the transform twice
+ * over gives the input times N/2. Any alignment; src == dst gives the same bits as separate arrays; other overlaps are
+ * not served. No allocation; nothing is carried over from run to run.
+ * A run of N > 32 overwrites the work areas in the state, so such a state serves one thread at a time; for threads at
+ * once make a state each. A state of N <= 32 is only read.
+ *
+ * Errors: xfmStsNullPtr (state, src or dst is null), xfmStsBadState (what state points to is no state). Nothing is
+ * written then.
+ * Sources: Britanak, Yip and Rao 2007; split radix: Duhamel and Hollmann 1984; lifting for N = 4: Daubechies and
+ * Sweldens 1998.
+ */
+xfmStatus xfmDCT4_32f(const xfm32f* src, xfm32f* dst, xfmDCT4State_32f* state);
+xfmStatus xfmDCT4_64f(const xfm64f* src, xfm64f* dst, xfmDCT4State_64f* state);
+
+/**
+ * Ends a state of xfmDCT4InitAlloc and releases its memory with xfmFree, or one that xfmDCT4Init built in memory of
+ * xfmMalloc. Not for a state in other memory: that one ends with its block. The state must not be running.
+ *
+ * Errors: xfmStsNullPtr (state is null).
+ */
+xfmStatus xfmDCT4Free_32f(xfmDCT4State_32f* state);
+xfmStatus xfmDCT4Free_64f(xfmDCT4State_64f* state);
+/** @} */
+
 #if defined(__GNUC__)
 #pragma GCC visibility pop
 #endif

@@ -65,4 +65,13 @@ const std::vector<Family>& families() {
   return all;
 }
 
+const std::vector<std::string>& plain_functions() {
+  static const std::vector<std::string> all = {
+      "xfmGetLibVersion",     "xfmDCT4GetSize_32f", "xfmDCT4Init_32f",    "xfmDCT4InitAlloc_32f",
+      "xfmDCT4_32f",          "xfmDCT4Free_32f",    "xfmDCT4GetSize_64f", "xfmDCT4Init_64f",
+      "xfmDCT4InitAlloc_64f", "xfmDCT4_64f",        "xfmDCT4Free_64f",
+  };
+  return all;
+}
+
 }  // namespace xfm

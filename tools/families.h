@@ -25,4 +25,7 @@ struct Family {
 
 const std::vector<Family>& families();
 
+/// The exported functions besides: they are declared in the header's hand-written frame.
+const std::vector<std::string>& plain_functions();
+
 }  // namespace xfm

@@ -85,7 +85,8 @@ std::string public_header(const std::string& frame) {
 }
 
 std::string export_map() {
-  std::string text = "{\n  global:\n    xfmGetLibVersion;\n";
+  std::string text = "{\n  global:\n";
+  for (const std::string& name : plain_functions()) text += fmt::format("    {};\n", name);
   for_each_type([&](const Family& family, const ElementType& type) {
     text += fmt::format("    {};\n", family.generic(type));
     for (const int length : family.lengths)

@@ -1,0 +1,111 @@
+// The combine: for each group of L classes the twist of every residue, the expansion, and the scatter to dst.
+#include "src/dct4/expansion.h"
+#include "src/dct4/stages.h"
+#include "src/dct4/twiddle.h"
+
+namespace xfm::dct4 {
+namespace {
+
+/// Where a residue stands in the order of the table.
+template <int r>
+constexpr int place_of(int t) {
+  int place = 0;
+  while (residue_order<r>.of[place] != t) ++place;
+  return place;
+}
+
+/// Real or imaginary parts of L classes: vectors across residues become vectors across classes, one for each
+/// residue.
+template <class T, int r>
+XFM_INLINE void load_turned(const T* classes, typename Packed<T>::Value* v) {
+  using P = Packed<T>;
+  constexpr int step = 2 * r;
+  if constexpr (r % P::lanes == 0) {
+    unrolled<r / P::lanes>([&](auto block) XFM_INLINE_LAMBDA {
+      constexpr int t = block * P::lanes;
+      unrolled<P::lanes>([&](auto q) XFM_INLINE_LAMBDA { v[t + q] = P::load(classes + q * step + t); });
+      P::transpose(v + t);
+    });
+  } else {
+    unrolled<r>([&](auto t) XFM_INLINE_LAMBDA { v[t] = P::gather(classes + t, step); });
+  }
+}
+
+/// W[t] of L classes: the spectrum under its twist.
+template <class T, int r>
+XFM_INLINE void load_twisted(const T* classes, const T* table, Complex<Packed<T>>* w) {
+  using P = Packed<T>;
+  typename P::Value re[r], im[r];
+  load_turned<T, r>(classes, re);
+  load_turned<T, r>(classes + r, im);
+  unrolled<r>([&](auto t) XFM_INLINE_LAMBDA {
+    constexpr int place = place_of<r>(t);
+    const T* const pair = table + 2 * P::lanes * place;
+    w[t] = Complex<P>{re[t], im[t]} * Complex<P>{P::load(pair), P::load(pair + P::lanes)};
+  });
+}
+
+/// The outputs of L classes q, which may stand at any address: Y(l) to m l + q, ascending with the class; for
+/// negative l as many steps of m down from 2 N - 1 - q, descending.
+template <class T, int r>
+struct Scatter {
+  T* ahead;   ///< of l = 0
+  T* behind;  ///< the lowest of l = -1
+  std::ptrdiff_t fold;
+
+  template <int l>
+  XFM_INLINE void put(typename Packed<T>::Value y) const {
+    using P = Packed<T>;
+    if constexpr (l >= 0)
+      P::store_any(ahead + l * fold, y);
+    else
+      P::store_any(behind - (l + 1) * fold, P::reversed(y));
+  }
+};
+
+template <class T, int r>
+xfmStatus run_groups(const CombineNode<T>& node, T* dst, const T* work) {
+  using P = Packed<T>;
+  const std::ptrdiff_t fold = node.fold;
+  const T* table = node.table;
+  T* ahead = dst;
+  // l = -1 is the last one, step 2 r - 1 from the front.
+  T* behind = dst + (node.mirror - (2 * r - 1) * fold - (P::lanes - 1));
+  for (std::int32_t group = 0; group < node.groups; ++group) {
+    Complex<P> w[r];
+    load_twisted<T, r>(work, table, w);
+    expand<P, r>(w, Scatter<T, r>{ahead, behind, fold});
+    work += P::lanes * 2 * r;
+    table += P::lanes * 2 * r;
+    ahead += P::lanes;
+    behind -= P::lanes;
+  }
+  return xfmStsOk;
+}
+
+}  // namespace
+
+template <class T>
+xfmStatus run_combine(const CombineNode<T>& node, T* dst, const T* work) {
+  switch (node.kind) {
+    case 1:
+      return run_groups<T, 1>(node, dst, work);
+    case 2:
+      return run_groups<T, 2>(node, dst, work);
+    case 3:
+      return run_groups<T, 4>(node, dst, work);
+    case 4:
+      return run_groups<T, 8>(node, dst, work);
+    case 5:
+      return run_groups<T, 16>(node, dst, work);
+    case 6:
+      return run_groups<T, 32>(node, dst, work);
+    default:
+      return xfmStsBadState;
+  }
+}
+
+template xfmStatus run_combine(const CombineNode<float>&, float*, const float*);
+template xfmStatus run_combine(const CombineNode<double>&, double*, const double*);
+
+}  // namespace xfm::dct4
