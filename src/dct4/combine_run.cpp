@@ -3,6 +3,9 @@
 #include "src/dct4/stages.h"
 #include "src/dct4/twiddle.h"
 
+#ifndef XFM_THRESH
+#define XFM_THRESH 512
+#endif
 namespace xfm::dct4 {
 namespace {
 
@@ -63,6 +66,17 @@ struct Scatter {
   }
 };
 
+/// Keeps the outputs of a group in a copy, a line for every l = -r .. r - 1.
+template <class T, int r>
+struct ToLines {
+  T* group;
+
+  template <int l>
+  XFM_INLINE void put(typename Packed<T>::Value y) const {
+    Packed<T>::store(group + (l + r) * line<T>, y);
+  }
+};
+
 template <class T, int r>
 xfmStatus run_groups(const CombineNode<T>& node, T* dst, const T* work) {
   using P = Packed<T>;
@@ -83,6 +97,30 @@ xfmStatus run_groups(const CombineNode<T>& node, T* dst, const T* work) {
   return xfmStsOk;
 }
 
+template <class T, int r>
+xfmStatus run_lines(const CombineNode<T>& node, T* dst, const T* work) {
+  using P = Packed<T>;
+  const std::ptrdiff_t fold = node.fold;
+  const T* table = node.table;
+  T* ahead = dst;
+  T* behind = dst + (node.mirror - (2 * r - 1) * fold - (line<T> - 1));
+  for (std::int32_t group = 0; group < node.groups; group += line_vectors) {
+    alignas(64) T lines[2 * r * line<T>];
+    for (int q = 0; q < line<T>; q += P::lanes) {
+      Complex<P> w[r];
+      load_twisted<T, r>(work, table, w);
+      expand<P, r>(w, ToLines<T, r>{lines + q});
+      work += P::lanes * 2 * r;
+      table += P::lanes * 2 * r;
+    }
+    for (int l = 0; l < r; ++l) copy_line_out<T>(lines + (r + l) * line<T>, ahead + l * fold);
+    for (int l = 0; l < r; ++l) copy_line_reversed_out<T>(lines + (r - 1 - l) * line<T>, behind + l * fold);
+    ahead += line<T>;
+    behind -= line<T>;
+  }
+  return xfmStsOk;
+}
+
 }  // namespace
 
 template <class T>
@@ -99,7 +137,9 @@ xfmStatus run_combine(const CombineNode<T>& node, T* dst, const T* work) {
     case 5:
       return run_groups<T, 16>(node, dst, work);
     case 6:
-      return run_groups<T, 32>(node, dst, work);
+      return node.groups % line_vectors == 0 && node.fold * sizeof(T) >= XFM_THRESH
+                 ? run_lines<T, 32>(node, dst, work)
+                 : run_groups<T, 32>(node, dst, work);
     default:
       return xfmStsBadState;
   }

@@ -1,27 +1,13 @@
 // The fold: for each batch of L residues the odd DFT of their samples, by a leaf or by a split.
+//
+// Samples and classes stand far apart: their distances are powers of two, and above N = 2048 so large that
+// most of them fall into a few sets of the cache. There four batches, whose vectors fill cache lines, go
+// together, and a leaf works on a copy: every line is read once and written once.
 #include "src/dct4/fold.h"
 #include "src/dct4/stages.h"
 
 namespace xfm::dct4 {
 namespace {
-
-/// Folds of one length that stand at equal distances: the batches of the outer fold, the sub-sequences of an
-/// inner one.
-template <class T>
-struct Series {
-  const T* src;
-  T* out;
-  Offsets at;
-  std::ptrdiff_t step;  ///< from a sample to the next
-  std::ptrdiff_t part;  ///< from a real part to its imaginary part in the output
-  std::int32_t count;
-  Offsets next;  ///< from a fold to the next
-};
-
-template <class T>
-Offsets operator+(Offsets a, Offsets b) {
-  return {a.forward + b.forward, a.backward + b.backward, a.output + b.output};
-}
 
 /// The samples of a batch, which may stand at any address. Those of negative n come in descending order.
 template <class T>
@@ -51,85 +37,116 @@ struct Spectrum {
 };
 
 template <class T, int m>
-void run_leaves(const Series<T>& series) {
-  Offsets at = series.at;
-  for (std::int32_t i = 0; i < series.count; ++i) {
-    // n = -1 is the last one, n = m - 1 from the front.
-    const std::ptrdiff_t last = at.forward + at.backward - (m - 1) * series.step;
-    const Samples<T> w{series.src + at.forward, series.src + (last - (Packed<T>::lanes - 1)), series.step};
-    fold<Packed<T>, m>(w, Spectrum<T>{series.out + at.output, series.part});
-    at.forward += series.next.forward;
-    at.backward += series.next.backward;
-    at.output += series.next.output;
+xfmStatus fold_batches(const FoldNode& node, T* work, const T* src) {
+  constexpr int l = Packed<T>::lanes;
+  // n = -1 is the last one, n = m - 1 from the front.
+  const T* behind = src + (node.mirror - (m - 1) * std::ptrdiff_t{node.step} - (l - 1));
+  for (std::int32_t batch = 0; batch < node.batches; ++batch) {
+    fold<Packed<T>, m>(Samples<T>{src, behind, node.step}, Spectrum<T>{work, node.part});
+    src += l;
+    behind -= l;
+    work += l;
   }
+  return xfmStsOk;
+}
+
+Offsets next_sequence(const OddFoldNode& node, Offsets at) {
+  return {at.forward + node.forward_step, at.backward - 2 * node.forward_step, at.output + node.output_step};
+}
+
+/// The copy that a leaf works on: a line for every sample n, those of negative n at n + m.
+template <class T, int m>
+struct SampleLines {
+  const T* batch;
+  XFM_INLINE auto operator()(int n) const { return Packed<T>::load(batch + (n >= 0 ? n : n + m) * line<T>); }
+};
+
+template <class T, int m>
+XFM_INLINE void copy_samples(const T* src, Offsets at, std::ptrdiff_t step, T* lines) {
+  const T* ahead = src + at.forward;
+  const T* behind = src + (at.forward + at.backward - m / 2 * step - (line<T> - 1));
+  for (int n = 0; n < m / 2; ++n, ahead += step) copy_line<T>(ahead, lines + n * line<T>);
+  for (int n = m / 2; n < m; ++n, behind -= step) copy_line_reversed<T>(behind, lines + n * line<T>);
+}
+
+/// Four batches of one sub-sequence.
+template <class T, int m>
+void fold_line(const OddFoldNode& node, T* work, const T* src, Offsets at) {
+  alignas(64) T samples[m * line<T>], classes[m * line<T>];
+  copy_samples<T, m>(src, at, node.step, samples);
+  for (int batch = 0; batch < line<T>; batch += Packed<T>::lanes)
+    fold<Packed<T>, m>(SampleLines<T, m>{samples + batch}, Spectrum<T>{classes + batch, line<T>});
+  T* out = work + at.output;
+  for (int i = 0; i < m; ++i, out += node.part) copy_line<T>(classes + i * line<T>, out);
+}
+
+template <class T, int m>
+xfmStatus fold_sequences(const OddFoldNode& node, T* work, const T* src, Offsets at) {
+  for (std::int32_t a = 0; a < node.sequences; ++a, at = next_sequence(node, at))
+    fold_line<T, m>(node, work, src, at);
+  return xfmStsOk;
 }
 
 template <class T>
-void run_splits(const Series<T>& series, const OddSplitNode<T>& node) {
-  Offsets at = series.at;
-  for (std::int32_t i = 0; i < series.count; ++i) {
-    run_odd_split(node, series.out, series.src, at);
-    at.forward += series.next.forward;
-    at.backward += series.next.backward;
-    at.output += series.next.output;
-  }
+xfmStatus split_sequences(const OddFoldNode& node, T* work, const T* src, Offsets at) {
+  const auto& split = *first_of<OddSplitNode<T>>(node.view);
+  for (std::int32_t a = 0; a < node.sequences; ++a, at = next_sequence(node, at))
+    run_odd_split(split, work, src, at);
+  return xfmStsOk;
 }
 
 template <class T>
-xfmStatus run_series(const Series<T>& series, std::int32_t kind, const PlanList* splits) {
-  switch (kind) {
-    case 1:
-      run_leaves<T, 2>(series);
-      return xfmStsOk;
-    case 2:
-      run_leaves<T, 4>(series);
-      return xfmStsOk;
-    case 3:
-      run_leaves<T, 8>(series);
-      return xfmStsOk;
-    case 4:
-      run_leaves<T, 16>(series);
-      return xfmStsOk;
-    case 5:
-      run_leaves<T, 32>(series);
-      return xfmStsOk;
-    case 6:
-      run_leaves<T, 64>(series);
-      return xfmStsOk;
-    case fold_kind_split:
-      run_splits(series, *first_of<OddSplitNode<T>>(splits));
-      return xfmStsOk;
-    default:
-      return xfmStsBadState;
-  }
+xfmStatus split_batches(const FoldNode& node, T* work, const T* src) {
+  const auto& split = *first_of<OddSplitNode<T>>(node.view);
+  for (std::ptrdiff_t t = 0; t < node.part; t += line<T>)
+    run_odd_split(split, work, src, {.forward = t, .backward = node.mirror - 2 * t, .output = t});
+  return xfmStsOk;
 }
 
 }  // namespace
 
 template <class T>
 xfmStatus run_fold(const FoldNode& node, T* work, const T* src) {
-  constexpr std::ptrdiff_t l = lanes<T>;
-  const Series<T> batches{.src = src,
-                          .out = work,
-                          .at = {0, node.mirror, 0},
-                          .step = node.step,
-                          .part = node.part,
-                          .count = node.batches,
-                          .next = {l, -2 * l, l}};
-  return run_series(batches, node.kind, node.view);
+  switch (node.kind) {
+    case 1:
+      return fold_batches<T, 2>(node, work, src);
+    case 2:
+      return fold_batches<T, 4>(node, work, src);
+    case 3:
+      return fold_batches<T, 8>(node, work, src);
+    case 4:
+      return fold_batches<T, 16>(node, work, src);
+    case 5:
+      return fold_batches<T, 32>(node, work, src);
+    case 6:
+      return fold_batches<T, 64>(node, work, src);
+    case fold_kind_split:
+      return split_batches(node, work, src);
+    default:
+      return xfmStsBadState;
+  }
 }
 
 template <class T>
 xfmStatus run_odd_fold(const OddFoldNode& node, T* work, const T* src, Offsets at) {
-  const Series<T> sequences{
-      .src = src,
-      .out = work,
-      .at = at,
-      .step = node.step,
-      .part = node.part,
-      .count = node.sequences,
-      .next = {node.forward_step, -2 * std::ptrdiff_t{node.forward_step}, node.output_step}};
-  return run_series(sequences, node.kind, node.view);
+  switch (node.kind) {
+    case 1:
+      return fold_sequences<T, 2>(node, work, src, at);
+    case 2:
+      return fold_sequences<T, 4>(node, work, src, at);
+    case 3:
+      return fold_sequences<T, 8>(node, work, src, at);
+    case 4:
+      return fold_sequences<T, 16>(node, work, src, at);
+    case 5:
+      return fold_sequences<T, 32>(node, work, src, at);
+    case 6:
+      return fold_sequences<T, 64>(node, work, src, at);
+    case fold_kind_split:
+      return split_sequences(node, work, src, at);
+    default:
+      return xfmStsBadState;
+  }
 }
 
 template <class T>
@@ -141,5 +158,9 @@ xfmStatus run_odd_split(const OddSplitNode<T>& node, T* out, const T* src, Offse
 
 template xfmStatus run_fold(const FoldNode&, float*, const float*);
 template xfmStatus run_fold(const FoldNode&, double*, const double*);
+#ifdef STAGES
+template xfmStatus run_odd_fold(const OddFoldNode&, float*, const float*, Offsets);
+template xfmStatus run_odd_fold(const OddFoldNode&, double*, const double*, Offsets);
+#endif
 
 }  // namespace xfm::dct4

@@ -60,7 +60,7 @@ XFM_INLINE void dft(Complex<A>* x) {
 }
 
 /// One class i in the work area, and where its outputs go: D(l) to the class m2 l + i, and conj(D(-l)) to the
-/// class m2 l - 1 - i.
+/// class m2 l - 1 - i. Everything of it is four vectors wide.
 template <class T>
 struct ClassPlace {
   using P = Packed<T>;
@@ -70,14 +70,14 @@ struct ClassPlace {
   T* behind;  ///< of class -1 - i
   std::ptrdiff_t fold_step, out_part;
 
-  XFM_INLINE Complex<P> load(int a) const {
-    const T* const at = in + a * sequence_step;
+  XFM_INLINE Complex<P> load(int a, int batch) const {
+    const T* const at = in + a * sequence_step + batch;
     return {P::load(at), P::load(at + in_part)};
   }
   /// D(l) of the radix r2, l = 0 .. r2 - 1; the upper half are the conjugates of D(l - r2).
-  template <int r2, int l>
-  XFM_INLINE void store(Complex<P> d) const {
-    T* const at = l < r2 / 2 ? ahead + l * fold_step : behind + (r2 - l) * fold_step;
+  template <int r2>
+  XFM_INLINE void store(int l, int batch, Complex<P> d) const {
+    T* const at = (l < r2 / 2 ? ahead + l * fold_step : behind + (r2 - l) * fold_step) + batch;
     P::store(at, d.re);
     P::store(at + out_part, d.im);
   }
@@ -93,31 +93,42 @@ XFM_INLINE Complex<Packed<T>> pair(const T* table, int index) {
 /// Radixes 2, 4 and 8: one butterfly.
 template <int r2, class T>
 XFM_INLINE void combine_once(const ClassPlace<T>& place, const T* near) {
-  Complex<Packed<T>> x[r2];
-  x[0] = place.load(0);
-  unrolled<r2 - 1>([&](auto b) XFM_INLINE_LAMBDA { x[b + 1] = place.load(b + 1) * pair(near, b); });
-  dft<r2, true>(x);
-  unrolled<r2>([&](auto l) XFM_INLINE_LAMBDA { place.template store<r2, l>(x[l]); });
+  for (int batch = 0; batch < line<T>; batch += Packed<T>::lanes) {
+    Complex<Packed<T>> x[r2];
+    x[0] = place.load(0, batch);
+    unrolled<r2 - 1>([&](auto b) XFM_INLINE_LAMBDA { x[b + 1] = place.load(b + 1, batch) * pair(near, b); });
+    dft<r2, true>(x);
+    unrolled<r2>([&](auto l) XFM_INLINE_LAMBDA { place.template store<r2>(l, batch, x[l]); });
+  }
 }
 
-/// Radixes 16 and 32: over a = 4 a1 + a0 first the sums over a1, then, for each j, those over a0.
+/// Radixes 16 and 32: over a = 4 a1 + a0 first the sums over a1, then, for each j, those over a0. All four
+/// batches of a line take each step together, while the line is at hand.
 template <int r2, class T>
 XFM_INLINE void combine_twice(const ClassPlace<T>& place, const T* near, const T* far) {
-  constexpr int outer = r2 / 4;
-  Complex<Packed<T>> y[4][outer];
-  unrolled<4>([&](auto a0) XFM_INLINE_LAMBDA {
-    y[a0][0] = place.load(a0);
-    unrolled<outer - 1>(
-        [&](auto a1) XFM_INLINE_LAMBDA { y[a0][a1 + 1] = place.load(4 * (a1 + 1) + a0) * pair(far, a1); });
-    dft<outer, false>(y[a0]);
-  });
-  unrolled<outer>([&](auto j) XFM_INLINE_LAMBDA {
-    Complex<Packed<T>> x[4];
-    x[0] = y[0][j];
-    unrolled<3>([&](auto b) XFM_INLINE_LAMBDA { x[b + 1] = y[b + 1][j] * pair(near, 3 * j + b); });
-    dft<4, true>(x);
-    unrolled<4>([&](auto l) XFM_INLINE_LAMBDA { place.template store<r2, j + outer * l>(x[l]); });
-  });
+  constexpr int outer = r2 / 4, lanes = Packed<T>::lanes;
+  Complex<Packed<T>> y[outer][line_vectors][4];
+  for (int a0 = 0; a0 < 4; ++a0) {
+    for (int batch = 0; batch < line_vectors; ++batch) {
+      Complex<Packed<T>> x[outer];
+      x[0] = place.load(a0, batch * lanes);
+      unrolled<outer - 1>([&](auto a1) XFM_INLINE_LAMBDA {
+        x[a1 + 1] = place.load(4 * (a1 + 1) + a0, batch * lanes) * pair(far, a1);
+      });
+      dft<outer, false>(x);
+      unrolled<outer>([&](auto j) XFM_INLINE_LAMBDA { y[j][batch][a0] = x[j]; });
+    }
+  }
+  for (int j = 0; j < outer; ++j) {
+    for (int batch = 0; batch < line_vectors; ++batch) {
+      Complex<Packed<T>> x[4];
+      x[0] = y[j][batch][0];
+      unrolled<3>([&](auto b) XFM_INLINE_LAMBDA { x[b + 1] = y[j][batch][b + 1] * pair(near, 3 * j + b); });
+      dft<4, true>(x);
+      unrolled<4>([&](auto l)
+                      XFM_INLINE_LAMBDA { place.template store<r2>(j + outer * l, batch * lanes, x[l]); });
+    }
+  }
 }
 
 template <int r2, class T>
