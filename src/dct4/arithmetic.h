@@ -72,42 +72,6 @@ struct Packed<double> {
   }
 };
 
-/// Vectors in a cache line.
-constexpr int line_vectors = 4;
-
-/// Elements in a cache line.
-template <class T>
-constexpr int line = line_vectors* Packed<T>::lanes;
-
-/// Copies a line from any address to an aligned one; in the same order, or the last element first.
-template <class T>
-XFM_INLINE void copy_line(const T* from, T* to) {
-  using P = Packed<T>;
-  unrolled<line_vectors>(
-      [&](auto i) XFM_INLINE_LAMBDA { P::store(to + i * P::lanes, P::load_any(from + i * P::lanes)); });
-}
-template <class T>
-XFM_INLINE void copy_line_reversed(const T* from, T* to) {
-  using P = Packed<T>;
-  unrolled<line_vectors>([&](auto i) XFM_INLINE_LAMBDA {
-    P::store(to + i * P::lanes, P::reversed(P::load_any(from + (line_vectors - 1 - i) * P::lanes)));
-  });
-}
-
-template <class T>
-XFM_INLINE void copy_line_out(const T* from, T* to) {
-  using P = Packed<T>;
-  unrolled<line_vectors>(
-      [&](auto i) XFM_INLINE_LAMBDA { P::store_any(to + i * P::lanes, P::load(from + i * P::lanes)); });
-}
-template <class T>
-XFM_INLINE void copy_line_reversed_out(const T* from, T* to) {
-  using P = Packed<T>;
-  unrolled<line_vectors>([&](auto i) XFM_INLINE_LAMBDA {
-    P::store_any(to + i * P::lanes, P::reversed(P::load(from + (line_vectors - 1 - i) * P::lanes)));
-  });
-}
-
 /// A complex number, or as many as there are lanes.
 template <class A>
 struct Complex {

@@ -1,11 +1,9 @@
 // The combine: for each group of L classes the twist of every residue, the expansion, and the scatter to dst.
 #include "src/dct4/expansion.h"
+#include "src/dct4/lines.h"
 #include "src/dct4/stages.h"
 #include "src/dct4/twiddle.h"
 
-#ifndef XFM_THRESH
-#define XFM_THRESH 512
-#endif
 namespace xfm::dct4 {
 namespace {
 
@@ -66,60 +64,64 @@ struct Scatter {
   }
 };
 
-/// Keeps the outputs of a group in a copy, a line for every l = -r .. r - 1.
+template <class T, int r>
+xfmStatus run_groups(const CombineNode<T>& node, T* dst, const T* work) {
+  constexpr int l = lanes<T>;
+  const T* table = node.table;
+  T* ahead = dst;
+  // l = -1 is the last one, step 2 r - 1 from the front.
+  T* behind = dst + (node.mirror - (2 * r - 1) * std::ptrdiff_t{node.fold} - (l - 1));
+  for (std::int32_t group = 0; group < node.groups; ++group) {
+    Complex<Packed<T>> w[r];
+    load_twisted<T, r>(work, table, w);
+    expand<Packed<T>, r>(w, Scatter<T, r>{ahead, behind, node.fold});
+    work += 2 * r * l;
+    table += 2 * r * l;
+    ahead += l;
+    behind -= l;
+  }
+  return xfmStsOk;
+}
+
+/// The outputs of a group in a copy, a line for every l = -r .. r - 1.
 template <class T, int r>
 struct ToLines {
   T* group;
 
   template <int l>
   XFM_INLINE void put(typename Packed<T>::Value y) const {
-    Packed<T>::store(group + (l + r) * line<T>, y);
+    Packed<T>::store(group + (r + l) * line<T>, y);
   }
 };
 
-template <class T, int r>
-xfmStatus run_groups(const CombineNode<T>& node, T* dst, const T* work) {
-  using P = Packed<T>;
-  const std::ptrdiff_t fold = node.fold;
-  const T* table = node.table;
-  T* ahead = dst;
-  // l = -1 is the last one, step 2 r - 1 from the front.
-  T* behind = dst + (node.mirror - (2 * r - 1) * fold - (P::lanes - 1));
-  for (std::int32_t group = 0; group < node.groups; ++group) {
-    Complex<P> w[r];
-    load_twisted<T, r>(work, table, w);
-    expand<P, r>(w, Scatter<T, r>{ahead, behind, fold});
-    work += P::lanes * 2 * r;
-    table += P::lanes * 2 * r;
-    ahead += P::lanes;
-    behind -= P::lanes;
-  }
-  return xfmStsOk;
-}
-
+/// Four groups at a time, for outputs that stand so far apart, by powers of two, that they fall into few sets
+/// of the cache: every line of dst is written once.
 template <class T, int r>
 xfmStatus run_lines(const CombineNode<T>& node, T* dst, const T* work) {
-  using P = Packed<T>;
   const std::ptrdiff_t fold = node.fold;
   const T* table = node.table;
   T* ahead = dst;
   T* behind = dst + (node.mirror - (2 * r - 1) * fold - (line<T> - 1));
-  for (std::int32_t group = 0; group < node.groups; group += line_vectors) {
+  for (std::int32_t group = 0; group < node.groups; group += line<T> / lanes<T>) {
     alignas(64) T lines[2 * r * line<T>];
-    for (int q = 0; q < line<T>; q += P::lanes) {
-      Complex<P> w[r];
+    for (int q = 0; q < line<T>; q += lanes<T>) {
+      Complex<Packed<T>> w[r];
       load_twisted<T, r>(work, table, w);
-      expand<P, r>(w, ToLines<T, r>{lines + q});
-      work += P::lanes * 2 * r;
-      table += P::lanes * 2 * r;
+      expand<Packed<T>, r>(w, ToLines<T, r>{lines + q});
+      work += 2 * r * lanes<T>;
+      table += 2 * r * lanes<T>;
     }
-    for (int l = 0; l < r; ++l) copy_line_out<T>(lines + (r + l) * line<T>, ahead + l * fold);
-    for (int l = 0; l < r; ++l) copy_line_reversed_out<T>(lines + (r - 1 - l) * line<T>, behind + l * fold);
+    for (int l = 0; l < r; ++l) store_line(lines + (r + l) * line<T>, ahead + l * fold);
+    for (int l = 0; l < r; ++l) store_line_reversed(lines + (r - 1 - l) * line<T>, behind + l * fold);
     ahead += line<T>;
     behind -= line<T>;
   }
   return xfmStsOk;
 }
+
+/// From this distance on, in bytes, outputs get into each other's way in the cache. Only the radix 32 goes so
+/// far.
+constexpr std::size_t far_apart = 2048;
 
 }  // namespace
 
@@ -137,9 +139,8 @@ xfmStatus run_combine(const CombineNode<T>& node, T* dst, const T* work) {
     case 5:
       return run_groups<T, 16>(node, dst, work);
     case 6:
-      return node.groups % line_vectors == 0 && node.fold * sizeof(T) >= XFM_THRESH
-                 ? run_lines<T, 32>(node, dst, work)
-                 : run_groups<T, 32>(node, dst, work);
+      return static_cast<std::size_t>(node.fold) * sizeof(T) < far_apart ? run_groups<T, 32>(node, dst, work)
+                                                                         : run_lines<T, 32>(node, dst, work);
     default:
       return xfmStsBadState;
   }

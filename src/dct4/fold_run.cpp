@@ -1,15 +1,27 @@
 // The fold: for each batch of L residues the odd DFT of their samples, by a leaf or by a split.
-//
-// Samples and classes stand far apart: their distances are powers of two, and above N = 2048 so large that
-// most of them fall into a few sets of the cache. There four batches, whose vectors fill cache lines, go
-// together, and a leaf works on a copy: every line is read once and written once.
 #include "src/dct4/fold.h"
+#include "src/dct4/lines.h"
 #include "src/dct4/stages.h"
 
 namespace xfm::dct4 {
 namespace {
 
-/// The samples of a batch, which may stand at any address. Those of negative n come in descending order.
+/// The classes of one batch.
+template <class T>
+struct ToSpectrum {
+  Spectrum<T> out;
+
+  template <int q>
+  XFM_INLINE void put(Complex<Packed<T>> z) const {
+    T* const at = out.start + 2 * q * out.part;
+    Packed<T>::store(at, z.re);
+    Packed<T>::store(at + out.part, z.im);
+  }
+};
+
+// ---- Leaves of the outer fold.
+
+/// The samples of one batch, at any address. Those of negative n come in descending order.
 template <class T>
 struct Samples {
   const T* ahead;   ///< of n = 0
@@ -22,27 +34,13 @@ struct Samples {
   }
 };
 
-/// The spectrum of a batch in a work area.
-template <class T>
-struct Spectrum {
-  T* out;
-  std::ptrdiff_t part;
-
-  template <int q>
-  XFM_INLINE void put(Complex<Packed<T>> z) const {
-    T* const at = out + 2 * q * part;
-    Packed<T>::store(at, z.re);
-    Packed<T>::store(at + part, z.im);
-  }
-};
-
 template <class T, int m>
 xfmStatus fold_batches(const FoldNode& node, T* work, const T* src) {
-  constexpr int l = Packed<T>::lanes;
+  constexpr int l = lanes<T>;
   // n = -1 is the last one, n = m - 1 from the front.
   const T* behind = src + (node.mirror - (m - 1) * std::ptrdiff_t{node.step} - (l - 1));
   for (std::int32_t batch = 0; batch < node.batches; ++batch) {
-    fold<Packed<T>, m>(Samples<T>{src, behind, node.step}, Spectrum<T>{work, node.part});
+    fold<Packed<T>, m>(Samples<T>{src, behind, node.step}, ToSpectrum<T>{{work, node.part}});
     src += l;
     behind -= l;
     work += l;
@@ -50,14 +48,14 @@ xfmStatus fold_batches(const FoldNode& node, T* work, const T* src) {
   return xfmStsOk;
 }
 
-Offsets next_sequence(const OddFoldNode& node, Offsets at) {
-  return {at.forward + node.forward_step, at.backward - 2 * node.forward_step, at.output + node.output_step};
-}
+// ---- Leaves of a split. Samples stand so far apart, by powers of two, that most of them fall into a few
+// sets of the cache: a leaf works on a copy, for which every line is read once.
 
-/// The copy that a leaf works on: a line for every sample n, those of negative n at n + m.
+/// A line for every sample n, those of negative n at n + m.
 template <class T, int m>
 struct SampleLines {
   const T* batch;
+
   XFM_INLINE auto operator()(int n) const { return Packed<T>::load(batch + (n >= 0 ? n : n + m) * line<T>); }
 };
 
@@ -65,33 +63,36 @@ template <class T, int m>
 XFM_INLINE void copy_samples(const T* src, Offsets at, std::ptrdiff_t step, T* lines) {
   const T* ahead = src + at.forward;
   const T* behind = src + (at.forward + at.backward - m / 2 * step - (line<T> - 1));
-  for (int n = 0; n < m / 2; ++n, ahead += step) copy_line<T>(ahead, lines + n * line<T>);
-  for (int n = m / 2; n < m; ++n, behind -= step) copy_line_reversed<T>(behind, lines + n * line<T>);
+  for (int n = 0; n < m / 2; ++n, ahead += step) load_line(ahead, lines + n * line<T>);
+  for (int n = m / 2; n < m; ++n, behind -= step) load_line_reversed(behind, lines + n * line<T>);
 }
 
-/// Four batches of one sub-sequence.
 template <class T, int m>
-void fold_line(const OddFoldNode& node, T* work, const T* src, Offsets at) {
-  alignas(64) T samples[m * line<T>], classes[m * line<T>];
-  copy_samples<T, m>(src, at, node.step, samples);
-  for (int batch = 0; batch < line<T>; batch += Packed<T>::lanes)
-    fold<Packed<T>, m>(SampleLines<T, m>{samples + batch}, Spectrum<T>{classes + batch, line<T>});
-  T* out = work + at.output;
-  for (int i = 0; i < m; ++i, out += node.part) copy_line<T>(classes + i * line<T>, out);
+void fold_lines(const T* src, Offsets at, std::ptrdiff_t step, T* out) {
+  alignas(64) T samples[m * line<T>];
+  copy_samples<T, m>(src, at, step, samples);
+  for (int batch = 0; batch < line<T>; batch += lanes<T>)
+    fold<Packed<T>, m>(SampleLines<T, m>{samples + batch}, ToSpectrum<T>{{out + batch, line<T>}});
+}
+
+Offsets next_sequence(const OddFoldNode& node, Offsets at) {
+  return {at.forward + node.forward_step, at.backward - 2 * std::ptrdiff_t{node.forward_step}};
 }
 
 template <class T, int m>
 xfmStatus fold_sequences(const OddFoldNode& node, T* work, const T* src, Offsets at) {
   for (std::int32_t a = 0; a < node.sequences; ++a, at = next_sequence(node, at))
-    fold_line<T, m>(node, work, src, at);
+    fold_lines<T, m>(src, at, node.step, sequence_spectrum(work, m, a).start);
   return xfmStsOk;
 }
+
+// ---- Splits.
 
 template <class T>
 xfmStatus split_sequences(const OddFoldNode& node, T* work, const T* src, Offsets at) {
   const auto& split = *first_of<OddSplitNode<T>>(node.view);
   for (std::int32_t a = 0; a < node.sequences; ++a, at = next_sequence(node, at))
-    run_odd_split(split, work, src, at);
+    run_odd_split(split, sequence_spectrum(work, node.fold, a), src, at);
   return xfmStsOk;
 }
 
@@ -99,7 +100,7 @@ template <class T>
 xfmStatus split_batches(const FoldNode& node, T* work, const T* src) {
   const auto& split = *first_of<OddSplitNode<T>>(node.view);
   for (std::ptrdiff_t t = 0; t < node.part; t += line<T>)
-    run_odd_split(split, work, src, {.forward = t, .backward = node.mirror - 2 * t, .output = t});
+    run_odd_split(split, {work + t, node.part}, src, {.forward = t, .backward = node.mirror - 2 * t});
   return xfmStsOk;
 }
 
@@ -150,17 +151,15 @@ xfmStatus run_odd_fold(const OddFoldNode& node, T* work, const T* src, Offsets a
 }
 
 template <class T>
-xfmStatus run_odd_split(const OddSplitNode<T>& node, T* out, const T* src, Offsets at) {
+xfmStatus run_odd_split(const OddSplitNode<T>& node, Spectrum<T> out, const T* src, Offsets at) {
   if (node.kind != kind_sound) return xfmStsBadState;
   run_odd_fold(*first_of<OddFoldNode>(node.fold_view), node.work, src, at);
-  return run_odd_combine(*first_of<OddCombineNode<T>>(node.combine_view), out, node.work, at.output);
+  return run_odd_combine(*first_of<OddCombineNode<T>>(node.combine_view), out, node.work);
 }
 
 template xfmStatus run_fold(const FoldNode&, float*, const float*);
 template xfmStatus run_fold(const FoldNode&, double*, const double*);
-#ifdef STAGES
 template xfmStatus run_odd_fold(const OddFoldNode&, float*, const float*, Offsets);
 template xfmStatus run_odd_fold(const OddFoldNode&, double*, const double*, Offsets);
-#endif
 
 }  // namespace xfm::dct4

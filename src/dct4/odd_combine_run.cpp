@@ -7,6 +7,9 @@
 namespace xfm::dct4 {
 namespace {
 
+/// Batches that fill a line.
+constexpr int batches = 4;
+
 /// a - b, or its conjugate.
 template <bool conjugated, class A>
 XFM_INLINE Complex<A> difference(Complex<A> a, Complex<A> b) {
@@ -60,7 +63,7 @@ XFM_INLINE void dft(Complex<A>* x) {
 }
 
 /// One class i in the work area, and where its outputs go: D(l) to the class m2 l + i, and conj(D(-l)) to the
-/// class m2 l - 1 - i. Everything of it is four vectors wide.
+/// class m2 l - 1 - i. All of it for the four batches of a line.
 template <class T>
 struct ClassPlace {
   using P = Packed<T>;
@@ -71,13 +74,13 @@ struct ClassPlace {
   std::ptrdiff_t fold_step, out_part;
 
   XFM_INLINE Complex<P> load(int a, int batch) const {
-    const T* const at = in + a * sequence_step + batch;
+    const T* const at = in + a * sequence_step + batch * P::lanes;
     return {P::load(at), P::load(at + in_part)};
   }
   /// D(l) of the radix r2, l = 0 .. r2 - 1; the upper half are the conjugates of D(l - r2).
   template <int r2>
   XFM_INLINE void store(int l, int batch, Complex<P> d) const {
-    T* const at = (l < r2 / 2 ? ahead + l * fold_step : behind + (r2 - l) * fold_step) + batch;
+    T* const at = (l < r2 / 2 ? ahead + l * fold_step : behind + (r2 - l) * fold_step) + batch * P::lanes;
     P::store(at, d.re);
     P::store(at + out_part, d.im);
   }
@@ -93,7 +96,7 @@ XFM_INLINE Complex<Packed<T>> pair(const T* table, int index) {
 /// Radixes 2, 4 and 8: one butterfly.
 template <int r2, class T>
 XFM_INLINE void combine_once(const ClassPlace<T>& place, const T* near) {
-  for (int batch = 0; batch < line<T>; batch += Packed<T>::lanes) {
+  for (int batch = 0; batch < batches; ++batch) {
     Complex<Packed<T>> x[r2];
     x[0] = place.load(0, batch);
     unrolled<r2 - 1>([&](auto b) XFM_INLINE_LAMBDA { x[b + 1] = place.load(b + 1, batch) * pair(near, b); });
@@ -102,58 +105,58 @@ XFM_INLINE void combine_once(const ClassPlace<T>& place, const T* near) {
   }
 }
 
-/// Radixes 16 and 32: over a = 4 a1 + a0 first the sums over a1, then, for each j, those over a0. All four
-/// batches of a line take each step together, while the line is at hand.
+/// Radixes 16 and 32: over a = 4 a1 + a0 first the sums over a1, then, for each j, those over a0. The batches
+/// take each step together, while their lines are at hand.
 template <int r2, class T>
 XFM_INLINE void combine_twice(const ClassPlace<T>& place, const T* near, const T* far) {
-  constexpr int outer = r2 / 4, lanes = Packed<T>::lanes;
-  Complex<Packed<T>> y[outer][line_vectors][4];
+  constexpr int outer = r2 / 4;
+  Complex<Packed<T>> y[outer][batches][4];
   for (int a0 = 0; a0 < 4; ++a0) {
-    for (int batch = 0; batch < line_vectors; ++batch) {
+    for (int batch = 0; batch < batches; ++batch) {
       Complex<Packed<T>> x[outer];
-      x[0] = place.load(a0, batch * lanes);
+      x[0] = place.load(a0, batch);
       unrolled<outer - 1>([&](auto a1) XFM_INLINE_LAMBDA {
-        x[a1 + 1] = place.load(4 * (a1 + 1) + a0, batch * lanes) * pair(far, a1);
+        x[a1 + 1] = place.load(4 * (a1 + 1) + a0, batch) * pair(far, a1);
       });
       dft<outer, false>(x);
       unrolled<outer>([&](auto j) XFM_INLINE_LAMBDA { y[j][batch][a0] = x[j]; });
     }
   }
   for (int j = 0; j < outer; ++j) {
-    for (int batch = 0; batch < line_vectors; ++batch) {
+    for (int batch = 0; batch < batches; ++batch) {
       Complex<Packed<T>> x[4];
       x[0] = y[j][batch][0];
       unrolled<3>([&](auto b) XFM_INLINE_LAMBDA { x[b + 1] = y[j][batch][b + 1] * pair(near, 3 * j + b); });
       dft<4, true>(x);
-      unrolled<4>([&](auto l)
-                      XFM_INLINE_LAMBDA { place.template store<r2>(j + outer * l, batch * lanes, x[l]); });
+      unrolled<4>([&](auto l) XFM_INLINE_LAMBDA { place.template store<r2>(j + outer * l, batch, x[l]); });
     }
   }
 }
 
 template <int r2, class T>
-xfmStatus run_classes(const OddCombineNode<T>& node, T* out, const T* work, std::ptrdiff_t offset) {
-  constexpr std::ptrdiff_t vectors = 2 * Packed<T>::lanes;  // elements of a pair
-  const std::ptrdiff_t out_step = 2 * std::ptrdiff_t{node.part};
-  ClassPlace<T> place{.in = work + offset,
-                      .sequence_step = node.sequence_step,
-                      .in_part = node.class_step / 2,
-                      .ahead = out + offset,
-                      .behind = out + offset - out_step,
-                      .fold_step = out_step * node.fold,
-                      .out_part = node.part};
+xfmStatus run_classes(const OddCombineNode<T>& node, Spectrum<T> out, T* work) {
+  constexpr std::ptrdiff_t pair_elements = 2 * lanes<T>;
+  const Spectrum<T> first = sequence_spectrum(work, node.fold, 0),
+                    second = sequence_spectrum(work, node.fold, 1);
+  ClassPlace<T> place{.in = first.start,
+                      .sequence_step = second.start - first.start,
+                      .in_part = first.part,
+                      .ahead = out.start,
+                      .behind = out.start - 2 * out.part,
+                      .fold_step = 2 * out.part * node.fold,
+                      .out_part = out.part};
   const T* near = node.table;
-  const T* far = near + vectors * near_pairs(r2) * node.classes;
+  const T* far = near + pair_elements * near_pairs(r2) * node.classes;
   for (std::int32_t i = 0; i < node.classes; ++i) {
     if constexpr (far_pairs(r2) == 0)
       combine_once<r2>(place, near);
     else
       combine_twice<r2>(place, near, far);
-    near += vectors * near_pairs(r2);
-    far += vectors * far_pairs(r2);
-    place.in += node.class_step;
-    place.ahead += out_step;
-    place.behind -= out_step;
+    near += pair_elements * near_pairs(r2);
+    far += pair_elements * far_pairs(r2);
+    place.in += 2 * first.part;
+    place.ahead += 2 * out.part;
+    place.behind -= 2 * out.part;
   }
   return xfmStsOk;
 }
@@ -161,24 +164,24 @@ xfmStatus run_classes(const OddCombineNode<T>& node, T* out, const T* work, std:
 }  // namespace
 
 template <class T>
-xfmStatus run_odd_combine(const OddCombineNode<T>& node, T* out, const T* work, std::ptrdiff_t offset) {
+xfmStatus run_odd_combine(const OddCombineNode<T>& node, Spectrum<T> out, T* work) {
   switch (node.kind) {
     case 1:
-      return run_classes<2>(node, out, work, offset);
+      return run_classes<2>(node, out, work);
     case 2:
-      return run_classes<4>(node, out, work, offset);
+      return run_classes<4>(node, out, work);
     case 3:
-      return run_classes<8>(node, out, work, offset);
+      return run_classes<8>(node, out, work);
     case 4:
-      return run_classes<16>(node, out, work, offset);
+      return run_classes<16>(node, out, work);
     case 5:
-      return run_classes<32>(node, out, work, offset);
+      return run_classes<32>(node, out, work);
     default:
       return xfmStsBadState;
   }
 }
 
-template xfmStatus run_odd_combine(const OddCombineNode<float>&, float*, const float*, std::ptrdiff_t);
-template xfmStatus run_odd_combine(const OddCombineNode<double>&, double*, const double*, std::ptrdiff_t);
+template xfmStatus run_odd_combine(const OddCombineNode<float>&, Spectrum<float>, float*);
+template xfmStatus run_odd_combine(const OddCombineNode<double>&, Spectrum<double>, double*);
 
 }  // namespace xfm::dct4
