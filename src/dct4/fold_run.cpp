@@ -161,5 +161,7 @@ template xfmStatus run_fold(const FoldNode&, float*, const float*);
 template xfmStatus run_fold(const FoldNode&, double*, const double*);
 template xfmStatus run_odd_fold(const OddFoldNode&, float*, const float*, Offsets);
 template xfmStatus run_odd_fold(const OddFoldNode&, double*, const double*, Offsets);
+template xfmStatus run_odd_split(const OddSplitNode<float>&, Spectrum<float>, const float*, Offsets);
+template xfmStatus run_odd_split(const OddSplitNode<double>&, Spectrum<double>, const double*, Offsets);
 
 }  // namespace xfm::dct4
