@@ -4,12 +4,12 @@
  * @brief xfm: short, very fast discrete transforms for x86-64.
  *
  * Plain functions, no planning, no state, no run-time tables: every length and precision of every family has a
- * straight-line kernel of its own. A family of kernels is written below with the letter N in place of the length; the
+ * straight-line kernel of its own. Only the DCT-IV, which goes up to 2^26, has a state that is made beforehand. A family of kernels is written below with the letter N in place of the length; the
  * name without a number is the family's generic function, which takes the length as an argument and accepts every
  * length that the family serves.
  *
  * Arrays are contiguous; the caller owns them, and no function keeps a pointer. All functions may be called from any
- * number of threads at once. NaN and infinity flow through the arithmetic; no function changes the floating-point
+ * number of threads at once, but a state of the DCT-IV serves one at a time. NaN and infinity flow through the arithmetic; no function changes the floating-point
  * control state. Results do not depend on alignment, and src == dst gives the same bits as separate arrays.
  */
 /* The declarations below are written by xfmgen from the list of families: build the target "door" to renew them. */
@@ -412,7 +412,7 @@ xfmStatus xfmDCT4GetSize_64f(int32_t length, int32_t* size);
  * state needs no other end; the block may be used again, by another init too. What state receives is not the block's
  * address. All cosines and sines are worked out here, none when the state runs.
  * In the last 2 GiB of each 4 GiB of addresses (bit 31 set) a block that is no multiple of 32 wastes up to 31 bytes
- * more, and a state of N = 2 .. 32 there may take up to 31 bytes more than told. Blocks aligned to 32 are free of this.
+ * more, and a state of N = 2 .. 32 there may take up to 23 bytes more than told. Blocks aligned to 32 are free of this.
  *
  * Errors, in the order of the tests: xfmStsNullPtr (state or block is null), xfmStsBadSize (the length cannot be broken
  * down); the pointer at state is then as it was. The size of the block is not tested. One thread a block.
