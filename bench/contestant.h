@@ -11,6 +11,8 @@ class Contestant {
  public:
   virtual ~Contestant() = default;
   virtual void run(int calls) = 0;
+  /// What the output is to be multiplied by to be the transform.
+  virtual double factor() const { return 1; }
 };
 
 using ContestantPtr = std::unique_ptr<Contestant>;

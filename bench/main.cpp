@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "bench/build.h"
+#include "bench/dct4.h"
 #include "bench/race.h"
 #include "bench/report.h"
 #include "bench/rivals.h"
@@ -49,11 +50,13 @@ void define(CLI::App& app, Options& options) {
 
 Kernels chosen(const std::vector<std::string>& only) {
   Kernels kernels;
-  for (const catalogue::Kernel& kernel : catalogue::kernels()) {
-    const auto matches = [&](const std::string& text) {
-      return std::string(kernel.name).find(text) != std::string::npos;
-    };
-    if (only.empty() || std::any_of(only.begin(), only.end(), matches)) kernels.push_back(&kernel);
+  for (const auto& rows : {catalogue::kernels(), dct4_kernels()}) {
+    for (const catalogue::Kernel& kernel : rows) {
+      const auto matches = [&](const std::string& text) {
+        return std::string(kernel.name).find(text) != std::string::npos;
+      };
+      if (only.empty() || std::any_of(only.begin(), only.end(), matches)) kernels.push_back(&kernel);
+    }
   }
   return kernels;
 }

@@ -3,6 +3,7 @@
 #include <array>
 #include <string_view>
 
+#include "bench/dct4.h"
 #include "bench/fftw.h"
 
 namespace xfm::bench {
@@ -21,6 +22,8 @@ constexpr std::array kRivals{
     Rival{"DFTFwd_CToC", "64fc", fftw::complex_dft<double, FFTW_FORWARD>},
     Rival{"DFTInv_CToC", "32fc", fftw::complex_dft<float, FFTW_BACKWARD>},
     Rival{"DFTInv_CToC", "64fc", fftw::complex_dft<double, FFTW_BACKWARD>},
+    Rival{"DCT4", "32f", fftw_dct4<float>},
+    Rival{"DCT4", "64f", fftw_dct4<double>},
 };
 
 }  // namespace
