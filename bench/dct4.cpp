@@ -100,7 +100,7 @@ class Twisted final : public Contestant {
       : length_(length),
         src_(static_cast<const Real*>(arrays.src())),
         dst_(static_cast<Real*>(arrays.dst())),
-        memory_(4 * static_cast<std::size_t>(length) + kLine) {
+        memory_(3 * count() + kLine) {
     void* start = memory_.data();
     std::size_t room = memory_.size() * sizeof(Real);
     twist_ = static_cast<Real*>(std::align(64, 3 * count() * sizeof(Real), start, room));

@@ -56,10 +56,14 @@ void Lapped::synthesise(std::vector<float>& coefficients, std::span<float> block
   const std::size_t n = window_.size(), half = n / 2;
   transform_(coefficients);
   for (std::size_t i = 0; i < half; ++i) {
-    const std::size_t mirror = n - 1 - i, inner = half - 1 - i, outer = half + i;
-    const float p = coefficients[i], q = coefficients[outer];
+    const std::size_t mirror = n - 1 - i;
+    const float q = coefficients[half + i];
     block[i] = tail_[i] + window_[i] * q;
     block[mirror] = tail_[mirror] - window_[mirror] * q;
+  }
+  for (std::size_t i = 0; i < half; ++i) {
+    const std::size_t inner = half - 1 - i, outer = half + i;
+    const float p = coefficients[i];
     tail_[inner] = -window_[outer] * p;
     tail_[outer] = -window_[inner] * p;
   }
