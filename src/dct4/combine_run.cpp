@@ -15,35 +15,67 @@ constexpr int place_of(int t) {
   return place;
 }
 
-/// Real or imaginary parts of L classes: vectors across residues become vectors across classes, one for each
-/// residue.
+/// Real or imaginary parts of L residues from t on: vectors across residues, one for each of L classes,
+/// become vectors across classes, one for each residue.
 template <class T, int r>
 XFM_INLINE void load_turned(const T* classes, typename Packed<T>::Value* v) {
   using P = Packed<T>;
-  constexpr int step = 2 * r;
-  if constexpr (r % P::lanes == 0) {
-    unrolled<r / P::lanes>([&](auto block) XFM_INLINE_LAMBDA {
-      constexpr int t = block * P::lanes;
-      unrolled<P::lanes>([&](auto q) XFM_INLINE_LAMBDA { v[t + q] = P::load(classes + q * step + t); });
-      P::transpose(v + t);
-    });
-  } else {
-    unrolled<r>([&](auto t) XFM_INLINE_LAMBDA { v[t] = P::gather(classes + t, step); });
-  }
+  unrolled<P::lanes>([&](auto q) XFM_INLINE_LAMBDA { v[q] = P::load(classes + q * 2 * r); });
+  P::transpose(v);
 }
 
-/// W[t] of L classes: the spectrum under its twist.
+/// The spectrum of L classes under its twist, and the part of the table that it needs.
 template <class T, int r>
-XFM_INLINE void load_twisted(const T* classes, const T* table, Complex<Packed<T>>* w) {
+struct Twisted {
   using P = Packed<T>;
-  typename P::Value re[r], im[r];
-  load_turned<T, r>(classes, re);
-  load_turned<T, r>(classes + r, im);
-  unrolled<r>([&](auto t) XFM_INLINE_LAMBDA {
+  static constexpr int width = P::lanes;
+  const T* classes;
+  const T* table;
+
+  template <int t>
+  XFM_INLINE Complex<P> twist(typename P::Value re, typename P::Value im) const {
     constexpr int place = place_of<r>(t);
     const T* const pair = table + 2 * P::lanes * place;
-    w[t] = Complex<P>{re[t], im[t]} * Complex<P>{P::load(pair), P::load(pair + P::lanes)};
-  });
+    return Complex<P>{re, im} * Complex<P>{P::load(pair), P::load(pair + P::lanes)};
+  }
+  /// W[t] .. W[t + L - 1], or the last of them first.
+  template <int t, bool descending>
+  XFM_INLINE void get_row(Complex<P>* w) const {
+    typename P::Value re[P::lanes], im[P::lanes];
+    load_turned<T, r>(classes + t, re);
+    load_turned<T, r>(classes + r + t, im);
+    unrolled<P::lanes>(
+        [&](auto j) XFM_INLINE_LAMBDA { w[descending ? P::lanes - 1 - j : j] = twist<t + j>(re[j], im[j]); });
+  }
+  template <int t>
+  XFM_INLINE void get(Quads<P, width>& quads) const {
+    get_row<t, false>(quads.front);
+    get_row<r - width - t, true>(quads.back);
+    get_row<r / 2 - width - t, true>(quads.low);
+    get_row<r / 2 + t, false>(quads.high);
+  }
+};
+
+/// Twist and expansion of one group.
+template <class T, int r, class Out>
+XFM_INLINE void expand_group(const Twisted<T, r>& source, const Out& out) {
+  using P = Packed<T>;
+  if constexpr (r % (4 * P::lanes) == 0) {
+    expand_quads<P, r>(source, out);
+  } else {
+    Complex<P> w[r];
+    if constexpr (r % P::lanes == 0) {
+      unrolled<r / P::lanes>([&](auto row) XFM_INLINE_LAMBDA {
+        source.template get_row<row * P::lanes, false>(w + row * P::lanes);
+      });
+    } else {
+      unrolled<r>([&](auto t) XFM_INLINE_LAMBDA {
+        w[t] = source.template twist<t>(P::gather(source.classes + t, 2 * r),
+                                        P::gather(source.classes + r + t, 2 * r));
+      });
+    }
+    expand<P, r>(w, out);
+  }
 }
 
 /// The outputs of L classes q, which may stand at any address: Y(l) to m l + q, ascending with the class; for
@@ -72,9 +104,7 @@ xfmStatus run_groups(const CombineNode<T>& node, T* dst, const T* work) {
   // l = -1 is the last one, step 2 r - 1 from the front.
   T* behind = dst + (node.mirror - (2 * r - 1) * std::ptrdiff_t{node.fold} - (l - 1));
   for (std::int32_t group = 0; group < node.groups; ++group) {
-    Complex<Packed<T>> w[r];
-    load_twisted<T, r>(work, table, w);
-    expand<Packed<T>, r>(w, Scatter<T, r>{ahead, behind, node.fold});
+    expand_group(Twisted<T, r>{work, table}, Scatter<T, r>{ahead, behind, node.fold});
     work += 2 * r * l;
     table += 2 * r * l;
     ahead += l;
@@ -105,9 +135,7 @@ xfmStatus run_lines(const CombineNode<T>& node, T* dst, const T* work) {
   for (std::int32_t group = 0; group < node.groups; group += line<T> / lanes<T>) {
     alignas(64) T lines[2 * r * line<T>];
     for (int q = 0; q < line<T>; q += lanes<T>) {
-      Complex<Packed<T>> w[r];
-      load_twisted<T, r>(work, table, w);
-      expand<Packed<T>, r>(w, ToLines<T, r>{lines + q});
+      expand_group(Twisted<T, r>{work, table}, ToLines<T, r>{lines + q});
       work += 2 * r * lanes<T>;
       table += 2 * r * lanes<T>;
     }
