@@ -6,46 +6,61 @@
 namespace xfm::dct4 {
 namespace {
 
-/// The classes of one batch.
-template <class T>
+/// The classes of one batch. A distance that is a constant, here and below, saves the arithmetic on
+/// addresses.
+template <class T, class Distance>
 struct ToSpectrum {
-  Spectrum<T> out;
+  T* start;
+  Distance part;
 
   template <int q>
   XFM_INLINE void put(Complex<Packed<T>> z) const {
-    T* const at = out.start + 2 * q * out.part;
+    T* const at = start + 2 * q * part;
     Packed<T>::store(at, z.re);
-    Packed<T>::store(at + out.part, z.im);
+    Packed<T>::store(at + part, z.im);
   }
 };
+
+template <std::ptrdiff_t value>
+using Constant = std::integral_constant<std::ptrdiff_t, value>;
 
 // ---- Leaves of the outer fold.
 
-/// The samples of one batch, at any address. Those of negative n come in descending order.
-template <class T>
+/// The samples of one batch, at any address, 2 r apart. Those of negative n come in descending order.
+template <class T, class Distance>
 struct Samples {
   const T* ahead;   ///< of n = 0
   const T* behind;  ///< the lowest of n = -1
-  std::ptrdiff_t step;
+  Distance r;
 
   XFM_INLINE auto operator()(std::ptrdiff_t n) const {
     using P = Packed<T>;
-    return n >= 0 ? P::load_any(ahead + n * step) : P::reversed(P::load_any(behind - (n + 1) * step));
+    return n >= 0 ? P::load_any(ahead + n * 2 * r) : P::reversed(P::load_any(behind - (n + 1) * 2 * r));
   }
 };
 
-template <class T, int m>
-xfmStatus fold_batches(const FoldNode& node, T* work, const T* src) {
+template <class T, int m, class Distance>
+xfmStatus fold_batches(const FoldNode& node, T* work, const T* src, Distance r) {
   constexpr int l = lanes<T>;
   // n = -1 is the last one, n = m - 1 from the front.
-  const T* behind = src + (node.mirror - (m - 1) * std::ptrdiff_t{node.step} - (l - 1));
+  const T* behind = src + (node.mirror - (m - 1) * 2 * r - (l - 1));
   for (std::int32_t batch = 0; batch < node.batches; ++batch) {
-    fold<Packed<T>, m>(Samples<T>{src, behind, node.step}, ToSpectrum<T>{{work, node.part}});
+    fold<Packed<T>, m>(Samples<T, Distance>{src, behind, r}, ToSpectrum<T, Distance>{work, r});
     src += l;
     behind -= l;
     work += l;
   }
   return xfmStsOk;
+}
+
+/// The radixes are those that powers of two come with at this m.
+template <class T, int m, int... radixes>
+xfmStatus fold_batches(const FoldNode& node, T* work, const T* src) {
+  xfmStatus status = xfmStsOk;
+  const bool known =
+      ((node.part == radixes && (status = fold_batches<T, m>(node, work, src, Constant<radixes>()), true)) ||
+       ...);
+  return known ? status : fold_batches<T, m>(node, work, src, std::ptrdiff_t{node.part});
 }
 
 // ---- Leaves of a split. Samples stand so far apart, by powers of two, that most of them fall into a few
@@ -72,7 +87,7 @@ void fold_lines(const T* src, Offsets at, std::ptrdiff_t step, T* out) {
   alignas(64) T samples[m * line<T>];
   copy_samples<T, m>(src, at, step, samples);
   for (int batch = 0; batch < line<T>; batch += lanes<T>)
-    fold<Packed<T>, m>(SampleLines<T, m>{samples + batch}, ToSpectrum<T>{{out + batch, line<T>}});
+    fold<Packed<T>, m>(SampleLines<T, m>{samples + batch}, ToSpectrum<T, Constant<line<T>>>{out + batch, {}});
 }
 
 Offsets next_sequence(const OddFoldNode& node, Offsets at) {
@@ -114,13 +129,13 @@ xfmStatus run_fold(const FoldNode& node, T* work, const T* src) {
     case 2:
       return fold_batches<T, 4>(node, work, src);
     case 3:
-      return fold_batches<T, 8>(node, work, src);
+      return fold_batches<T, 8, 8>(node, work, src);
     case 4:
-      return fold_batches<T, 16>(node, work, src);
+      return fold_batches<T, 16, 8, 16>(node, work, src);
     case 5:
-      return fold_batches<T, 32>(node, work, src);
+      return fold_batches<T, 32, 16, 32>(node, work, src);
     case 6:
-      return fold_batches<T, 64>(node, work, src);
+      return fold_batches<T, 64, 32>(node, work, src);
     case fold_kind_split:
       return split_batches(node, work, src);
     default:
