@@ -18,6 +18,8 @@ class Contestant {
   virtual void give_output() {}
   /// Whether a call overwrites src, so that the next one finds other data there.
   virtual bool destroys_input() const { return false; }
+  /// What the output is to be multiplied by to be the transform.
+  virtual double factor() const { return 1; }
 };
 
 using ContestantPtr = std::unique_ptr<Contestant>;

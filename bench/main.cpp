@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "bench/build.h"
+#include "bench/dct4.h"
 #include "bench/race.h"
 #include "bench/report.h"
 #include "bench/rivals.h"
@@ -55,14 +56,16 @@ bool runs_unasked(const catalogue::Kernel& kernel) {
 
 Kernels chosen(const Options& options) {
   Kernels kernels;
-  for (const catalogue::Kernel& kernel : catalogue::kernels()) {
-    const auto matches = [&](const std::string& text) {
-      return std::string(kernel.name).find(text) != std::string::npos;
-    };
-    const auto& only = options.only;
-    const bool wanted =
-        only.empty() ? options.list || runs_unasked(kernel) : std::any_of(only.begin(), only.end(), matches);
-    if (wanted) kernels.push_back(&kernel);
+  for (const auto& rows : {catalogue::kernels(), dct4_kernels()}) {
+    for (const catalogue::Kernel& kernel : rows) {
+      const auto matches = [&](const std::string& text) {
+        return std::string(kernel.name).find(text) != std::string::npos;
+      };
+      const auto& only = options.only;
+      const bool wanted = only.empty() ? options.list || runs_unasked(kernel)
+                                       : std::any_of(only.begin(), only.end(), matches);
+      if (wanted) kernels.push_back(&kernel);
+    }
   }
   return kernels;
 }

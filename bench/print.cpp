@@ -12,7 +12,7 @@ namespace {
 
 void print_row(const Result& result) {
   const auto& [kernel, cycle, limit, ours, rival, others] = result;
-  const std::string length = fmt::format("{:5}", kernel->length);
+  const std::string length = fmt::format("{:7}", kernel->length);
   const std::string own = fmt::format("{:8.1f} {:8.1f}", ours.least, ours.median);
   const std::string reach = fmt::format("{:8.1f} {:10.2f}", limit, ours.least / limit);
   if (!rival) {
@@ -26,7 +26,7 @@ void print_row(const Result& result) {
 
 void print_table(const Group& group) {
   fmt::print("\n{} {}\n", group.family, group.type);
-  fmt::print("{:>5} {:>9} {:>8}   {:>8} {:>8} {:>8} {:>8}   {:>8} {:>10}\n", "N", "ratio", "(median)", "ours",
+  fmt::print("{:>7} {:>9} {:>8}   {:>8} {:>8} {:>8} {:>8}   {:>8} {:>10}\n", "N", "ratio", "(median)", "ours",
              "(median)", "rival", "(median)", "limit", "ours/limit");
   for (const Result& result : group.results) print_row(result);
 }
@@ -53,7 +53,7 @@ void print_means(const Group& group) {
   const auto least = std::min_element(ratios.begin(), ratios.end());
   const int weakest = group.results[static_cast<std::size_t>(least - ratios.begin())].kernel->length;
   const auto behind = group.lengths_behind();
-  fmt::print("{:<14} {:<5} {:7} {:8.2f}x {:7.2f}x {:7.2f}x at {:<3}  {}\n", group.family, group.type,
+  fmt::print("{:<14} {:<5} {:7} {:8.2f}x {:7.2f}x {:7.2f}x at {:<7}  {}\n", group.family, group.type,
              ratios.size(), geometric_mean(ratios), geometric_mean(group.ratios_of_medians()), *least,
              weakest, behind.empty() ? "none" : fmt::format("{}", fmt::join(behind, " ")));
 }
@@ -67,7 +67,7 @@ void print_heading(const Conditions& conditions) {
   fmt::print("kernels    {}\n", build.kernel_flags);
   fmt::print("processor  {}\n", build.processor);
   fmt::print("rival      {}, patient plans\n", conditions.rival);
-  fmt::print("data       {}, {}, in the first-level cache; one transform a call\n",
+  fmt::print("data       {}, {}, in the first-level cache where they fit; one transform a call\n",
              conditions.placement.unaligned ? "unaligned" : "aligned",
              conditions.placement.in_place ? "in place" : "out of place");
   fmt::print("rounds     {}, interleaved; load of the machine at the start {:.2f}\n", conditions.rounds,

@@ -3,6 +3,7 @@
 #include <array>
 #include <string_view>
 
+#include "bench/dct4.h"
 #include "bench/fftw.h"
 #include "bench/fftw_real.h"
 #include "bench/loop_nest.h"
@@ -39,6 +40,8 @@ constexpr std::array kRivals{
     Rival{"DFTInv_PermToR", "64f", fftw::inverse_real_dft<double, Layout::perm>},
     Rival{"WHT", "32f", fftw::walsh_hadamard<float>},
     Rival{"WHT", "64f", fftw::walsh_hadamard<double>},
+    Rival{"DCT4", "32f", fftw_dct4<float>},
+    Rival{"DCT4", "64f", fftw_dct4<double>},
 };
 
 }  // namespace

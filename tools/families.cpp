@@ -200,15 +200,15 @@ Family real_family(real::Direction direction, real::Layout layout) {
 }
 
 Family hartley_family() {
-  return {.name = "Hartley",
-          .types = {ElementType{Precision::single, false}, ElementType{Precision::twofold, false}},
-          .lengths = hartley::lengths(),
-          .lowest = 2,
-          .highest = 64,
-          .vocabulary = "",
-          .documentation =
-              replaced(replaced(hartley_documentation, "@COMMON@", real_common), "@ERRORS@", errors),
-          .make = hartley::make_kernel};
+  return {
+      .name = "Hartley",
+      .types = {ElementType{Precision::single, false}, ElementType{Precision::twofold, false}},
+      .lengths = hartley::lengths(),
+      .lowest = 2,
+      .highest = 64,
+      .vocabulary = "",
+      .documentation = replaced(replaced(hartley_documentation, "@COMMON@", real_common), "@ERRORS@", errors),
+      .make = hartley::make_kernel};
 }
 
 Family walsh_hadamard_family() {
@@ -245,9 +245,11 @@ const std::vector<Family>& families() {
 
 const std::vector<std::string>& plain_functions() {
   static const std::vector<std::string> all = {
-      "xfmGetLibVersion",
-      "xfmWHTGetBufferSize_32f",
-      "xfmWHTGetBufferSize_64f",
+      "xfmGetLibVersion",   "xfmWHTGetBufferSize_32f", "xfmWHTGetBufferSize_64f",
+      "xfmDCT4GetSize_32f", "xfmDCT4Init_32f",         "xfmDCT4InitAlloc_32f",
+      "xfmDCT4_32f",        "xfmDCT4Free_32f",         "xfmDCT4GetSize_64f",
+      "xfmDCT4Init_64f",    "xfmDCT4InitAlloc_64f",    "xfmDCT4_64f",
+      "xfmDCT4Free_64f",
   };
   return all;
 }

@@ -78,6 +78,20 @@ TEST(Exports, HoldTheCatalogue) {
   for (const auto& generic : catalogue::generics()) EXPECT_TRUE(names.contains(generic.name)) << generic.name;
 }
 
+/// What the list of families comes to: the catalogue, and the functions that are no kernels.
+Names of_families() {
+  Names names = {"xfmGetLibVersion", "xfmWHTGetBufferSize_32f", "xfmWHTGetBufferSize_64f"};
+  for (const auto& kernel : catalogue::kernels()) names.insert(kernel.name);
+  for (const auto& generic : catalogue::generics()) names.insert(generic.name);
+  for (const std::string name : {"GetSize", "Init", "InitAlloc", "", "Free"})
+    for (const std::string type : {"_32f", "_64f"}) names.insert("xfmDCT4" + name + type);
+  return names;
+}
+
+TEST(Exports, AreThoseOfTheFamilies) { expect_same(exported(paths::library), of_families()); }
+
+TEST(Exports, AreAll) { EXPECT_EQ(exported(paths::library).size(), 1193U); }
+
 TEST(Exports, OfTheCoreLibrary) {
   expect_same(exported(paths::core_library), {"xfmMalloc", "xfmFree", "ownGetFeature"});
 }

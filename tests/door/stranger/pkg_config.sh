@@ -10,7 +10,8 @@ mkdir -p "$output"
 libraries() { # PACKAGE: what to link, and where the program finds it when it runs
   case $form in
     shared) echo "$(pkg-config --libs "$1") -Wl,-rpath,$(pkg-config --variable=libdir "$1")" ;;
-    static) echo "-Wl,-Bstatic $(pkg-config --static --libs "$1") -Wl,-Bdynamic" ;;
+    # The mathematics library goes with that of C, which stays shared.
+    static) echo "-Wl,-Bstatic $(pkg-config --static --libs "$1" | sed 's/-lm\>//') -Wl,-Bdynamic -lm" ;;
   esac
 }
 

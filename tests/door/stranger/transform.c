@@ -1,5 +1,5 @@
 /* A stranger's program, in the common part of C and C++: an impulse at place 1 must come out as one turn of
- * the unit circle, exp(-2 pi i k / 8). */
+ * the unit circle, exp(-2 pi i k / 8), and one at place 0 of a DCT-IV as cos(pi/64 (k + 1/2) / 2). */
 #include <stdio.h>
 #include <xfm.h>
 
@@ -7,6 +7,17 @@
 #define CLOSE 1e-6f
 
 static int near(xfm32f x, xfm32f y) { return x - y < CLOSE && y - x < CLOSE; }
+
+static int dct4_is_wrong(void) {
+  xfmDCT4State_32f* state;
+  xfm32f x[64] = {1};
+  xfmStatus status = xfmDCT4InitAlloc_32f(&state, 64);
+  if (status == xfmStsOk) status = xfmDCT4_32f(x, x, state);
+  if (status == xfmStsOk) status = xfmDCT4Free_32f(state);
+  if (status == xfmStsOk && near(x[0], 0.9999247f) && near(x[31], 0.7157308f)) return 0;
+  fprintf(stderr, "DCT-IV: status %d, %g, %g\n", (int)status, x[0], x[31]);
+  return 1;
+}
 
 int main(void) {
   static const xfm32fc turn[8] = {{1, 0},  {HALF_ROOT, -HALF_ROOT}, {0, -1}, {-HALF_ROOT, -HALF_ROOT},
@@ -30,5 +41,5 @@ int main(void) {
     fprintf(stderr, "this is %s\n", xfmGetLibVersion()->version);
     wrong = 1;
   }
-  return wrong;
+  return wrong || dct4_is_wrong();
 }

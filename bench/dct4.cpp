@@ -1,0 +1,213 @@
+#include "bench/dct4.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cmath>
+#include <deque>
+#include <numbers>
+#include <stdexcept>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "bench/fftw.h"
+
+namespace xfm::bench {
+
+namespace {
+
+using catalogue::Precision;
+
+constexpr int kLongest = 20;
+
+/// A patient plan of a long length takes minutes, so these are measured ones.
+unsigned effort(int length) { return length <= 1 << 14 ? FFTW_PATIENT : FFTW_MEASURE; }
+
+// ---- One set of names for the two precisions.
+
+template <class Real>
+struct Names;
+
+template <>
+struct Names<float> {
+  using State = xfmDCT4State_32f;
+  static constexpr auto init = xfmDCT4InitAlloc_32f;
+  static constexpr auto run = xfmDCT4_32f;
+  static constexpr auto free = xfmDCT4Free_32f;
+  static constexpr auto plan_r2r_1d = fftwf_plan_r2r_1d;
+  static constexpr auto execute_r2r = fftwf_execute_r2r;
+};
+
+template <>
+struct Names<double> {
+  using State = xfmDCT4State_64f;
+  static constexpr auto init = xfmDCT4InitAlloc_64f;
+  static constexpr auto run = xfmDCT4_64f;
+  static constexpr auto free = xfmDCT4Free_64f;
+  static constexpr auto plan_r2r_1d = fftw_plan_r2r_1d;
+  static constexpr auto execute_r2r = fftw_execute_r2r;
+};
+
+template <class Real>
+class Own final : public Contestant {
+ public:
+  Own(int length, Arrays& arrays)
+      : src_(static_cast<const Real*>(arrays.src())), dst_(static_cast<Real*>(arrays.dst())) {
+    if (Names<Real>::init(&state_, length) != xfmStsOk) throw std::runtime_error("no state of the DCT-IV");
+  }
+  Own(const Own&) = delete;
+  Own& operator=(const Own&) = delete;
+  ~Own() override { Names<Real>::free(state_); }
+
+  void run(int calls) override {
+    for (int i = 0; i < calls; ++i) Names<Real>::run(src_, dst_, state_);
+  }
+
+ private:
+  const Real* src_;
+  Real* dst_;
+  typename Names<Real>::State* state_ = nullptr;
+};
+
+template <class Real>
+class Redft11 final : public Contestant {
+ public:
+  Redft11(int length, Arrays& arrays)
+      : src_(static_cast<Real*>(arrays.src())),
+        dst_(static_cast<Real*>(arrays.dst())),
+        plan_(Names<Real>::plan_r2r_1d(length, src_, dst_, FFTW_REDFT11, effort(length))) {}
+  Redft11(const Redft11&) = delete;
+  Redft11& operator=(const Redft11&) = delete;
+  ~Redft11() override { fftw::Api<Real>::destroy(plan_); }
+
+  void run(int calls) override {
+    for (int i = 0; i < calls; ++i) Names<Real>::execute_r2r(plan_, src_, dst_);
+  }
+  double factor() const override { return 0.5; }
+
+ private:
+  Real* src_;
+  Real* dst_;
+  typename fftw::Api<Real>::Plan plan_;
+};
+
+/// With z[n] = (x[2n] + i x[N-1-2n]) w[n] and Z its Fourier transform, Z[k] w[k] = y[2k] - i y[N-1-2k].
+template <class Real>
+class Twisted final : public Contestant {
+ public:
+  Twisted(int length, bool in_place, Arrays& arrays)
+      : length_(length),
+        src_(static_cast<const Real*>(arrays.src())),
+        dst_(static_cast<Real*>(arrays.dst())),
+        memory_(3 * count() + kLine) {
+    void* start = memory_.data();
+    std::size_t room = memory_.size() * sizeof(Real);
+    twist_ = static_cast<Real*>(std::align(64, 3 * count() * sizeof(Real), start, room));
+    from_ = twist_ + count();
+    to_ = in_place ? from_ : from_ + count();
+    plan_ =
+        fftw::Api<Real>::plan_dft_1d(length / 2, complex(from_), complex(to_), FFTW_FORWARD, effort(length));
+    for (int n = 0; n < length / 2; ++n) {
+      const double angle = -std::numbers::pi * (8 * n + 1) / (8.0 * length);
+      twist_[2 * n] = static_cast<Real>(std::cos(angle));
+      twist_[2 * n + 1] = static_cast<Real>(std::sin(angle));
+    }
+  }
+  Twisted(const Twisted&) = delete;
+  Twisted& operator=(const Twisted&) = delete;
+  ~Twisted() override { fftw::Api<Real>::destroy(plan_); }
+
+  void run(int calls) override {
+    for (int i = 0; i < calls; ++i) transform(src_, dst_);
+  }
+
+ private:
+  static constexpr std::size_t kLine = 64 / sizeof(Real);
+  using Complex = typename fftw::Api<Real>::Complex;
+  static Complex* complex(Real* p) { return reinterpret_cast<Complex*>(p); }
+  std::size_t count() const { return (static_cast<std::size_t>(length_) + kLine - 1) / kLine * kLine; }
+
+  void transform(const Real* __restrict x, Real* __restrict y) const {
+    const int last = length_ - 1;
+    const Real* __restrict w = twist_;
+    for (int n = 0; n <= last; n += 2) {
+      const Real a = x[n], b = x[last - n];
+      from_[n] = a * w[n] - b * w[n + 1];
+      from_[n + 1] = a * w[n + 1] + b * w[n];
+    }
+    fftw::Api<Real>::execute_dft(plan_, complex(from_), complex(to_));
+    for (int k = 0; k <= last; k += 2) {
+      const Real a = to_[k], b = to_[k + 1];
+      y[k] = a * w[k] - b * w[k + 1];
+      y[last - k] = -a * w[k + 1] - b * w[k];
+    }
+  }
+
+  int length_;
+  const Real* src_;
+  Real* dst_;
+  std::vector<Real> memory_;
+  Real* twist_;
+  Real* from_;
+  Real* to_;
+  typename fftw::Api<Real>::Plan plan_;
+};
+
+catalogue::Kernel row(const std::string& name, Precision precision, int exponent) {
+  const int n = 1 << exponent;
+  return {.name = name.c_str(),
+          .family = "DCT4",
+          .type = precision == Precision::single ? "32f" : "64f",
+          .precision = precision,
+          .scaling = catalogue::Scaling::symmetric,
+          .length = n,
+          .read = n,
+          .written = n,
+          .exchanges = -1,
+          .packed = n > 32,
+          .packed_math = n > 32,
+          .tree = "",
+          .adds = 3 * n * exponent / 2,
+          .mults = n * exponent / 2,  // and one for every output, which the limit counts
+          .add_instructions = 0,
+          .mult_instructions = 0,
+          .call = nullptr};
+}
+
+}  // namespace
+
+std::span<const catalogue::Kernel> dct4_kernels() {
+  static std::deque<std::string> names;
+  static const std::vector<catalogue::Kernel> rows = [] {
+    std::vector<catalogue::Kernel> result;
+    for (const Precision precision : {Precision::single, Precision::twofold})
+      for (int exponent = 1; exponent <= kLongest; ++exponent) {
+        const char* const type = precision == Precision::single ? "32f" : "64f";
+        result.push_back(
+            row(names.emplace_back(fmt::format("xfmDCT4_{}_{}", 1 << exponent, type)), precision, exponent));
+      }
+    return result;
+  }();
+  return rows;
+}
+
+ContestantPtr make_dct4(const catalogue::Kernel& kernel, Arrays& arrays) {
+  if (kernel.precision == Precision::single) return std::make_unique<Own<float>>(kernel.length, arrays);
+  return std::make_unique<Own<double>>(kernel.length, arrays);
+}
+
+template <class Real>
+ContestantPtr fftw_dct4(int length, Arrays& arrays) {
+  std::vector<ContestantPtr> candidates;
+  candidates.push_back(
+      fftw::best_plan<Real>([&] { return std::make_unique<Redft11<Real>>(length, arrays); }));
+  for (const bool in_place : {false, true})
+    candidates.push_back(
+        fftw::best_plan<Real>([&] { return std::make_unique<Twisted<Real>>(length, in_place, arrays); }));
+  return fastest(std::move(candidates));
+}
+template ContestantPtr fftw_dct4<float>(int length, Arrays& arrays);
+template ContestantPtr fftw_dct4<double>(int length, Arrays& arrays);
+
+}  // namespace xfm::bench

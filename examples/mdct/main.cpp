@@ -1,0 +1,186 @@
+// A round trip of a sound through the MDCT: what a lossy codec does, without its bit stream.
+#include <cmath>
+#include <cstdio>
+#include <exception>
+#include <filesystem>
+#include <limits>
+#include <stdexcept>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include <fmt/format.h>
+#include <CLI/CLI.hpp>
+
+#include "../spectrogram/progress.h"
+#include "lapped.h"
+#include "sound.h"
+
+namespace {
+
+struct Options {
+  // A reader's voice, 8.2 s, of Debian's pocketsphinx-testdata.
+  std::string sound =
+      "/usr/share/pocketsphinx/test/data/librivox/sense_and_sensibility_01_austen_64kb-0870.wav";
+  std::string output = "mdct.wav";
+  int length = 1024;
+  double step = 0;
+};
+
+/// Rounds coefficients to multiples of a step, and keeps account of what a code for them would take.
+class Quantiser {
+ public:
+  explicit Quantiser(double step) : step_(static_cast<float>(step)) {}
+
+  std::vector<float> operator()(std::vector<float> coefficients) {
+    if (step_ == 0) return coefficients;
+    for (float& value : coefficients) {
+      const float level = std::nearbyint(value / step_);
+      ++levels_[level];
+      ++count_;
+      value = level * step_;
+    }
+    return coefficients;
+  }
+
+  /// Entropy of the levels, if each stood for itself.
+  double bits_a_sample() const {
+    double bits = 0;
+    for (const auto& [level, times] : levels_) {
+      const double share = static_cast<double>(times) / static_cast<double>(count_);
+      bits -= share * std::log2(share);
+    }
+    return bits;
+  }
+
+ private:
+  float step_;
+  std::unordered_map<float, long> levels_;
+  long count_ = 0;
+};
+
+/// Signal and noise, sample by sample.
+struct Powers {
+  double signal = 0, noise = 0;
+
+  void add(float original, float copy) {
+    const double x = original, error = static_cast<double>(copy) - x;
+    signal += x * x;
+    noise += error * error;
+  }
+  double ratio() const {
+    return noise == 0 ? std::numeric_limits<double>::infinity() : 10 * std::log10(signal / noise);
+  }
+};
+
+/// The blocks of all channels, interleaved as in the file.
+class RoundTrip {
+ public:
+  RoundTrip(Sound& from, Sound& to, Dct4& transform, double step)
+      : from_(from),
+        to_(to),
+        channels_(static_cast<std::size_t>(from.channels())),
+        length_(transform.length()),
+        quantise_(step),
+        lapped_(channels_, Lapped(transform)),
+        block_(length_ * channels_),
+        before_(block_.size()),
+        copy_(block_.size()),
+        one_(length_) {}
+
+  // What comes out is one block behind what goes in, so a block of silence follows the last one.
+  void run(Progress& progress) {
+    std::size_t before = from_.read(before_);
+    for (std::size_t c = 0; c < channels_; ++c) pass(before_, c);
+    for (double done = 0; before > 0;) {
+      const std::size_t got = from_.read(block_);
+      for (std::size_t c = 0; c < channels_; ++c) pass(block_, c);
+      const std::size_t samples = before * channels_;
+      for (std::size_t i = 0; i < samples; ++i) powers_.add(before_[i], copy_[i]);
+      to_.write(std::span(copy_).first(samples));
+      done += static_cast<double>(before) / from_.rate();
+      progress(done);
+      before_.swap(block_);
+      before = got;
+    }
+  }
+
+  const Powers& powers() const { return powers_; }
+  const Quantiser& quantiser() const { return quantise_; }
+
+ private:
+  void pass(const std::vector<float>& block, std::size_t channel) {
+    for (std::size_t i = 0; i < length_; ++i) one_[i] = block[i * channels_ + channel];
+    auto coefficients = quantise_(lapped_[channel].analyse(one_));
+    lapped_[channel].synthesise(coefficients, one_);
+    for (std::size_t i = 0; i < length_; ++i) copy_[i * channels_ + channel] = one_[i];
+  }
+
+  Sound& from_;
+  Sound& to_;
+  std::size_t channels_, length_;
+  Quantiser quantise_;
+  std::vector<Lapped> lapped_;
+  std::vector<float> block_, before_, copy_, one_;
+  Powers powers_;
+};
+
+/// Puts the file's name before whatever went wrong with it.
+template <typename Work>
+auto about(const std::string& file, Work work) {
+  try {
+    return work();
+  } catch (const std::exception& error) {
+    throw std::runtime_error(file + ": " + error.what());
+  }
+}
+
+void run(const Options& options) {
+  if (!(options.step >= 0)) throw std::runtime_error("a step is not negative");
+  Dct4 transform(options.length);
+  Sound from = about(options.sound, [&] { return Sound(options.sound); });
+  std::error_code nothing_there;
+  if (std::filesystem::equivalent(options.sound, options.output, nothing_there))
+    throw std::runtime_error(options.output + ": is the sound itself");
+  Sound to = about(options.output, [&] { return Sound(options.output, from.channels(), from.rate()); });
+  RoundTrip trip(from, to, transform, options.step);
+  Progress progress(from.seconds());
+  about(options.output, [&] { trip.run(progress); });
+  progress.finish();
+
+  fmt::print("sound    {}\n", options.sound);
+  fmt::print("         {} channel{}, {} Hz, {:.2f} s\n", from.channels(), from.channels() == 1 ? "" : "s",
+             from.rate(), from.seconds());
+  fmt::print("blocks   {} samples, {} coefficients each\n", options.length, options.length);
+  if (options.step > 0) {
+    const double bits = trip.quantiser().bits_a_sample();
+    fmt::print("step     {}: {:.3f} bits a sample, {:.1f} kbit/s by their entropy\n", options.step, bits,
+               bits * from.rate() * from.channels() / 1000);
+  } else {
+    fmt::print("step     none\n");
+  }
+  fmt::print("SNR      {:.2f} dB\n", trip.powers().ratio());
+  fmt::print("copy     {}\n", options.output);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  try {
+    Options options;
+    CLI::App app("Sends a sound through the MDCT and back, its coefficients rounded on the way.");
+    app.add_option("sound", options.sound, "WAV, FLAC, OGG or whatever libsndfile reads")
+        ->capture_default_str();
+    app.add_option("-o,--output", options.output, "WAV to write")->capture_default_str();
+    app.add_option("-n,--length", options.length, "coefficients in a block, a power of two")
+        ->capture_default_str();
+    app.add_option("-s,--step", options.step,
+                   "round coefficients to multiples of this; full scale is 1, 0 is not at all")
+        ->capture_default_str();
+    CLI11_PARSE(app, argc, argv);
+    run(options);
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "mdct: %s\n", error.what());
+    return 1;
+  }
+}

@@ -1,0 +1,182 @@
+// The fold: for each batch of L residues the odd DFT of their samples, by a leaf or by a split.
+#include "src/dct4/fold.h"
+#include "src/dct4/lines.h"
+#include "src/dct4/stages.h"
+
+namespace xfm::dct4 {
+namespace {
+
+/// The classes of one batch. A distance that is a constant, here and below, saves the arithmetic on
+/// addresses.
+template <class T, class Distance>
+struct ToSpectrum {
+  T* start;
+  Distance part;
+
+  template <int q>
+  XFM_INLINE void put(Complex<Packed<T>> z) const {
+    T* const at = start + 2 * q * part;
+    Packed<T>::store(at, z.re);
+    Packed<T>::store(at + part, z.im);
+  }
+};
+
+template <std::ptrdiff_t value>
+using Constant = std::integral_constant<std::ptrdiff_t, value>;
+
+// ---- Leaves of the outer fold.
+
+/// The samples of one batch, at any address, 2 r apart. Those of negative n come in descending order.
+template <class T, class Distance>
+struct Samples {
+  const T* ahead;   ///< of n = 0
+  const T* behind;  ///< the lowest of n = -1
+  Distance r;
+
+  XFM_INLINE auto operator()(std::ptrdiff_t n) const {
+    using P = Packed<T>;
+    return n >= 0 ? P::load_any(ahead + n * 2 * r) : P::reversed(P::load_any(behind - (n + 1) * 2 * r));
+  }
+};
+
+template <class T, int m, class Distance>
+xfmStatus fold_batches(const FoldNode& node, T* work, const T* src, Distance r) {
+  constexpr int l = lanes<T>;
+  // n = -1 is the last one, n = m - 1 from the front.
+  const T* behind = src + (node.mirror - (m - 1) * 2 * r - (l - 1));
+  for (std::int32_t batch = 0; batch < node.batches; ++batch) {
+    fold<Packed<T>, m>(Samples<T, Distance>{src, behind, r}, ToSpectrum<T, Distance>{work, r});
+    src += l;
+    behind -= l;
+    work += l;
+  }
+  return xfmStsOk;
+}
+
+/// The radixes are those that powers of two come with at this m.
+template <class T, int m, int... radixes>
+xfmStatus fold_batches(const FoldNode& node, T* work, const T* src) {
+  xfmStatus status = xfmStsOk;
+  const bool known =
+      ((node.part == radixes && (status = fold_batches<T, m>(node, work, src, Constant<radixes>()), true)) ||
+       ...);
+  return known ? status : fold_batches<T, m>(node, work, src, std::ptrdiff_t{node.part});
+}
+
+// ---- Leaves of a split. Samples stand so far apart, by powers of two, that most of them fall into a few
+// sets of the cache: a leaf works on a copy, for which every line is read once.
+
+/// A line for every sample n, those of negative n at n + m.
+template <class T, int m>
+struct SampleLines {
+  const T* batch;
+
+  XFM_INLINE auto operator()(int n) const { return Packed<T>::load(batch + (n >= 0 ? n : n + m) * line<T>); }
+};
+
+template <class T, int m>
+XFM_INLINE void copy_samples(const T* src, Offsets at, std::ptrdiff_t step, T* lines) {
+  const T* ahead = src + at.forward;
+  const T* behind = src + (at.forward + at.backward - m / 2 * step - (line<T> - 1));
+  for (int n = 0; n < m / 2; ++n, ahead += step) load_line(ahead, lines + n * line<T>);
+  for (int n = m / 2; n < m; ++n, behind -= step) load_line_reversed(behind, lines + n * line<T>);
+}
+
+template <class T, int m>
+void fold_lines(const T* src, Offsets at, std::ptrdiff_t step, T* out) {
+  alignas(64) T samples[m * line<T>];
+  copy_samples<T, m>(src, at, step, samples);
+  for (int batch = 0; batch < line<T>; batch += lanes<T>)
+    fold<Packed<T>, m>(SampleLines<T, m>{samples + batch}, ToSpectrum<T, Constant<line<T>>>{out + batch, {}});
+}
+
+Offsets next_sequence(const OddFoldNode& node, Offsets at) {
+  return {at.forward + node.forward_step, at.backward - 2 * std::ptrdiff_t{node.forward_step}};
+}
+
+template <class T, int m>
+xfmStatus fold_sequences(const OddFoldNode& node, T* work, const T* src, Offsets at) {
+  for (std::int32_t a = 0; a < node.sequences; ++a, at = next_sequence(node, at))
+    fold_lines<T, m>(src, at, node.step, sequence_spectrum(work, m, a).start);
+  return xfmStsOk;
+}
+
+// ---- Splits.
+
+template <class T>
+xfmStatus split_sequences(const OddFoldNode& node, T* work, const T* src, Offsets at) {
+  const auto& split = *first_of<OddSplitNode<T>>(node.view);
+  for (std::int32_t a = 0; a < node.sequences; ++a, at = next_sequence(node, at))
+    run_odd_split(split, sequence_spectrum(work, node.fold, a), src, at);
+  return xfmStsOk;
+}
+
+template <class T>
+xfmStatus split_batches(const FoldNode& node, T* work, const T* src) {
+  const auto& split = *first_of<OddSplitNode<T>>(node.view);
+  for (std::ptrdiff_t t = 0; t < node.part; t += line<T>)
+    run_odd_split(split, {work + t, node.part}, src, {.forward = t, .backward = node.mirror - 2 * t});
+  return xfmStsOk;
+}
+
+}  // namespace
+
+template <class T>
+xfmStatus run_fold(const FoldNode& node, T* work, const T* src) {
+  switch (node.kind) {
+    case 1:
+      return fold_batches<T, 2>(node, work, src);
+    case 2:
+      return fold_batches<T, 4>(node, work, src);
+    case 3:
+      return fold_batches<T, 8, 8>(node, work, src);
+    case 4:
+      return fold_batches<T, 16, 8, 16>(node, work, src);
+    case 5:
+      return fold_batches<T, 32, 16, 32>(node, work, src);
+    case 6:
+      return fold_batches<T, 64, 32>(node, work, src);
+    case fold_kind_split:
+      return split_batches(node, work, src);
+    default:
+      return xfmStsBadState;
+  }
+}
+
+template <class T>
+xfmStatus run_odd_fold(const OddFoldNode& node, T* work, const T* src, Offsets at) {
+  switch (node.kind) {
+    case 1:
+      return fold_sequences<T, 2>(node, work, src, at);
+    case 2:
+      return fold_sequences<T, 4>(node, work, src, at);
+    case 3:
+      return fold_sequences<T, 8>(node, work, src, at);
+    case 4:
+      return fold_sequences<T, 16>(node, work, src, at);
+    case 5:
+      return fold_sequences<T, 32>(node, work, src, at);
+    case 6:
+      return fold_sequences<T, 64>(node, work, src, at);
+    case fold_kind_split:
+      return split_sequences(node, work, src, at);
+    default:
+      return xfmStsBadState;
+  }
+}
+
+template <class T>
+xfmStatus run_odd_split(const OddSplitNode<T>& node, Spectrum<T> out, const T* src, Offsets at) {
+  if (node.kind != kind_sound) return xfmStsBadState;
+  run_odd_fold(*first_of<OddFoldNode>(node.fold_view), node.work, src, at);
+  return run_odd_combine(*first_of<OddCombineNode<T>>(node.combine_view), out, node.work);
+}
+
+template xfmStatus run_fold(const FoldNode&, float*, const float*);
+template xfmStatus run_fold(const FoldNode&, double*, const double*);
+template xfmStatus run_odd_fold(const OddFoldNode&, float*, const float*, Offsets);
+template xfmStatus run_odd_fold(const OddFoldNode&, double*, const double*, Offsets);
+template xfmStatus run_odd_split(const OddSplitNode<float>&, Spectrum<float>, const float*, Offsets);
+template xfmStatus run_odd_split(const OddSplitNode<double>&, Spectrum<double>, const double*, Offsets);
+
+}  // namespace xfm::dct4

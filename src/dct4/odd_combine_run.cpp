@@ -1,0 +1,187 @@
+// The combine of a split: for each class the twists of its sub-sequences and a DFT across them. Vectors run
+// across residues, so a twiddle is the same in all lanes.
+#include "src/dct4/constants.h"
+#include "src/dct4/stages.h"
+#include "src/dct4/twiddle.h"
+
+namespace xfm::dct4 {
+namespace {
+
+/// Batches that fill a line.
+constexpr int batches = 4;
+
+/// a - b, or its conjugate.
+template <bool conjugated, class A>
+XFM_INLINE Complex<A> difference(Complex<A> a, Complex<A> b) {
+  return {a.re - b.re, conjugated ? b.im - a.im : a.im - b.im};
+}
+
+/// a - i b, or its conjugate; the sum a + i b.
+template <bool conjugated, class A>
+XFM_INLINE Complex<A> turned_difference(Complex<A> a, Complex<A> b) {
+  return {a.re + b.im, conjugated ? b.re - a.im : a.im - b.re};
+}
+template <class A>
+XFM_INLINE Complex<A> turned_sum(Complex<A> a, Complex<A> b) {
+  return {a.re - b.im, a.im + b.re};
+}
+
+/// x[l] = sum over a of x[a] exp(+2 pi i a l / n), in place and in natural order; the upper half conjugated
+/// if wanted.
+template <int n, bool conjugated, class A>
+XFM_INLINE void dft(Complex<A>* x) {
+  if constexpr (n == 2) {
+    const Complex<A> a = x[0], b = x[1];
+    x[0] = a + b;
+    x[1] = difference<conjugated>(a, b);
+  } else if constexpr (n == 4) {
+    const Complex<A> s = x[0] + x[2], d = x[0] - x[2], t = x[1] + x[3], e = x[1] - x[3];
+    x[0] = s + t;
+    x[1] = turned_sum(d, e);
+    x[2] = difference<conjugated>(s, t);
+    x[3] = turned_difference<conjugated>(d, e);
+  } else {
+    static_assert(n == 8);
+    constexpr auto half = cosine<typename A::Element, 1, 4>;
+    const auto s = A::all(half), minus_s = A::all(-half);
+    Complex<A> even[4] = {x[0], x[2], x[4], x[6]};
+    dft<4, false>(even);
+    const Complex<A> a = x[1] + x[5], b = x[3] + x[7], c = x[1] - x[5], d = x[3] - x[7];
+    const Complex<A> u = turned_sum(c, d), v = turned_difference<false>(c, d);
+    const Complex<A> t0 = a + b, t2 = a - b;                             // t2 is still to be multiplied by i
+    const Complex<A> t1 = {(u.re - u.im) * s, (u.re + u.im) * s};        // exp(i pi / 4) u
+    const Complex<A> t3 = {(v.re + v.im) * minus_s, (v.re - v.im) * s};  // exp(3 i pi / 4) v
+    x[0] = even[0] + t0;
+    x[1] = even[1] + t1;
+    x[2] = turned_sum(even[2], t2);
+    x[3] = even[3] + t3;
+    x[4] = difference<conjugated>(even[0], t0);
+    x[5] = difference<conjugated>(even[1], t1);
+    x[6] = turned_difference<conjugated>(even[2], t2);
+    x[7] = difference<conjugated>(even[3], t3);
+  }
+}
+
+/// One class i in the work area, and where its outputs go: D(l) to the class m2 l + i, and conj(D(-l)) to the
+/// class m2 l - 1 - i. All of it for the four batches of a line.
+template <class T>
+struct ClassPlace {
+  using P = Packed<T>;
+  const T* in;
+  std::ptrdiff_t sequence_step, in_part;
+  T* ahead;   ///< of class i
+  T* behind;  ///< of class -1 - i
+  std::ptrdiff_t fold_step, out_part;
+
+  XFM_INLINE Complex<P> load(int a, int batch) const {
+    const T* const at = in + a * sequence_step + batch * P::lanes;
+    return {P::load(at), P::load(at + in_part)};
+  }
+  /// D(l) of the radix r2, l = 0 .. r2 - 1; the upper half are the conjugates of D(l - r2).
+  template <int r2>
+  XFM_INLINE void store(int l, int batch, Complex<P> d) const {
+    T* const at = (l < r2 / 2 ? ahead + l * fold_step : behind + (r2 - l) * fold_step) + batch * P::lanes;
+    P::store(at, d.re);
+    P::store(at + out_part, d.im);
+  }
+};
+
+template <class T>
+XFM_INLINE Complex<Packed<T>> pair(const T* table, int index) {
+  using P = Packed<T>;
+  const T* const at = table + 2 * P::lanes * index;
+  return {P::load(at), P::load(at + P::lanes)};
+}
+
+/// Radixes 2, 4 and 8: one butterfly.
+template <int r2, class T>
+XFM_INLINE void combine_once(const ClassPlace<T>& place, const T* near) {
+  for (int batch = 0; batch < batches; ++batch) {
+    Complex<Packed<T>> x[r2];
+    x[0] = place.load(0, batch);
+    unrolled<r2 - 1>([&](auto b) XFM_INLINE_LAMBDA { x[b + 1] = place.load(b + 1, batch) * pair(near, b); });
+    dft<r2, true>(x);
+    unrolled<r2>([&](auto l) XFM_INLINE_LAMBDA { place.template store<r2>(l, batch, x[l]); });
+  }
+}
+
+/// Radixes 16 and 32: over a = 4 a1 + a0 first the sums over a1, then, for each j, those over a0. The batches
+/// take each step together, while their lines are at hand.
+template <int r2, class T>
+XFM_INLINE void combine_twice(const ClassPlace<T>& place, const T* near, const T* far) {
+  constexpr int outer = r2 / 4;
+  Complex<Packed<T>> y[outer][batches][4];
+  for (int a0 = 0; a0 < 4; ++a0) {
+    for (int batch = 0; batch < batches; ++batch) {
+      Complex<Packed<T>> x[outer];
+      x[0] = place.load(a0, batch);
+      unrolled<outer - 1>([&](auto a1) XFM_INLINE_LAMBDA {
+        x[a1 + 1] = place.load(4 * (a1 + 1) + a0, batch) * pair(far, a1);
+      });
+      dft<outer, false>(x);
+      unrolled<outer>([&](auto j) XFM_INLINE_LAMBDA { y[j][batch][a0] = x[j]; });
+    }
+  }
+  for (int j = 0; j < outer; ++j) {
+    for (int batch = 0; batch < batches; ++batch) {
+      Complex<Packed<T>> x[4];
+      x[0] = y[j][batch][0];
+      unrolled<3>([&](auto b) XFM_INLINE_LAMBDA { x[b + 1] = y[j][batch][b + 1] * pair(near, 3 * j + b); });
+      dft<4, true>(x);
+      unrolled<4>([&](auto l) XFM_INLINE_LAMBDA { place.template store<r2>(j + outer * l, batch, x[l]); });
+    }
+  }
+}
+
+template <int r2, class T>
+xfmStatus run_classes(const OddCombineNode<T>& node, Spectrum<T> out, T* work) {
+  constexpr std::ptrdiff_t pair_elements = 2 * lanes<T>;
+  const Spectrum<T> first = sequence_spectrum(work, node.fold, 0),
+                    second = sequence_spectrum(work, node.fold, 1);
+  ClassPlace<T> place{.in = first.start,
+                      .sequence_step = second.start - first.start,
+                      .in_part = first.part,
+                      .ahead = out.start,
+                      .behind = out.start - 2 * out.part,
+                      .fold_step = 2 * out.part * node.fold,
+                      .out_part = out.part};
+  const T* near = node.table;
+  const T* far = near + pair_elements * near_pairs(r2) * node.classes;
+  for (std::int32_t i = 0; i < node.classes; ++i) {
+    if constexpr (far_pairs(r2) == 0)
+      combine_once<r2>(place, near);
+    else
+      combine_twice<r2>(place, near, far);
+    near += pair_elements * near_pairs(r2);
+    far += pair_elements * far_pairs(r2);
+    place.in += 2 * first.part;
+    place.ahead += 2 * out.part;
+    place.behind -= 2 * out.part;
+  }
+  return xfmStsOk;
+}
+
+}  // namespace
+
+template <class T>
+xfmStatus run_odd_combine(const OddCombineNode<T>& node, Spectrum<T> out, T* work) {
+  switch (node.kind) {
+    case 1:
+      return run_classes<2>(node, out, work);
+    case 2:
+      return run_classes<4>(node, out, work);
+    case 3:
+      return run_classes<8>(node, out, work);
+    case 4:
+      return run_classes<16>(node, out, work);
+    case 5:
+      return run_classes<32>(node, out, work);
+    default:
+      return xfmStsBadState;
+  }
+}
+
+template xfmStatus run_odd_combine(const OddCombineNode<float>&, Spectrum<float>, float*);
+template xfmStatus run_odd_combine(const OddCombineNode<double>&, Spectrum<double>, double*);
+
+}  // namespace xfm::dct4

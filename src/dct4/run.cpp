@@ -1,0 +1,50 @@
+// One transform by a plan: the whole fold, then the whole combine. The fold's vectors run across residues,
+// the combine's across classes; between the two stands the spectrum, class by class, its real parts and then
+// its imaginary parts, residues fastest.
+#include "src/dct4/base.h"
+#include "src/dct4/stages.h"
+
+namespace xfm::dct4 {
+namespace {
+
+template <class T>
+xfmStatus run_tree(const T* src, T* dst, const Dct4Plan<T>& root) {
+  const auto* fold_shell = first_of<FoldShell>(root.fold_view);
+  if (fold_shell->kind == kind_sound) run_fold(*first_of<FoldNode>(fold_shell->view), root.work, src);
+  const auto* combine_shell = first_of<CombineShell>(root.combine_view);
+  if (combine_shell->kind == kind_sound)
+    run_combine(*first_of<CombineNode<T>>(combine_shell->view), dst, root.work);
+  return xfmStsOk;
+}
+
+}  // namespace
+
+template <class T>
+xfmStatus run(const T* src, T* dst, const Dct4Plan<T>& root) {
+  switch (root.kind) {
+    case 1:
+      transform_2(src, dst);
+      return xfmStsOk;
+    case 2:
+      transform_4(src, dst);
+      return xfmStsOk;
+    case 3:
+      transform<T, 8, 2>(src, dst);
+      return xfmStsOk;
+    case 4:
+      transform<T, 16, 4>(src, dst);
+      return xfmStsOk;
+    case 5:
+      transform<T, 32, 2>(src, dst);
+      return xfmStsOk;
+    case root_kind_tree:
+      return run_tree(src, dst, root);
+    default:
+      return xfmStsBadState;
+  }
+}
+
+template xfmStatus run(const float*, float*, const Dct4Plan<float>&);
+template xfmStatus run(const double*, double*, const Dct4Plan<double>&);
+
+}  // namespace xfm::dct4
