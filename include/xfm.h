@@ -4,12 +4,12 @@
  * @brief xfm: short, very fast discrete transforms for x86-64.
  *
  * Plain functions, no planning, no state, no run-time tables: every length and precision of every family has a
- * straight-line kernel of its own. A family of kernels is written below with the letter N in place of the length; the
+ * straight-line kernel of its own. Only the DCT-IV, which goes up to 2^26, has a state that is made beforehand. A family of kernels is written below with the letter N in place of the length; the
  * name without a number is the family's generic function, which takes the length as an argument and accepts every
  * length that the family serves.
  *
  * Arrays are contiguous; the caller owns them, and no function keeps a pointer. All functions may be called from any
- * number of threads at once. NaN and infinity flow through the arithmetic; no function changes the floating-point
+ * number of threads at once, but a state of the DCT-IV serves one at a time. NaN and infinity flow through the arithmetic; no function changes the floating-point
  * control state. Results do not depend on alignment, and src == dst gives the same bits as separate arrays.
  */
 /* The declarations below are written by xfmgen from the list of families: build the target "door" to renew them. */
@@ -1471,6 +1471,164 @@ xfmStatus xfmHartley_61_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
 xfmStatus xfmHartley_62_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
 xfmStatus xfmHartley_63_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
 xfmStatus xfmHartley_64_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
+/** @} */
+
+/** @name WHT
+ * xfmWHT_N_TYPE
+ * @{ */
+/**
+ * Walsh-Hadamard transform of N = 2^order real elements, order 1 to 13, in natural (Hadamard) order.
+ *
+ *     dst[k] = s * sum over j of (-1)^popcount(j AND k) * src[j],   j, k = 0 .. N-1
+ *
+ * Reads N elements of src, writes N elements of dst. The transform has no direction: it is its own inverse up to N,
+ * so the two flags of 1/N mean the same here. The number in a kernel's name is the order.
+ *
+ * | flag                  | factor s  |
+ * |-----------------------|-----------|
+ * | XFM_SCALE_FWD_BY_N    | 1/N       |
+ * | XFM_SCALE_INV_BY_N    | 1/N       |
+ * | XFM_SCALE_BY_SQRT_N   | 1/sqrt(N) |
+ * | XFM_SCALE_NONE        | 1         |
+ *
+ * The stages run in ascending order, additions and subtractions are those of the element type, and every output is
+ * multiplied by s as its last step, also by 1: the bits are those of a plain loop nest over strides 1, 2, 4, ...
+ * 1/sqrt(N) is a stored constant: a power of two at even orders. At odd orders the one in binary32 is the nearest
+ * value, the one in binary64 the quotient of 1 by the rounded root of N, which lies one unit in the last place below.
+ *
+ * Both arrays may have any alignment; multiples of 16 are fastest, and the bits do not depend on it. src and dst may
+ * overlap in any way: all input is read before the first output is written, and dst is never read.
+ *
+ * buffer: orders 1 to 7 never look at it, whatever it is. From order 8 on it is work space of the bytes that
+ * xfmWHTGetBufferSize_TYPE tells, aligned to 16. What it holds before does not matter; afterwards it holds nothing of
+ * use. It belongs to one call at a time. A null buffer is served too, by one xfmMalloc and one xfmFree in every call;
+ * the bits are the same.
+ * Hazards: the call does not test whether xfmMalloc gave anything: a program whose memory is exhausted ends there. A
+ * buffer that is not a multiple of 16 ends the program as well. A buffer that is too small is written past its end.
+ *
+ * Errors, in the order of the tests: a generic function gives xfmStsBadSize for an order that is not served; then
+ * xfmStsNullPtr (src or dst is null), xfmStsBadScale (flag). A failed call writes nothing and allocates nothing.
+ * Re-entrant.
+ * Sources: Good 1958; Fino and Algazi 1976; for the cut into passes Johnson and Pueschel 2000.
+ */
+xfmStatus xfmWHT_32f(const xfm32f* src, xfm32f* dst, int32_t order, int32_t flag, void* buffer);
+xfmStatus xfmWHT_1_32f(const xfm32f* src, xfm32f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_2_32f(const xfm32f* src, xfm32f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_3_32f(const xfm32f* src, xfm32f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_4_32f(const xfm32f* src, xfm32f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_5_32f(const xfm32f* src, xfm32f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_6_32f(const xfm32f* src, xfm32f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_7_32f(const xfm32f* src, xfm32f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_8_32f(const xfm32f* src, xfm32f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_9_32f(const xfm32f* src, xfm32f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_10_32f(const xfm32f* src, xfm32f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_11_32f(const xfm32f* src, xfm32f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_12_32f(const xfm32f* src, xfm32f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_13_32f(const xfm32f* src, xfm32f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_64f(const xfm64f* src, xfm64f* dst, int32_t order, int32_t flag, void* buffer);
+xfmStatus xfmWHT_1_64f(const xfm64f* src, xfm64f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_2_64f(const xfm64f* src, xfm64f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_3_64f(const xfm64f* src, xfm64f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_4_64f(const xfm64f* src, xfm64f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_5_64f(const xfm64f* src, xfm64f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_6_64f(const xfm64f* src, xfm64f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_7_64f(const xfm64f* src, xfm64f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_8_64f(const xfm64f* src, xfm64f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_9_64f(const xfm64f* src, xfm64f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_10_64f(const xfm64f* src, xfm64f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_11_64f(const xfm64f* src, xfm64f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_12_64f(const xfm64f* src, xfm64f* dst, int32_t flag, void* buffer);
+xfmStatus xfmWHT_13_64f(const xfm64f* src, xfm64f* dst, int32_t flag, void* buffer);
+/** @} */
+
+/** @name WHT work buffer
+ * xfmWHTGetBufferSize_TYPE
+ * @{ */
+/**
+ * Bytes of the work buffer of the Walsh-Hadamard kernel of this order, stored through size: 0 for the orders 1 to 7.
+ * The order is the only thing tested: size must not be null.
+ * Errors: xfmStsBadSize for an order that is not 1 to 13; size stays as it was. Re-entrant; no allocation.
+ */
+xfmStatus xfmWHTGetBufferSize_32f(int32_t order, uint32_t* size);
+xfmStatus xfmWHTGetBufferSize_64f(int32_t order, uint32_t* size);
+/** @} */
+
+/** @name DCT4
+ * xfmDCT4_TYPE
+ * @{ */
+/**
+ * A state of the DCT-IV in single precision: a plan, its tables and its work areas, in one block of memory. Opaque.
+ */
+typedef struct xfmDCT4State_32f xfmDCT4State_32f;
+/** The same in double precision. */
+typedef struct xfmDCT4State_64f xfmDCT4State_64f;
+
+/**
+ * Bytes that a state of this length takes, among them what aligning the block costs: a block of any address will do.
+ *
+ * Accepted lengths: N = 2^k with 1 <= k <= 26, in double precision k <= 25. That is the DCT-IV.
+ * Hazards: some more lengths pass and are NO DCT-IV of any length. They are kept as they are; do not use them.
+ * - N = 2^k + 1 with 5 <= k <= 26, in double precision 3 <= k <= 25. Such a state runs the plan of 2^k over a wrong map
+ *   of the indices, leaves elements of dst unwritten, and reads and writes src[N] and dst[N], one past the end.
+ * - N = 2^30 and 2^30 + 1, in double precision 2^29 and 2^29 + 1 too: the sum of bytes wraps around in 32 bits, and
+ *   the state would be written far beyond a block of the size told.
+ *
+ * Errors: xfmStsBadSize for every other length; size stays as it was. size is not tested for null. Re-entrant.
+ */
+xfmStatus xfmDCT4GetSize_32f(int32_t length, int32_t* size);
+xfmStatus xfmDCT4GetSize_64f(int32_t length, int32_t* size);
+
+/**
+ * Builds a state in memory of the caller: block has at least the bytes told by the size query, at any address.
+ *
+ * The state lies in the block and holds addresses: the block must not move, and ends the state when it is given up. A
+ * state needs no other end; the block may be used again, by another init too. What state receives is not the block's
+ * address. All cosines and sines are worked out here, none when the state runs.
+ * In the last 2 GiB of each 4 GiB of addresses (bit 31 set) a block that is no multiple of 32 wastes up to 31 bytes
+ * more, and a state of N = 2 .. 32 there may take up to 23 bytes more than told. Blocks aligned to 32 are free of this.
+ *
+ * Errors, in the order of the tests: xfmStsNullPtr (state or block is null), xfmStsBadSize (the length cannot be broken
+ * down); the pointer at state is then as it was. The size of the block is not tested. One thread a block.
+ */
+xfmStatus xfmDCT4Init_32f(xfmDCT4State_32f** state, int32_t length, void* block);
+xfmStatus xfmDCT4Init_64f(xfmDCT4State_64f** state, int32_t length, void* block);
+
+/**
+ * Builds a state in memory of xfmMalloc, which xfmDCT4Free releases.
+ *
+ * Errors, in the order of the tests: xfmStsNullPtr (state is null), xfmStsBadSize (the length is refused by the size
+ * query; nothing was allocated), xfmStsNullPtr (no memory). The pointer at state is then as it was. Any thread.
+ */
+xfmStatus xfmDCT4InitAlloc_32f(xfmDCT4State_32f** state, int32_t length);
+xfmStatus xfmDCT4InitAlloc_64f(xfmDCT4State_64f** state, int32_t length);
+
+/**
+ * The discrete cosine transform of type IV, of the length N of the state.
+ *
+ *     dst[k] = sum over j of src[j] * cos(pi/N * (j + 1/2) * (k + 1/2)),   j, k = 0 .. N-1
+ *
+ * Reads N real elements of src, writes N real elements of dst, in natural order, without a factor: the transform twice
+ * over gives the input times N/2. Any alignment; src == dst gives the same bits as separate arrays; other overlaps are
+ * not served. No allocation; nothing is carried over from run to run.
+ * A run of N > 32 overwrites the work areas in the state, so such a state serves one thread at a time; for threads at
+ * once make a state each. A state of N <= 32 is only read.
+ *
+ * Errors: xfmStsNullPtr (state, src or dst is null), xfmStsBadState (what state points to is no state). Nothing is
+ * written then.
+ * Sources: Britanak, Yip and Rao 2007; split radix: Duhamel and Hollmann 1984; lifting for N = 4: Daubechies and
+ * Sweldens 1998.
+ */
+xfmStatus xfmDCT4_32f(const xfm32f* src, xfm32f* dst, xfmDCT4State_32f* state);
+xfmStatus xfmDCT4_64f(const xfm64f* src, xfm64f* dst, xfmDCT4State_64f* state);
+
+/**
+ * Ends a state of xfmDCT4InitAlloc and releases its memory with xfmFree, or one that xfmDCT4Init built in memory of
+ * xfmMalloc. Not for a state in other memory: that one ends with its block. The state must not be running.
+ *
+ * Errors: xfmStsNullPtr (state is null).
+ */
+xfmStatus xfmDCT4Free_32f(xfmDCT4State_32f* state);
+xfmStatus xfmDCT4Free_64f(xfmDCT4State_64f* state);
 /** @} */
 
 #if defined(__GNUC__)

@@ -12,7 +12,7 @@
 #include <fmt/format.h>
 #include <CLI/CLI.hpp>
 
-#include "../spectrogram/progress.h"
+#include "sound/progress.h"
 #include "lapped.h"
 #include "sound.h"
 
