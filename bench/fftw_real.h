@@ -80,6 +80,51 @@ class InverseRealDft final : public Contestant {
   Plan<Real> plan_;
 };
 
+/// FFTW's discrete Hartley transform, or its half-complex one and the sums and differences that make a Hartley
+/// transform of it.
+template <class Real>
+class Dht final : public Contestant {
+ public:
+  Dht(int length, fftw_r2r_kind kind, Arrays& arrays)
+      : length_(length),
+        kind_(kind),
+        src_(static_cast<Real*>(arrays.src())),
+        dst_(static_cast<Real*>(arrays.dst())),
+        plan_(Api<Real>::plan_r2r(1, &length, src_, dst_, &kind, FFTW_PATIENT)) {}
+
+  void run(int calls) override {
+    if (kind_ == FFTW_DHT) {
+      for (int i = 0; i < calls; ++i) Api<Real>::execute_r2r(plan_.get(), src_, dst_);
+      return;
+    }
+    for (int i = 0; i < calls; ++i) {
+      Api<Real>::execute_r2r(plan_.get(), src_, dst_);
+      for (int k = 1, l = length_ - 1; k < l; ++k, --l) {
+        const Real re = dst_[k], im = dst_[l];
+        dst_[k] = re - im;
+        dst_[l] = re + im;
+      }
+    }
+  }
+
+ private:
+  int length_;
+  fftw_r2r_kind kind_;
+  Real* src_;
+  Real* dst_;
+  Plan<Real> plan_;
+};
+
+/// The faster of the two.
+template <class Real>
+ContestantPtr hartley(int length, Arrays& arrays) {
+  fftw_r2r_kind kind = FFTW_DHT;
+  return best_plan<Real>([&] {
+    kind = kind == FFTW_DHT ? FFTW_R2HC : FFTW_DHT;
+    return std::make_unique<Dht<Real>>(length, kind, arrays);
+  });
+}
+
 template <class Real, Layout layout>
 ContestantPtr real_dft(int length, Arrays& arrays) {
   return best_plan<Real>([&] { return std::make_unique<RealDft<Real, layout>>(length, arrays); });

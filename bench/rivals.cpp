@@ -38,6 +38,8 @@ constexpr std::array kRivals{
     Rival{"DFTInv_PackToR", "64f", fftw::inverse_real_dft<double, Layout::pack>},
     Rival{"DFTInv_PermToR", "32f", fftw::inverse_real_dft<float, Layout::perm>},
     Rival{"DFTInv_PermToR", "64f", fftw::inverse_real_dft<double, Layout::perm>},
+    Rival{"Hartley", "32f", fftw::hartley<float>},
+    Rival{"Hartley", "64f", fftw::hartley<double>},
     Rival{"WHT", "32f", fftw::walsh_hadamard<float>},
     Rival{"WHT", "64f", fftw::walsh_hadamard<double>},
     Rival{"DCT4", "32f", fftw_dct4<float>},

@@ -121,6 +121,25 @@ class SpectrumToReal : public Definition {
   Circle circle_;
 };
 
+/// dst[k] = sum over j of src[j] * (cos + sin)(2 pi j k / N).
+class Hartley : public Definition {
+ public:
+  explicit Hartley(int length) : length_(length), circle_(length) {}
+
+  Wide entry(int out, int in) const override {
+    return circle_.cosine_of(out * in) + circle_.sine_of(out * in);
+  }
+  double greatest(int in) const override {
+    double most = 0;
+    for (int out = 0; out < length_; ++out) most = std::max(most, std::abs(static_cast<double>(entry(out, in))));
+    return most;
+  }
+
+ private:
+  int length_;
+  Circle circle_;
+};
+
 /// dst[k] = sum over j of (-1)^popcount(j AND k) * src[j].
 class Hadamard : public Definition {
  public:
@@ -169,6 +188,7 @@ std::unique_ptr<Definition> definition(const Kernel& kernel) {
   const std::string family = kernel.family;
   if (family == "DFTFwd_CToC") return std::make_unique<ComplexFourier>(kernel.length, -1);
   if (family == "DFTInv_CToC") return std::make_unique<ComplexFourier>(kernel.length, +1);
+  if (family == "Hartley") return std::make_unique<Hartley>(kernel.length);
   if (family == "WHT") return std::make_unique<Hadamard>();
   throw std::logic_error("tests/support/reference.cpp has no definition of " + family);
 }
