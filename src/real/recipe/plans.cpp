@@ -49,7 +49,7 @@ Tree nested(Direction direction, const std::string& rule, std::vector<Tree> stag
 Tree plan(Direction direction, const Tree& tree) {
   if (tree.is_number()) return is_block(direction, tree.number) ? tree : plan(direction, tree.number);
   if (tree.rule == "D") return tree;
-  if (tree.rule == "R") return rader(direction, tree);
+  if (tree.rule == "R") return tree.args.size() == 2 ? rader(direction, tree) : tree;
   std::vector<Tree> stages;
   for (const Tree& arg : tree.args) stages.push_back(plan(direction, arg));
   return nested(direction, tree.rule, std::move(stages));
