@@ -56,9 +56,10 @@ struct Unaligned {
   }
 };
 
-// Shuffles, by the instructions for integers: they move the same bits as those for floating point, and on
-// recent cores two of them start in a cycle instead of one, which is up to a tenth of a whole kernel.
-// Compilers that are given the intrinsics turn them back.
+// Shuffles, each by the instruction that most units of recent cores can start: of the integer forms, which
+// move the same bits, two start in a cycle where of those for floating point one does, and a move of a half
+// goes to units that neither shuffles nor additions keep busy. That is up to a tenth of a whole kernel;
+// compilers that are given intrinsics turn them back.
 
 /// a0 b0 a1 b1
 XFM_INLINE inline Quad interleave_low(Quad a, Quad b) {
@@ -70,30 +71,34 @@ XFM_INLINE inline Quad interleave_high(Quad a, Quad b) {
   asm("punpckhdq %1, %0" : "+x"(a) : "x"(b));
   return a;
 }
-template <class V>
-XFM_INLINE inline V low_halves(V a, V b) {
-  asm("punpcklqdq %1, %0" : "+x"(a) : "x"(b));
-  return a;
+/// The high half of a and the low half of b change places.
+XFM_INLINE inline void exchange_halves(Quad& a, Quad& b) {
+  Quad inner = a;
+  asm("shufpd $1, %1, %0" : "+x"(inner) : "x"(b));  // high half of a, low half of b
+  asm("movsd %1, %0" : "+x"(b) : "x"(inner));
+  asm("movsd %1, %0" : "+x"(inner) : "x"(a));
+  a = inner;
 }
-template <class V>
-XFM_INLINE inline V high_halves(V a, V b) {
+/// The same for two lanes, whose kernels gain nothing from moves.
+XFM_INLINE inline void exchange_halves(Pair& a, Pair& b) {
+  Pair low = a;
+  asm("punpcklqdq %1, %0" : "+x"(low) : "x"(b));
   asm("punpckhqdq %1, %0" : "+x"(a) : "x"(b));
-  return a;
+  b = a;
+  a = low;
 }
 
 /// As many registers as they have lanes: what was lane j of register i becomes lane i of register j.
-XFM_INLINE inline void transpose(Pair* v) {
-  const Pair low = low_halves(v[0], v[1]);
-  v[1] = high_halves(v[0], v[1]);
-  v[0] = low;
-}
+XFM_INLINE inline void transpose(Pair* v) { exchange_halves(v[0], v[1]); }
 XFM_INLINE inline void transpose(Quad* v) {
-  const Quad low01 = interleave_low(v[0], v[1]), high01 = interleave_high(v[0], v[1]);
-  const Quad low23 = interleave_low(v[2], v[3]), high23 = interleave_high(v[2], v[3]);
-  v[0] = low_halves(low01, low23);
-  v[1] = high_halves(low01, low23);
-  v[2] = low_halves(high01, high23);
-  v[3] = high_halves(high01, high23);
+  Quad low01 = interleave_low(v[0], v[1]), high01 = interleave_high(v[0], v[1]);
+  Quad low23 = interleave_low(v[2], v[3]), high23 = interleave_high(v[2], v[3]);
+  exchange_halves(low01, low23);
+  exchange_halves(high01, high23);
+  v[0] = low01;
+  v[1] = low23;
+  v[2] = high01;
+  v[3] = high23;
 }
 
 }  // namespace xfm::wht

@@ -17,6 +17,7 @@ template <class T>
 Array run(const Array& src, double factor) {
   const int n = src.count();
   std::vector<T> x;
+  x.reserve(static_cast<std::size_t>(n));
   for (int i = 0; i < n; ++i) x.push_back(static_cast<T>(src[i]));
   const auto at = [&](int i) -> T& { return x[static_cast<std::size_t>(i)]; };
   for (int stride = 1; stride < n; stride *= 2) {
