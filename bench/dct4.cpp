@@ -162,17 +162,21 @@ catalogue::Kernel row(const std::string& name, Precision precision, int exponent
           .precision = precision,
           .scaling = catalogue::Scaling::symmetric,
           .length = n,
+          .points = n,
           .read = n,
           .written = n,
           .exchanges = -1,
           .packed = n > 32,
           .packed_math = n > 32,
+          .straight = false,
           .tree = "",
           .adds = 3 * n * exponent / 2,
           .mults = n * exponent / 2,  // and one for every output, which the limit counts
           .add_instructions = 0,
           .mult_instructions = 0,
-          .call = nullptr};
+          .buffer_bytes = 0,
+          .call = nullptr,
+          .call_with_buffer = nullptr};
 }
 
 }  // namespace
