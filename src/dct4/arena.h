@@ -8,8 +8,8 @@
 namespace xfm::dct4 {
 
 /// The arena is one cell at the very start of the block: the next free byte. It knows no limit, so the size
-/// query is the only guard.
-struct PlanArena {
+/// query is the only guard. The block may have any address, and so has the cell: all else is aligned.
+struct __attribute__((packed)) PlanArena {
   unsigned char* top;
 };
 
