@@ -108,10 +108,10 @@ class Twisted final : public Contestant {
     to_ = in_place ? from_ : from_ + count();
     plan_ =
         fftw::Api<Real>::plan_dft_1d(length / 2, complex(from_), complex(to_), FFTW_FORWARD, effort(length));
-    for (int n = 0; n < length / 2; ++n) {
-      const double angle = -std::numbers::pi * (8 * n + 1) / (8.0 * length);
-      twist_[2 * n] = static_cast<Real>(std::cos(angle));
-      twist_[2 * n + 1] = static_cast<Real>(std::sin(angle));
+    for (int n = 0; n < length; n += 2) {
+      const double angle = -std::numbers::pi * (4 * n + 1) / (8.0 * length);
+      twist_[n] = static_cast<Real>(std::cos(angle));
+      twist_[n + 1] = static_cast<Real>(std::sin(angle));
     }
   }
   Twisted(const Twisted&) = delete;

@@ -1,5 +1,7 @@
 #include "src/dct4/arena.h"
 
+#include <cstddef>
+
 namespace xfm::dct4 {
 
 PlanArena* arena_open(void* block) {
@@ -7,7 +9,7 @@ PlanArena* arena_open(void* block) {
   const std::int32_t past =
       static_cast<std::int32_t>(static_cast<std::uint32_t>(address)) % std::int32_t{granule};
   auto* start = static_cast<unsigned char*>(block);
-  return new (block) PlanArena{start + 2 * granule - past};
+  return new (block) PlanArena{start + (2 * std::ptrdiff_t{granule} - past)};
 }
 
 void* arena_alloc(PlanArena* arena, std::uint32_t bytes) {
@@ -47,6 +49,7 @@ void list_release(PlanList* view) {
 }
 
 void list_release_objects(PlanList* owner) {
+  if (owner == nullptr) return;
   for (const PlanList* cell = owner; cell != nullptr; cell = cell->next) {
     PlanObject* const object = cell->payload;
     if (object == nullptr) continue;

@@ -8,8 +8,8 @@
 namespace xfm::dct4 {
 
 /// The arena is one cell at the very start of the block: the next free byte. It knows no limit, so the size
-/// query is the only guard.
-struct PlanArena {
+/// query is the only guard. The block may have any address, and so has the cell: all else is aligned.
+struct __attribute__((packed)) PlanArena {
   unsigned char* top;
 };
 
@@ -53,7 +53,7 @@ void list_append(PlanList* list, PlanObject* object);
 PlanObject* list_nth(const PlanList* list, int n);
 /// Releases a list that holds objects for lookup only: its cells and its head.
 void list_release(PlanList* view);
-/// Destroys and releases the objects of a list in their order, then the list itself.
+/// Destroys and releases the objects of a list in their order, then the list itself; null does nothing.
 void list_release_objects(PlanList* owner);
 
 /// An object of arena memory, its header set, everything else zero. The record's first member is its header.

@@ -4,6 +4,7 @@
 
 #include <emmintrin.h>
 
+#include <cstddef>
 #include <utility>
 
 namespace xfm::dct4 {
@@ -46,7 +47,7 @@ struct Packed<float> {
   static XFM_INLINE Value load_any(const float* p) { return _mm_loadu_ps(p); }
   static XFM_INLINE void store_any(float* p, Value v) { _mm_storeu_ps(p, v); }
   static XFM_INLINE Value reversed(Value v) { return _mm_shuffle_ps(v, v, _MM_SHUFFLE(0, 1, 2, 3)); }
-  static XFM_INLINE Value gather(const float* p, int step) {
+  static XFM_INLINE Value gather(const float* p, std::ptrdiff_t step) {
     return _mm_setr_ps(p[0], p[step], p[2 * step], p[3 * step]);
   }
   static XFM_INLINE void transpose(Value* v) { _MM_TRANSPOSE4_PS(v[0], v[1], v[2], v[3]); }
@@ -64,7 +65,7 @@ struct Packed<double> {
   static XFM_INLINE Value load_any(const double* p) { return _mm_loadu_pd(p); }
   static XFM_INLINE void store_any(double* p, Value v) { _mm_storeu_pd(p, v); }
   static XFM_INLINE Value reversed(Value v) { return _mm_shuffle_pd(v, v, 1); }
-  static XFM_INLINE Value gather(const double* p, int step) { return _mm_setr_pd(p[0], p[step]); }
+  static XFM_INLINE Value gather(const double* p, std::ptrdiff_t step) { return _mm_setr_pd(p[0], p[step]); }
   static XFM_INLINE void transpose(Value* v) {
     const Value low = _mm_unpacklo_pd(v[0], v[1]), high = _mm_unpackhi_pd(v[0], v[1]);
     v[0] = low;

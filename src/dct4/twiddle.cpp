@@ -44,7 +44,8 @@ T lane_value(const LaneSource& source, std::int32_t group, std::int32_t lane, st
 
 template <class T>
 T half_step_value(const HalfStepSource& source, std::int32_t i) {
-  return (static_cast<T>(i) + T(0.5)) / static_cast<T>(source.fold / source.radix);
+  const std::int32_t inner_fold = source.fold / source.radix;
+  return (static_cast<T>(i) + T(0.5)) / static_cast<T>(inner_fold);
 }
 
 void owns_nothing(PlanObject*) {}

@@ -48,9 +48,9 @@ HalfStepSource* new_half_step_source(PlanArena* arena);
 /// The residues of a group in the order of the table, which is the order in which they are met two by two.
 template <std::int32_t r>
 struct ResidueOrder {
-  std::int32_t of[r];
+  std::int32_t of[r]{};
 
-  constexpr ResidueOrder() : of{} {
+  constexpr ResidueOrder() {
     for (std::int32_t t = 0; t < r; ++t) of[t] = t % 2 == 0 ? t / 2 : r - 1 - t / 2;
   }
 };
@@ -81,8 +81,8 @@ constexpr std::int32_t far_pairs(std::int32_t r2) { return r2 <= 8 ? 0 : r2 / 4 
 /// Bytes of the tables, for allocation and release.
 template <class T>
 std::uint32_t table_bytes(const CombineNode<T>& node) {
-  return static_cast<std::uint32_t>(node.groups) * static_cast<std::uint32_t>(node.group_elements) *
-         sizeof(T);
+  constexpr auto element = static_cast<std::uint32_t>(sizeof(T));
+  return static_cast<std::uint32_t>(node.groups) * static_cast<std::uint32_t>(node.group_elements) * element;
 }
 template <class T>
 std::uint32_t table_bytes(const OddCombineNode<T>& node) {

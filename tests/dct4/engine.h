@@ -66,7 +66,7 @@ std::size_t size_of(std::int32_t length) {
 template <class T>
 struct Owned {
   struct Free {
-    void operator()(typename Engine<T>::State* state) const { Engine<T>::free(state); }
+    void operator()(typename Engine<T>::State* one) const { Engine<T>::free(one); }
   };
   std::unique_ptr<typename Engine<T>::State, Free> state;
 

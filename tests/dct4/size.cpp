@@ -171,13 +171,14 @@ TYPED_TEST(Size, AcceptedLengths) {
   const bool single = sizeof(TypeParam) == 4;
   std::set<std::int64_t> expected;
   for (int k = 1; k <= Engine<TypeParam>::longest; ++k) {
-    expected.insert(1LL << k);
-    if (k >= (single ? 5 : 3)) expected.insert((1LL << k) + 1);
+    expected.insert(std::int64_t{1} << k);
+    if (k >= (single ? 5 : 3)) expected.insert((std::int64_t{1} << k) + 1);
   }
-  for (int k = single ? 30 : 29; k <= 30; ++k) expected.insert({1LL << k, (1LL << k) + 1});
+  for (int k = single ? 30 : 29; k <= 30; ++k)
+    expected.insert({std::int64_t{1} << k, (std::int64_t{1} << k) + 1});
   for (int k = 0; k < 31; ++k) {
     for (std::int64_t off = -2; off <= 2; ++off) {
-      const std::int64_t length = (1LL << k) + off;
+      const std::int64_t length = (std::int64_t{1} << k) + off;
       EXPECT_EQ(size_of<TypeParam>(static_cast<std::int32_t>(length)) != 0, expected.contains(length))
           << length;
     }

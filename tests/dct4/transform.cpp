@@ -203,7 +203,7 @@ TYPED_TEST(Transform, BitsDoNotDependOnTheBlock) {
     const Owned<TypeParam> engine(1 << k);
     const auto src = noise<TypeParam>(std::size_t{1} << k);
     const auto expected = transformed(engine, src);
-    for (const std::size_t offset : {0, 1, 17, 40}) {
+    for (const std::ptrdiff_t offset : {0, 1, 17, 40}) {
       std::vector<std::byte> memory(size + 128);
       typename Engine<TypeParam>::State* state = nullptr;
       ASSERT_EQ(Engine<TypeParam>::init(&state, 1 << k, memory.data() + offset), xfmStsOk);
