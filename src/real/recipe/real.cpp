@@ -136,7 +136,9 @@ Kernel make_kernel(int length, Precision precision, Direction direction, Layout 
                 .mults = breakdown.mults - length,
                 .network = nullptr};
   kernel.name = "xfm" + kernel.family + "_" + std::to_string(length) + "_" + kernel.type.suffix();
-  const Tree whole = plan_of(gen::parse_tree(kernel.tree), direction, layout, length);
+  const char* const chosen = tree.empty() ? plan_of_least_error(forwards, length) : nullptr;
+  const Tree whole =
+      plan_of(gen::parse_tree(chosen == nullptr ? kernel.tree : chosen), direction, layout, length);
   if (gen::real::length_of(whole) != length)
     throw std::invalid_argument("tree " + kernel.tree + " is not one of length " + std::to_string(length));
   const Draft draft = gen::real::merged(forwards ? forward(whole, length) : inverse(whole, length));

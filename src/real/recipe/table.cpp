@@ -90,6 +90,24 @@ constexpr RaderStage stages[] = {
   {61, "3 x 5 x 4", "", ""},
 };
 
+struct ChosenPlan {
+  int length;
+  bool forward;
+  const char* plan;
+};
+constexpr ChosenPlan chosen[] = {
+  {47, true,
+   "R(45, R(7, 2 x 11, R(8, 5 x 2, 5), R(2, 5 x 2, 5)) x 2, R(7, 2 x D(11), 11), R(5, D(11) x 2, 11))"},
+  {47, false,
+   "R(41, 2 x R(5, 2 x D(11), 11), R(5, 2 x 11, R(6, 5 x 2, 5), R(2, 5 x 2, 5)), "
+   "R(17, 2 x 11, R(2, 5 x 2, 5)))"},
+  {53, false,
+   "R(3, 2 * 2 x R(6, 2 * 2 x 3, 3 x 2), R(2, 3 x 2 * 2, 3 x 2, 3 * 2) x 2, R(2, 2 * 2 x 3, 3 x 2) x 2)"},
+  {59, false,
+   "R(44, 2 x R(10, 2 * 2 x 7, 7 x 2, 2 x 7), R(21, 2 * 2 x 7, 2 x 7, 7 x 2), "
+   "R(2, 7 x 2 * 2, 2 x 7, 2 x 7))"},
+};
+
 constexpr BlockOrder orders[] = {
   { 7, Layout::ccs,  7, "D(7, 1, 3, 2, 0)"},
   {20, Layout::pack, 5, "D(5, 0, 1, 2)"},
@@ -114,6 +132,13 @@ RaderStage rader_stage(int length) {
   const auto found = std::find_if(std::begin(stages), std::end(stages),
                                   [&](const RaderStage& s) { return s.length == length; });
   return found == std::end(stages) ? RaderStage{length, "", "", ""} : *found;
+}
+
+const char* plan_of_least_error(bool forward, int length) {
+  const auto found = std::find_if(std::begin(chosen), std::end(chosen), [&](const ChosenPlan& p) {
+    return p.length == length && p.forward == forward;
+  });
+  return found == std::end(chosen) ? nullptr : found->plan;
 }
 
 std::span<const BlockOrder> block_orders() { return orders; }

@@ -34,6 +34,10 @@ struct RaderStage {
 };
 RaderStage rader_stage(int length);
 
+/// Plans whose primitive roots, and orders of half-length stages, round least in binary32, found by trying
+/// some hundreds; null where the row's own plan does as well.
+const char* plan_of_least_error(bool forward, int length);
+
 /// Inverse kernels of one layout whose direct blocks sum their bins in another order than those of the
 /// others.
 struct BlockOrder {
