@@ -80,8 +80,8 @@ class InverseRealDft final : public Contestant {
   Plan<Real> plan_;
 };
 
-/// FFTW's discrete Hartley transform, or its half-complex one and the sums and differences that make a Hartley
-/// transform of it.
+/// FFTW's discrete Hartley transform, or its half-complex one and the sums and differences that make a
+/// Hartley transform of it.
 template <class Real>
 class Dht final : public Contestant {
  public:

@@ -1,5 +1,6 @@
-// The Hartley transforms of 5 and of 12 points against plain evaluations of their equations, bit for bit, zeros of
-// either sign equal. In binary32 a sum of products is a statement: evaluated in binary64 and rounded once.
+// The Hartley transforms of 5 and of 12 points against plain evaluations of their equations, bit for bit,
+// zeros of either sign equal. In binary32 a sum of products is a statement: evaluated in binary64 and rounded
+// once.
 #include <ios>
 
 #include "tests/bits/data.h"
@@ -46,8 +47,10 @@ Samples<T> hartley12(const Samples<T>& x) {
     s[j] = x[j] + x[12 - j];
     d[j] = x[j] - x[12 - j];
   }
-  const T a0 = x[0] + s[4], a1 = less(x[0], 0.5, s[4]), a2 = times(h, d[4]), a_plus = a1 + a2, a_minus = a1 - a2;
-  const T b0 = x[6] + s[2], b1 = less(x[6], 0.5, s[2]), b2 = times(h, d[2]), b_plus = b1 + b2, b_minus = b1 - b2;
+  const T a0 = x[0] + s[4], a1 = less(x[0], 0.5, s[4]), a2 = times(h, d[4]), a_plus = a1 + a2,
+          a_minus = a1 - a2;
+  const T b0 = x[6] + s[2], b1 = less(x[6], 0.5, s[2]), b2 = times(h, d[2]), b_plus = b1 + b2,
+          b_minus = b1 - b2;
   const T e0 = a0 + b0, e_half = a0 - b0, e1 = a_plus + b_minus, e2 = a_plus - b_minus, e3 = a_minus + b_plus,
           e4 = a_minus - b_plus;
   const T p = s[1] + s[5], q = d[1] + d[5], o0 = s[3] + p, p3 = d[3] - q, r = less(s[3], 0.5, p),

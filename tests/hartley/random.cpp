@@ -1,5 +1,5 @@
-// Random vectors in [-1, 1]: the error of an output, relative to the greatest one of its vector. Few vectors in a
-// thousand pass 2e-7 or 6e-16, all of them at lengths that go through two convolutions in turn.
+// Random vectors in [-1, 1]: the error of an output, relative to the greatest one of its vector. Few vectors
+// in a thousand pass 2e-7 or 6e-16, all of them at lengths that go through two convolutions in turn.
 #include <algorithm>
 #include <cmath>
 
@@ -30,7 +30,8 @@ TEST_P(RandomHartley, StaysWithinTheBound) {
   double worst = 0;
   for (int round = 0; round < rounds; ++round) {
     const Array src = random_input();
-    const double error = relative_error(separate(src, XFM_SCALE_NONE), transform(*reference, src, kernel().written));
+    const double error =
+        relative_error(separate(src, XFM_SCALE_NONE), transform(*reference, src, kernel().written));
     beyond += error > bound ? 1 : 0;
     worst = std::max(worst, error);
   }
