@@ -169,7 +169,7 @@ void check_memory(const Network& network, Order order, int read, int written, co
 
 void check_memory(const Network& network, int read, int written, const std::string& name,
                   const std::vector<int>& unread) {
-  for (const Order order : {Order::windows, Order::bisection})
+  for (const Order order : {Order::windows, Order::earliest, Order::bisection})
     check_memory(network, order, read, written, name, unread);
 }
 

@@ -35,7 +35,7 @@ class Body {
 
   std::string text() {
     std::string lines;
-    for (const Step& step : schedule(network_, order())) {
+    for (const Step& step : schedule(network_, kernel_.order)) {
       lines += step.node >= 0 ? compute(step.node)
                               : store(network_.stores()[static_cast<std::size_t>(step.store)]);
     }
@@ -52,12 +52,6 @@ class Body {
   }
 
  private:
-  // Plain scalar operations are short of registers; packed ones and statements of waiting.
-  Order order() const {
-    const bool plain = network_.width() == 1 && kernel_.type.precision == Precision::twofold;
-    return plain ? Order::bisection : Order::windows;
-  }
-
   // Statements carry binary64 constants whatever the kernel's precision.
   Precision constant_precision() const {
     return network_.rounding() == Rounding::statement ? Precision::twofold : kernel_.type.precision;

@@ -13,6 +13,13 @@ enum class Precision { single, twofold };
 /// Which of the scale flags carry 1/N.
 enum class Scaling { forward, inverse, symmetric };
 
+/// The order in which a kernel's operations are written down.
+enum class Order {
+  windows,    ///< the recipe's stages, smoothed by when an operation can start
+  earliest,   ///< by when an operation can start
+  bisection,  ///< few values in flight (bisection.h)
+};
+
 struct ElementType {
   Precision precision;
   bool complex;
@@ -34,6 +41,7 @@ struct Kernel {
   std::string tree;   ///< breakdown, as the row has it
   int adds, mults;    ///< the row's bounds
   std::unique_ptr<Network> network;
+  Order order = Order::windows;
 
   bool packed() const { return network->width() > 1; }
 };

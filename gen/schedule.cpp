@@ -19,7 +19,7 @@ class Scheduler {
 
   std::vector<Step> run(Order order) {
     for (const NodeId id : loads_of_tails()) emit(id);
-    for (const NodeId id : order == Order::windows ? windows() : bisected(network_, inner())) {
+    for (const NodeId id : order == Order::bisection ? bisected(network_, inner()) : windows(order)) {
       emit(id);
       if (loads_ == 0) finish_ready();
     }
@@ -55,9 +55,9 @@ class Scheduler {
   // The recipe's order, but no operation before those that can start a window earlier: what waits for long
   // chains does not hold up what is ready. Within a window the order of the stages stays, for few live
   // values.
-  std::vector<NodeId> windows() const {
+  std::vector<NodeId> windows(Order of) const {
     // cycles; 12 spills more, 48 is the recipe's order up to a few hundred operations
-    const int window = network_.width() == 1 ? 16 : 24;
+    const int window = of == Order::earliest ? 1 : network_.width() == 1 ? 16 : 24;
     std::vector<int> start(state_.size(), 0), end(state_.size(), 0);
     for (NodeId id = 0; id < size(); ++id) {
       if (state_[index(id)] != State::live) continue;

@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "gen/network.h"
+#include "gen/kernel.h"
 
 namespace xfm::gen {
 
@@ -13,17 +13,12 @@ struct Step {
   int store = -1;
 };
 
-enum class Order {
-  windows,    ///< the recipe's stages, smoothed by when an operation can start
-  bisection,  ///< few values in flight (bisection.h)
-};
-
 /// The live operations in an order: loads at their first use, and each output finished and stored as soon as
 /// its operands are there and the last load is done.
 ///
-/// Measured: windows are best for packed kernels, up to a tenth faster than the recipe's order alone, and for
-/// scalar kernels whose statements are long chains of conversions. For scalar kernels of plain operations
-/// bisection halves the spills of large lengths.
+/// Measured: windows are best for most packed kernels, up to a tenth faster than the recipe's order alone,
+/// and for scalar kernels whose statements are long chains of conversions. For scalar kernels of plain
+/// operations bisection halves the spills of large lengths.
 std::vector<Step> schedule(const Network& network, Order order = Order::windows);
 
 /// The operands of a node, present ones only.

@@ -22,6 +22,13 @@ constexpr ChosenRoot roots_single[] = {
     {53, 53, {8, 11}}, {57, 19, {3, 0}}, {61, 61, {18, 10}},
 };
 
+// Kernels that were measured to gain by starting every operation as early as it can.
+struct EagerKernel {
+  int length;
+  Precision precision;
+};
+constexpr EagerKernel eager[] = {{16, Precision::twofold}, {32, Precision::single}};
+
 }  // namespace
 
 const char* Choices::tree(int length) const {
@@ -46,6 +53,13 @@ Five Choices::five(int index, bool real, bool transposed) const {
     default:
       return Five::outer_first;
   }
+}
+
+gen::Order Choices::order() const {
+  const bool chosen = std::any_of(std::begin(eager), std::end(eager), [&](const EagerKernel& kernel) {
+    return kernel.length == length_ && kernel.precision == precision_;
+  });
+  return chosen ? gen::Order::earliest : gen::Order::windows;
 }
 
 gen::Root Choices::root(int prime) const {

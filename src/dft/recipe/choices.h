@@ -24,6 +24,8 @@ class Choices {
 
   gen::Root root(int prime) const;
 
+  gen::Order order() const;
+
  private:
   int length_;
   gen::Precision precision_;

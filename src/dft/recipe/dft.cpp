@@ -124,7 +124,8 @@ Kernel make_kernel(int length, Precision precision, Direction direction, const s
                 .tree = text,
                 .adds = breakdown.adds,
                 .mults = breakdown.mults,
-                .network = nullptr};
+                .network = nullptr,
+                .order = Choices(length, precision).order()};
   kernel.name = "xfm" + kernel.family + "_" + std::to_string(length) + "_" + kernel.type.suffix();
   const Tree parsed = gen::parse_tree(text);
   check_length(parsed, length);

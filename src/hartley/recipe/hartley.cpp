@@ -107,7 +107,8 @@ Kernel make_kernel(int length, Precision precision, const std::string& plan) {
                 .tree = plan.empty() ? of.plan : plan,
                 .adds = of.adds,
                 .mults = of.mults,
-                .network = nullptr};
+                .network = nullptr,
+                .order = precision == Precision::twofold ? gen::Order::bisection : gen::Order::windows};
   kernel.name = "xfm" + kernel.family + "_" + std::to_string(length) + "_" + kernel.type.suffix();
   const Tree whole = spelled_out(gen::parse_tree(kernel.tree));
   if (gen::real::length_of(whole) != length)

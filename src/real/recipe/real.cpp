@@ -134,7 +134,8 @@ Kernel make_kernel(int length, Precision precision, Direction direction, Layout 
                 .tree = tree.empty() ? breakdown.tree : tree,
                 .adds = breakdown.adds,
                 .mults = breakdown.mults - length,
-                .network = nullptr};
+                .network = nullptr,
+                .order = precision == Precision::twofold ? gen::Order::bisection : gen::Order::windows};
   kernel.name = "xfm" + kernel.family + "_" + std::to_string(length) + "_" + kernel.type.suffix();
   const char* const chosen = tree.empty() ? plan_of_least_error(forwards, length) : nullptr;
   const Tree whole =
