@@ -12,9 +12,9 @@
 #include <fmt/format.h>
 #include <CLI/CLI.hpp>
 
-#include "sound/progress.h"
 #include "lapped.h"
 #include "sound.h"
+#include "sound/progress.h"
 
 namespace {
 

@@ -131,7 +131,8 @@ class Hartley : public Definition {
   }
   double greatest(int in) const override {
     double most = 0;
-    for (int out = 0; out < length_; ++out) most = std::max(most, std::abs(static_cast<double>(entry(out, in))));
+    for (int out = 0; out < length_; ++out)
+      most = std::max(most, std::abs(static_cast<double>(entry(out, in))));
     return most;
   }
 
