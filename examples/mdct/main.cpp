@@ -1,9 +1,11 @@
 // A round trip of a sound through the MDCT: what a lossy codec does, without its bit stream.
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <exception>
 #include <filesystem>
 #include <limits>
+#include <span>
 #include <stdexcept>
 #include <string>
 #include <unordered_map>
@@ -13,8 +15,10 @@
 #include <CLI/CLI.hpp>
 
 #include "lapped.h"
-#include "sound.h"
+#include "sound/about.h"
+#include "sound/audio.h"
 #include "sound/progress.h"
+#include "sound/wav.h"
 
 namespace {
 
@@ -73,76 +77,81 @@ struct Powers {
   }
 };
 
-/// The blocks of all channels, interleaved as in the file.
+using Signals = std::vector<std::vector<float>>;
+
+/// All channels, block by block.
 class RoundTrip {
  public:
-  RoundTrip(Sound& from, Sound& to, Dct4& transform, double step)
+  RoundTrip(Audio& from, Wav& to, Dct4& transform, double step)
       : from_(from),
         to_(to),
-        channels_(static_cast<std::size_t>(from.channels())),
-        length_(transform.length()),
         quantise_(step),
-        lapped_(channels_, Lapped(transform)),
-        block_(length_ * channels_),
-        before_(block_.size()),
-        copy_(block_.size()),
-        one_(length_) {}
+        lapped_(static_cast<std::size_t>(from.channels()), Lapped(transform)),
+        block_(lapped_.size(), std::vector<float>(transform.length())),
+        before_(block_),
+        copy_(block_) {}
 
   // What comes out is one block behind what goes in, so a block of silence follows the last one.
   void run(Progress& progress) {
-    std::size_t before = from_.read(before_);
-    for (std::size_t c = 0; c < channels_; ++c) pass(before_, c);
+    std::size_t before = read(before_);
+    pass(before_);
     for (double done = 0; before > 0;) {
-      const std::size_t got = from_.read(block_);
-      for (std::size_t c = 0; c < channels_; ++c) pass(block_, c);
-      const std::size_t samples = before * channels_;
-      for (std::size_t i = 0; i < samples; ++i) powers_.add(before_[i], copy_[i]);
-      to_.write(std::span(copy_).first(samples));
+      const std::size_t got = read(block_);
+      pass(block_);
+      write(before);
       done += static_cast<double>(before) / from_.rate();
       progress(done);
       before_.swap(block_);
       before = got;
     }
+    to_.close();
   }
 
   const Powers& powers() const { return powers_; }
   const Quantiser& quantiser() const { return quantise_; }
 
  private:
-  void pass(const std::vector<float>& block, std::size_t channel) {
-    for (std::size_t i = 0; i < length_; ++i) one_[i] = block[i * channels_ + channel];
-    auto coefficients = quantise_(lapped_[channel].analyse(one_));
-    lapped_[channel].synthesise(coefficients, one_);
-    for (std::size_t i = 0; i < length_; ++i) copy_[i * channels_ + channel] = one_[i];
+  /// Behind the end of the sound there is silence.
+  std::size_t read(Signals& signals) {
+    const std::vector<std::span<float>> channels(signals.begin(), signals.end());
+    const std::size_t got = from_.read(channels);
+    for (auto& signal : signals)
+      std::fill(signal.begin() + static_cast<std::ptrdiff_t>(got), signal.end(), 0.0F);
+    return got;
   }
 
-  Sound& from_;
-  Sound& to_;
-  std::size_t channels_, length_;
+  void pass(const Signals& signals) {
+    for (std::size_t c = 0; c < signals.size(); ++c) {
+      auto coefficients = quantise_(lapped_[c].analyse(signals[c]));
+      lapped_[c].synthesise(coefficients, copy_[c]);
+    }
+  }
+
+  void write(std::size_t samples) {
+    std::vector<std::span<const float>> channels;
+    for (std::size_t c = 0; c < copy_.size(); ++c) {
+      for (std::size_t i = 0; i < samples; ++i) powers_.add(before_[c][i], copy_[c][i]);
+      channels.push_back(std::span(copy_[c]).first(samples));
+    }
+    to_.write(channels);
+  }
+
+  Audio& from_;
+  Wav& to_;
   Quantiser quantise_;
   std::vector<Lapped> lapped_;
-  std::vector<float> block_, before_, copy_, one_;
+  Signals block_, before_, copy_;
   Powers powers_;
 };
-
-/// Puts the file's name before whatever went wrong with it.
-template <typename Work>
-auto about(const std::string& file, Work work) {
-  try {
-    return work();
-  } catch (const std::exception& error) {
-    throw std::runtime_error(file + ": " + error.what());
-  }
-}
 
 void run(const Options& options) {
   if (!(options.step >= 0)) throw std::runtime_error("a step is not negative");
   Dct4 transform(options.length);
-  Sound from = about(options.sound, [&] { return Sound(options.sound); });
+  Audio from = about(options.sound, [&] { return Audio(options.sound); });
   std::error_code nothing_there;
   if (std::filesystem::equivalent(options.sound, options.output, nothing_there))
     throw std::runtime_error(options.output + ": is the sound itself");
-  Sound to = about(options.output, [&] { return Sound(options.output, from.channels(), from.rate()); });
+  Wav to = about(options.output, [&] { return Wav(options.output, from.rate(), from.channels()); });
   RoundTrip trip(from, to, transform, options.step);
   Progress progress(from.seconds());
   about(options.output, [&] { trip.run(progress); });

@@ -2,10 +2,13 @@
 
 #include <cerrno>
 #include <cstring>
+#include <filesystem>
 #include <fstream>
 #include <stdexcept>
 
 Wav::Wav(const std::string& path, int rate, int channels) {
+  std::error_code ignored;  // opening the file tells what is wrong
+  std::filesystem::create_directories(std::filesystem::path(path).parent_path(), ignored);
   if (!std::ofstream(path)) throw std::runtime_error(std::strerror(errno));
   SF_INFO info{};
   info.samplerate = rate;

@@ -11,6 +11,7 @@
 /// All failures are std::runtime_error with a message of one line.
 class Wav {
  public:
+  /// Folders that the path names are made.
   Wav(const std::string& path, int rate, int channels);
 
   /// The next samples of all channels; the arrays are equally long.
