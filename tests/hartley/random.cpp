@@ -1,5 +1,5 @@
 // Random vectors in [-1, 1]: the error of an output, relative to the greatest one of its vector. Few vectors
-// in a thousand pass 2e-7 or 6e-16, all of them at lengths that go through two convolutions in turn.
+// in a hundred pass 2e-7 or 6e-16, most of them at long primes.
 #include <algorithm>
 #include <cmath>
 
@@ -38,7 +38,7 @@ TEST_P(RandomHartley, StaysWithinTheBound) {
   RecordProperty("worst", std::to_string(worst / bound));
   RecordProperty("beyond", beyond);
   EXPECT_LE(beyond, rounds / 50) << "worst " << worst;
-  EXPECT_LE(worst, 1.5 * bound);
+  EXPECT_LE(worst, 1.2 * bound);
 }
 
 INSTANTIATE_TEST_SUITE_P(All, RandomHartley, testing::ValuesIn(kernels_of("Hartley")), ByName());
