@@ -117,7 +117,7 @@ class LaneCounter {
     counts_.adds += adds;
     counts_.mults += mults;
     counts_.add_nodes += adds;
-    counts_.mult_nodes += mults + (node.finish == Finish::none ? 0 : 1);
+    counts_.mult_nodes += mults + (scales(node.finish) ? 1 : 0);
     if (node.finish == Finish::negated) {
       ++counts_.adds;
       ++counts_.add_nodes;

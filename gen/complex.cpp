@@ -42,7 +42,7 @@ Complex sum(const std::vector<ScaledComplex>& terms) {
   return {combine(terms, &Complex::p), combine(terms, &Complex::q)};
 }
 
-Value statement(std::vector<Network::Product> terms) {
+Value statement(std::vector<Network::Product> terms, Finish finish) {
   if (terms.empty()) return {};
   const bool turned = std::all_of(terms.begin(), terms.end(), is_negative);
   if (turned) {
@@ -56,7 +56,7 @@ Value statement(std::vector<Network::Product> terms) {
     if (leader == terms.end()) leader = std::find_if(terms.begin(), terms.end(), leads);
   }
   std::rotate(terms.begin(), leader, leader + 1);
-  const Value sum = terms.front().v.network->sum(terms);
+  const Value sum = terms.front().v.network->sum(terms, finish);
   return turned ? -sum : sum;
 }
 

@@ -46,7 +46,7 @@ Complex sum(const std::vector<ScaledComplex>& terms);
 /// One statement, written with a positive term first where it has one: a leading negative term gives way to
 /// the plain operand, or else to the first positive product. Without any positive term it is the negative of
 /// the statement of the turned terms. So a zero comes out as +0.
-Value statement(std::vector<Network::Product> terms);
+Value statement(std::vector<Network::Product> terms, Finish finish = Finish::none);
 Complex statement(const std::vector<ScaledComplex>& terms);
 
 /// w*z, (c + i*s)*(p + i*q) = (c*p - s*q) + i*(s*p + c*q), each product rounded by itself; products with 0, 1

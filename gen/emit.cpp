@@ -85,7 +85,9 @@ class Body {
   static std::string var(NodeId id) { return fmt::format("v{}", id); }
 
   std::string compute(NodeId id) {
-    return fmt::format("  const {} {} = {};\n", value_type(), var(id), expression(network_.node(id)));
+    const Node& node = network_.node(id);
+    const std::string type = node.finish == Finish::kept ? "xfm64f" : value_type();
+    return fmt::format("  const {} {} = {};\n", type, var(id), expression(node));
   }
 
   std::string expression(const Node& node) {
@@ -148,9 +150,11 @@ class Body {
       const std::string operand = fmt::format("xfm64f{{{}}}", var(term.node));
       sum += c.is_one() ? operand : fmt::format("{} * {}", use(c), operand);
     }
-    if (node.finish != Finish::none) sum = fmt::format("xfm64f{{s}} * ({})", sum);
+    if (scales(node.finish)) sum = fmt::format("xfm64f{{s}} * ({})", sum);
     if (node.finish == Finish::negated) sum = "0 - " + sum;
-    return kernel_.type.precision == Precision::single ? fmt::format("static_cast<xfm32f>({})", sum) : sum;
+    return kernel_.type.precision == Precision::single && node.finish != Finish::kept
+               ? fmt::format("static_cast<xfm32f>({})", sum)
+               : sum;
   }
 
   std::string load(const Node& node) const {

@@ -19,34 +19,37 @@ class Interpreter {
       values_[id] = compute(network_.nodes()[id], src, factor);
     for (const Store& store : network_.stores()) {
       for (std::size_t l = 0; l < max_lanes; ++l) {
-        if (store.lanes[l] >= 0) dst[store.lanes[l]] = store.node < 0 ? T(0) : at(store.node)[l];
+        if (store.lanes[l] >= 0)
+          dst[store.lanes[l]] = store.node < 0 ? T(0) : static_cast<T>(at(store.node)[l]);
       }
     }
   }
 
  private:
-  using Lanes = std::array<T, max_lanes>;
+  /// Statements compute in binary64, or in T where that is wider.
+  using Inner = std::conditional_t<std::is_same_v<T, float>, double, T>;
+  using Lanes = std::array<Inner, max_lanes>;
 
   const Lanes& at(NodeId id) const { return values_[static_cast<std::size_t>(id)]; }
 
   Lanes compute(const Node& node, const T* src, T factor) const {
     Lanes result{};
     for (std::size_t l = 0; l < static_cast<std::size_t>(network_.width()); ++l)
-      result[l] = lane(node, l, src, factor);
+      result[l] = node.op == Op::sum ? statement(node, factor) : lane(node, l, src, factor);
     return result;
   }
 
   T lane(const Node& node, std::size_t l, const T* src, T factor) const {
-    const auto in = [&](std::size_t operand) { return at(node.in[operand])[l]; };
+    const auto in = [&](std::size_t operand) { return static_cast<T>(at(node.in[operand])[l]); };
     switch (node.op) {
       case Op::load:
         return node.lanes[l] >= 0 ? src[node.lanes[l]] : T(0);
       case Op::shuffle: {
         const auto pick = static_cast<std::size_t>(node.lanes[l]);
-        return at(node.in[pick / max_lanes])[pick % max_lanes];
+        return static_cast<T>(at(node.in[pick / max_lanes])[pick % max_lanes]);
       }
       case Op::exchange:
-        return at(node.in[0])[1 - l];
+        return static_cast<T>(at(node.in[0])[1 - l]);
       case Op::flip:
         return node.lanes[l] == 1 ? -in(0) : in(0);
       case Op::add:
@@ -60,25 +63,24 @@ class Interpreter {
       case Op::minus:
         return T(0) - in(0);
       case Op::sum:
-        return statement(node, factor);
+        break;
       case Op::factor:
         return factor * in(0);
     }
     return T(0);
   }
 
-  // One rounded linear combination: in binary64, or in T where that is wider.
-  T statement(const Node& node, T factor) const {
-    using Inner = std::conditional_t<std::is_same_v<T, float>, double, T>;
+  // A linear combination, rounded once unless it is kept.
+  Inner statement(const Node& node, T factor) const {
     Inner total = 0;
     for (std::size_t t = 0; t < node.terms.size(); ++t) {
       const Term& term = node.terms[t];
-      const Inner product = static_cast<Inner>(term.coefficient.value) * static_cast<Inner>(at(term.node)[0]);
+      const Inner product = static_cast<Inner>(term.coefficient.value) * at(term.node)[0];
       total = t == 0 ? product : total + product;
     }
-    if (node.finish != Finish::none) total = static_cast<Inner>(factor) * total;
+    if (scales(node.finish)) total = static_cast<Inner>(factor) * total;
     if (node.finish == Finish::negated) total = 0 - total;
-    return static_cast<T>(total);
+    return node.finish == Finish::kept ? total : static_cast<T>(total);
   }
 
   const Network& network_;

@@ -56,13 +56,9 @@ Value Network::twice(Value v) { return make({.op = Op::twice, .in = {v.node, -1}
 
 Value Network::minus(Value v) { return make({.op = Op::minus, .in = {v.node, -1}}, v.negative); }
 
-Value Network::output(const std::vector<Term>& terms, Finish finish) {
-  return make({.op = Op::sum, .terms = terms, .finish = finish});
-}
-
 Value Network::factor(Value v) { return make({.op = Op::factor, .in = {v.node, -1}}, v.negative); }
 
-Value Network::sum(std::span<const Product> products) {
+Value Network::sum(std::span<const Product> products, Finish finish) {
   std::vector<Product> terms;
   for (const Product& p : products) {
     if (!p.v.absent() && !p.c.is_zero()) terms.push_back(p);
@@ -73,7 +69,7 @@ Value Network::sum(std::span<const Product> products) {
     return total;
   }
   if (terms.empty()) return {};
-  Node node{.op = Op::sum};
+  Node node{.op = Op::sum, .finish = finish};
   for (const Product& p : terms) node.terms.push_back({p.v.negative ? -p.c : p.c, p.v.node});
   return make(std::move(node));
 }

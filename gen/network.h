@@ -58,7 +58,9 @@ enum class Finish {
   none,
   scaled,   ///< times the scale factor
   negated,  ///< times the scale factor, and 0 minus that
+  kept,     ///< nothing, and it is not rounded: statements alone use it
 };
+inline bool scales(Finish finish) { return finish == Finish::scaled || finish == Finish::negated; }
 
 struct Node {
   Op op;
@@ -108,16 +110,13 @@ class Network {
   Value factor(Value v);
   Value minus(Value v);  ///< -v as an operation, for the outputs that need it
 
-  /// The sum of the products c*v, left to right: one statement, or an operation at a time, as the rounding
-  /// rule says.
+  /// The sum of the products c*v, left to right: one statement with this finish, or an operation at a time,
+  /// as the rounding rule says.
   struct Product {
     Constant c;
     Value v;
   };
-  Value sum(std::span<const Product> products);
-
-  /// A statement that goes straight to an output: the factor, and the sign of the result, are inside.
-  Value output(const std::vector<Term>& terms, Finish finish);
+  Value sum(std::span<const Product> products, Finish finish = Finish::none);
 
   void store(Value v, std::array<int, max_lanes> scalars);
   void store(Value v, int scalar) { store(v, {scalar, -1, -1, -1}); }

@@ -114,8 +114,8 @@ class Scheduler {
       if (at(id) != State::live) continue;
       const Op op = network_.node(id).op;
       const bool joins = op == Op::exchange || op == Op::flip || op == Op::shuffle || is_join(id);
-      const bool scales = op == Op::factor || op == Op::minus || network_.node(id).finish != Finish::none;
-      tail_[index(id)] = scales || (joins && !other[index(id)]);
+      const bool ends = op == Op::factor || op == Op::minus || scales(network_.node(id).finish);
+      tail_[index(id)] = ends || (joins && !other[index(id)]);
       if (tail_[index(id)]) continue;
       for (const NodeId operand : operands(network_.node(id))) other[index(operand)] = true;
     }

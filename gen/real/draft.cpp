@@ -49,7 +49,8 @@ class Binder {
   const Node& node(NodeId id) const { return draft_.network->node(id); }
 
   // What a node of the draft stands for, by the node that was made of it or of its negative.
-  Value value(NodeId id) const { return {made_.get(), made_nodes_[index(id)], turned_[index(id)]}; }
+  Value value(NodeId id) const { return turned_[index(id)] ? -made(id) : made(id); }
+  Value made(NodeId id) const { return {made_.get(), made_nodes_[index(id)], false}; }
 
   Value make(NodeId id) {
     const Node& of = node(id);
@@ -65,29 +66,29 @@ class Binder {
       case Op::twice:
         return made_->twice(in(0));
       case Op::sum:
-        return made_->output(terms(id), Finish::none);
+        return made_->sum(terms(id), node(id).finish);
       default:
         throw std::logic_error("a draft holds sums and statements alone");
     }
   }
 
   // The terms of a statement, or of its negative, a positive one first.
-  std::vector<Term> terms(NodeId id) const {
-    std::vector<Term> all;
+  std::vector<Network::Product> terms(NodeId id) const {
+    std::vector<Network::Product> all;
     for (const Term& term : node(id).terms) {
       const bool minus = turned_[index(id)] != turned_[index(term.node)];
-      all.push_back({minus ? -term.coefficient : term.coefficient, value(term.node).node});
+      all.push_back({minus ? -term.coefficient : term.coefficient, made(term.node)});
     }
     const auto leader =
-        std::find_if(all.begin(), all.end(), [](const Term& t) { return !t.coefficient.is_negative(); });
+        std::find_if(all.begin(), all.end(), [](const Network::Product& p) { return !p.c.is_negative(); });
     if (leader != all.end()) std::rotate(all.begin(), leader, leader + 1);
     return all;
   }
 
   Value output(const Value& v) {
     const bool minus = v.negative != turned_[index(v.node)];
-    if (open_[index(v.node)]) return made_->output(terms(v.node), minus ? Finish::negated : Finish::scaled);
-    const Value scaled = made_->factor({made_.get(), made_nodes_[index(v.node)], false});
+    if (open_[index(v.node)]) return made_->sum(terms(v.node), minus ? Finish::negated : Finish::scaled);
+    const Value scaled = made_->factor(made(v.node));
     return minus ? made_->minus(scaled) : scaled;
   }
 

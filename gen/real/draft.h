@@ -4,6 +4,7 @@
 #include <memory>
 #include <vector>
 
+#include "gen/kernel.h"
 #include "gen/network.h"
 
 namespace xfm::gen::real {
@@ -22,6 +23,11 @@ struct Binding {
   std::vector<int> zeros{};    ///< elements of dst that are zero whatever the data
   bool factor_inside = false;  ///< of the statement, where one makes an output and nothing else
 };
+
+/// Plain operations are short of registers, statements of waiting.
+inline Order order(Precision precision) {
+  return precision == Precision::twofold ? Order::bisection : Order::windows;
+}
 
 /// The kernel's network, with the values that are turned made as their negatives (signs.h). Every output is
 /// multiplied by the factor as its last step; one whose sign is still wrong then is subtracted from zero.

@@ -7,6 +7,7 @@
 #include <stdexcept>
 
 #include "gen/complex.h"
+#include "gen/schedule.h"
 
 namespace xfm::gen::real {
 namespace {
@@ -153,9 +154,48 @@ class PairMerging : Rebuilding {
   std::set<NodeId> vanishing_;
 };
 
+// Statements of products alone stay in binary64, and the additions that use them become statements.
+class Keeping : Rebuilding {
+ public:
+  using Rebuilding::Rebuilding;
+
+  Draft run() {
+    const std::vector<bool> kept = kept_statements();
+    for (NodeId id = 0; id < size(); ++id) {
+      if (!live(id)) continue;
+      const Node& of = node(id);
+      const bool adds = of.op == Op::add || of.op == Op::sub;
+      if (kept[index(id)]) {
+        define(id, statement(terms(id), Finish::kept));
+      } else if (adds && (kept[index(of.in[0])] || kept[index(of.in[1])])) {
+        const Constant one = constant("1", 1);
+        define(id, statement({{one, value(of.in[0])}, {of.op == Op::sub ? -one : one, value(of.in[1])}}));
+      } else {
+        define(id, copy(id));
+      }
+    }
+    return finished();
+  }
+
+ private:
+  std::vector<bool> kept_statements() const {
+    std::vector<bool> kept(uses_.size(), false);
+    for (NodeId id = 0; id < size(); ++id)
+      kept[index(id)] = live(id) && node(id).op == Op::sum && only_products(node(id));
+    for (NodeId id = 0; id < size(); ++id) {
+      if (!live(id) || node(id).op == Op::add || node(id).op == Op::sub) continue;
+      for (const NodeId in : operands(node(id))) kept[index(in)] = false;
+    }
+    for (const Value& output : old_.outputs) kept[index(output.node)] = false;
+    return kept;
+  }
+};
+
 }  // namespace
 
 Draft merged(const Draft& draft) { return Merging(draft).run(); }
+
+Draft kept(const Draft& draft) { return Keeping(draft).run(); }
 
 Draft merged_pairs(const Draft& draft) { return PairMerging(draft).run(); }
 

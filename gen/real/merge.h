@@ -1,16 +1,20 @@
-// Merging of constants in a draft: what a statement of products alone yields, used once and by a single
-// product, takes that product's constant into its own. Both constants are multiplied out before they are
-// rounded. Saves a multiplication and a rounding.
+// What becomes of statements of products alone in a draft.
 #pragma once
 
 #include "gen/real/draft.h"
 
 namespace xfm::gen::real {
 
+/// One that is used once and by a single product takes that product's constant into its own. Both constants
+/// are multiplied out before they are rounded. Saves a multiplication and a rounding.
 Draft merged(const Draft& draft);
 
 /// Merges only what two products share: where u + v and u - v are multiplied by the same constant and used in
-/// no other way, u and v, statements of products alone, take it.
+/// no other way, u and v take it.
 Draft merged_pairs(const Draft& draft);
+
+/// What additions and subtractions alone use stays in binary64 through them: one rounding instead of two, at
+/// equal counts.
+Draft kept(const Draft& draft);
 
 }  // namespace xfm::gen::real

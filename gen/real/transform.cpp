@@ -4,6 +4,12 @@
 
 namespace xfm::gen::real {
 
+Values samples(Network& network, int length) {
+  Values x;
+  for (int n = 0; n < length; ++n) x.push_back(network.load(n));
+  return x;
+}
+
 int length_of(const Tree& plan) {
   if (plan.is_number()) return plan.number;
   if (plan.rule == "D") return plan.args[0].number;

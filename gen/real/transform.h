@@ -20,6 +20,9 @@ namespace xfm::gen::real {
 
 using Values = std::vector<Value>;
 
+/// Inputs 0..length-1.
+Values samples(Network& network, int length);
+
 /// The number of samples of a plan.
 int length_of(const Tree& plan);
 

@@ -3,9 +3,7 @@
 // once.
 #include <ios>
 
-#include "tests/bits/data.h"
-#include "tests/support/kernel_test.h"
-#include "tests/support/reference.h"
+#include "tests/bits/finite_data_test.h"
 
 namespace xfm::test {
 namespace {
@@ -60,7 +58,7 @@ Samples<T> hartley12(const Samples<T>& x) {
           e0 - o0, e2 - o2, e3 + o3, p3 + e_half, e1 - o1, e4 - o4};
 }
 
-class PlainHartley : public KernelTest {
+class PlainHartley : public FiniteDataTest {
  protected:
   template <class T>
   void compare(const Array& src, std::int32_t flag) {
@@ -76,19 +74,9 @@ class PlainHartley : public KernelTest {
 };
 
 TEST_P(PlainHartley, EqualsTheEquations) {
-  constexpr int rounds = 16;
-  for (const Data& data : all_data()) {
-    if (data.overflows) continue;  // infinity less infinity
-    for (int round = 0; round < rounds; ++round) {
-      const Array src = draw(data, random, kernel().precision, kernel().read);
-      for (const std::int32_t flag : flags) {
-        if (kernel().precision == Precision::single)
-          ASSERT_NO_FATAL_FAILURE(compare<float>(src, flag)) << data.name << " data, round " << round;
-        else
-          ASSERT_NO_FATAL_FAILURE(compare<double>(src, flag)) << data.name << " data, round " << round;
-      }
-    }
-  }
+  on_finite_data([&](const Array& src, std::int32_t flag) {
+    kernel().precision == Precision::single ? compare<float>(src, flag) : compare<double>(src, flag);
+  });
 }
 
 /// All of them must be in the catalogue: what is not there is a failure of its own.

@@ -21,8 +21,7 @@ constexpr AccuracyException accuracy_exceptions[] = {
     {"DFTFwd_RToCCS", "32f", 47, 2.06e-7},  {"DFTFwd_RToCCS", "32f", 59, 2.01e-7},
     {"DFTFwd_RToPack", "32f", 47, 2.06e-7}, {"DFTFwd_RToPack", "32f", 59, 2.01e-7},
     {"DFTFwd_RToPerm", "32f", 47, 2.06e-7}, {"DFTFwd_RToPerm", "32f", 59, 2.01e-7},
-    {"Hartley", "32f", 31, 2.83e-7},        {"Hartley", "32f", 47, 2.84e-7},
-    {"Hartley", "32f", 59, 3.10e-7},        {"Hartley", "32f", 62, 2.83e-7},
+    {"Hartley", "32f", 31, 2.83e-7},        {"Hartley", "32f", 62, 2.83e-7},
 };
 
 }  // namespace xfm::test

@@ -1,5 +1,5 @@
-// Real transforms as networks: every rule of a plan against the definition in binary128, the merging of
-// constants, signs, and the order by bisection.
+// Real transforms as networks: every rule of a plan against the definition in binary128, what becomes
+// of products, signs, and the order by bisection.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -16,12 +16,6 @@
 
 namespace xfm::gen::real {
 namespace {
-
-Values samples(Network& network, int length) {
-  Values x;
-  for (int n = 0; n < length; ++n) x.push_back(network.load(n));
-  return x;
-}
 
 /// The greatest difference of the bins of unit vectors from exp(-2 pi i n (k + offset/2)/N).
 double error_of(Network& network, const Points& bins, int length, int offset) {
@@ -141,6 +135,30 @@ TEST(Merging, OfPairsTakesWhatBothShare) {
   EXPECT_EQ(statements(pair), 2);
   EXPECT_EQ(test::lanes_of<double>(*pair.network, pair.outputs[0], {1, 10})[0], 21 + 350);
   EXPECT_EQ(test::lanes_of<double>(*pair.network, pair.outputs[1], {1, 10})[0], 21 - 350);
+}
+
+TEST(Keeping, RoundsAProductOnlyBehindItsAdditions) {
+  Draft draft;
+  const Value x = draft.network->load(0), y = draft.network->load(1);
+  const Value product = statement({{constant("tenth", Wide(0.1)), x}});
+  draft.outputs = {y + product, y - product};
+  const Draft once = kept(draft);
+  const std::vector<float> src{23, 2.3F};
+  EXPECT_EQ(test::lanes_of<float>(*draft.network, draft.outputs[1], src)[0], 0);
+  const auto sum = test::lanes_of<float>(*once.network, once.outputs[0], src)[0];
+  const auto difference = test::lanes_of<float>(*once.network, once.outputs[1], src)[0];
+  EXPECT_EQ(sum, static_cast<float>(double{2.3F} + 0.1 * 23));
+  EXPECT_EQ(difference, static_cast<float>(double{2.3F} - 0.1 * 23));
+  EXPECT_NE(difference, 0);
+  EXPECT_EQ(statements(once), 3);
+}
+
+TEST(Keeping, LeavesWhatAnythingElseUses) {
+  Draft draft;
+  const Value x = draft.network->load(0), y = draft.network->load(1);
+  const Value product = statement({{constant("tenth", Wide(0.1)), x}});
+  draft.outputs = {y + product, product};
+  EXPECT_EQ(statements(kept(draft)), 1);
 }
 
 Draft random_draft(unsigned seed) {

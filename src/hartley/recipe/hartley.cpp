@@ -32,16 +32,10 @@ Tree spelled_out(const Tree& tree) {
   return plan;
 }
 
-Values samples(gen::Network& network, int length) {
-  Values x;
-  for (int n = 0; n < length; ++n) x.push_back(network.load(n));
-  return x;
-}
-
 // H[k] = Re X[k] - Im X[k], and H[N-k] = Re X[k] + Im X[k].
 Draft forward(const Tree& plan, int length) {
   Draft draft;
-  const gen::Points bins = gen::real::transform(plan, samples(*draft.network, length));
+  const gen::Points bins = gen::real::transform(plan, gen::real::samples(*draft.network, length));
   draft.outputs.resize(static_cast<std::size_t>(length));
   for (std::size_t k = 0; k < bins.size(); ++k) {
     const std::size_t mirror = (draft.outputs.size() - k) % draft.outputs.size();
@@ -55,9 +49,9 @@ Draft forward(const Tree& plan, int length) {
 // for even N): an inverse real transform of the bins x[j] + x[N-j], x[N-j] - x[j].
 Draft folded(const Tree& plan, int length) {
   gen::Network there(1, gen::Rounding::statement);
-  const gen::Points bins = gen::real::transform(plan, samples(there, length));
+  const gen::Points bins = gen::real::transform(plan, gen::real::samples(there, length));
   Draft draft;
-  const Values x = samples(*draft.network, length);
+  const Values x = gen::real::samples(*draft.network, length);
   gen::Transposition transposition(there);
   for (std::size_t j = 0; j < bins.size(); ++j) {
     const std::size_t mirror = (x.size() - j) % x.size();
@@ -66,6 +60,12 @@ Draft folded(const Tree& plan, int length) {
   }
   for (const Complex& output : transposition.run(length)) draft.outputs.push_back(output.p);
   return draft;
+}
+
+Draft finished(Products products, const Draft& draft) {
+  if (products == Products::merged_in_pairs) return gen::real::merged_pairs(draft);
+  Draft merged = gen::real::merged(draft);
+  return products == Products::kept ? gen::real::kept(merged) : std::move(merged);
 }
 
 // dst[k] = sum over j of src[j] (cos + sin)(2 pi j k/N).
@@ -108,13 +108,13 @@ Kernel make_kernel(int length, Precision precision, const std::string& plan) {
                 .adds = of.adds,
                 .mults = of.mults,
                 .network = nullptr,
-                .order = precision == Precision::twofold ? gen::Order::bisection : gen::Order::windows};
+                .order = gen::real::order(precision)};
   kernel.name = "xfm" + kernel.family + "_" + std::to_string(length) + "_" + kernel.type.suffix();
   const Tree whole = spelled_out(gen::parse_tree(kernel.tree));
   if (gen::real::length_of(whole) != length)
     throw std::invalid_argument("plan " + kernel.tree + " is not one of length " + std::to_string(length));
-  const Draft raw = of.design == Design::forward ? forward(whole, length) : folded(whole, length);
-  const Draft draft = of.merge_pairs ? gen::real::merged_pairs(raw) : gen::real::merged(raw);
+  const Draft draft =
+      finished(of.products, of.design == Design::forward ? forward(whole, length) : folded(whole, length));
   kernel.network = gen::real::bind(draft, natural_order(length), gen::real::turned_signs(draft));
   gen::check_memory(*kernel.network, length, length, kernel.name);
   gen::check_definition(*kernel.network, definition, length, length, kernel.name);

@@ -19,6 +19,14 @@ enum class Output { conjugate, half, radix };
 /// of the input, and an inverse real transform, the transpose of the plan, does the rest.
 enum class Design { forward, folded };
 
+/// What becomes of products on the way (gen/real/merge.h).
+enum class Products {
+  merged,
+  merged_in_pairs,
+  kept,  ///< merged, and in binary64 through the additions behind them, where random data passed the bound of
+         ///< accuracy in one vector of some hundreds
+};
+
 struct Row {
   int length;
   Input input;
@@ -27,8 +35,8 @@ struct Row {
   int radix;
   int adds, mults;  ///< real operations without the factor
   Design design;
-  const char* plan;          ///< as gen/real/transform.h has it; a number is a block or a plan of that length
-  bool merge_pairs = false;  ///< only constants that two products share are merged
+  const char* plan;  ///< as gen/real/transform.h has it; a number is a block or a plan of that length
+  Products products = Products::merged;
 };
 
 std::span<const Row> table();

@@ -31,12 +31,6 @@ std::vector<Half> halves(int length) {
   return all;
 }
 
-gen::real::Values samples(gen::Network& network, int length) {
-  gen::real::Values x;
-  for (int n = 0; n < length; ++n) x.push_back(network.load(n));
-  return x;
-}
-
 gen::Value half(const gen::Points& bins, Half of) {
   const gen::Complex& bin = bins[static_cast<std::size_t>(of.k)];
   return of.part == 0 ? bin.p : bin.q;
@@ -44,7 +38,7 @@ gen::Value half(const gen::Points& bins, Half of) {
 
 Draft forward(const Tree& plan, int length) {
   Draft draft;
-  const gen::Points bins = gen::real::transform(plan, samples(*draft.network, length));
+  const gen::Points bins = gen::real::transform(plan, gen::real::samples(*draft.network, length));
   for (const Half& of : halves(length)) draft.outputs.push_back(half(bins, of));
   return draft;
 }
@@ -52,7 +46,7 @@ Draft forward(const Tree& plan, int length) {
 // The sum over all N bins: those with a conjugate count twice.
 Draft inverse(const Tree& plan, int length) {
   gen::Network there(1, gen::Rounding::statement);
-  const gen::Points bins = gen::real::transform(plan, samples(there, length));
+  const gen::Points bins = gen::real::transform(plan, gen::real::samples(there, length));
   Draft draft;
   gen::Transposition transposition(there);
   for (const Half& of : halves(length)) {
@@ -135,7 +129,7 @@ Kernel make_kernel(int length, Precision precision, Direction direction, Layout 
                 .adds = breakdown.adds,
                 .mults = breakdown.mults - length,
                 .network = nullptr,
-                .order = precision == Precision::twofold ? gen::Order::bisection : gen::Order::windows};
+                .order = gen::real::order(precision)};
   kernel.name = "xfm" + kernel.family + "_" + std::to_string(length) + "_" + kernel.type.suffix();
   const char* const chosen = tree.empty() ? plan_of_least_error(forwards, length) : nullptr;
   const Tree whole =
