@@ -35,8 +35,6 @@ struct Names<float> {
   static constexpr auto init = xfmDCT4InitAlloc_32f;
   static constexpr auto run = xfmDCT4_32f;
   static constexpr auto free = xfmDCT4Free_32f;
-  static constexpr auto plan_r2r_1d = fftwf_plan_r2r_1d;
-  static constexpr auto execute_r2r = fftwf_execute_r2r;
 };
 
 template <>
@@ -45,8 +43,6 @@ struct Names<double> {
   static constexpr auto init = xfmDCT4InitAlloc_64f;
   static constexpr auto run = xfmDCT4_64f;
   static constexpr auto free = xfmDCT4Free_64f;
-  static constexpr auto plan_r2r_1d = fftw_plan_r2r_1d;
-  static constexpr auto execute_r2r = fftw_execute_r2r;
 };
 
 template <class Real>
@@ -76,20 +72,18 @@ class Redft11 final : public Contestant {
   Redft11(int length, Arrays& arrays)
       : src_(static_cast<Real*>(arrays.src())),
         dst_(static_cast<Real*>(arrays.dst())),
-        plan_(Names<Real>::plan_r2r_1d(length, src_, dst_, FFTW_REDFT11, effort(length))) {}
-  Redft11(const Redft11&) = delete;
-  Redft11& operator=(const Redft11&) = delete;
-  ~Redft11() override { fftw::Api<Real>::destroy(plan_); }
+        plan_(fftw::Api<Real>::plan_r2r(1, &length, src_, dst_, &kKind, effort(length))) {}
 
   void run(int calls) override {
-    for (int i = 0; i < calls; ++i) Names<Real>::execute_r2r(plan_, src_, dst_);
+    for (int i = 0; i < calls; ++i) fftw::Api<Real>::execute_r2r(plan_.get(), src_, dst_);
   }
   double factor() const override { return 0.5; }
 
  private:
+  static constexpr fftw_r2r_kind kKind = FFTW_REDFT11;
   Real* src_;
   Real* dst_;
-  typename fftw::Api<Real>::Plan plan_;
+  fftw::Plan<Real> plan_;
 };
 
 /// With z[n] = (x[2n] + i x[N-1-2n]) w[n] and Z its Fourier transform, Z[k] w[k] = y[2k] - i y[N-1-2k].
@@ -100,23 +94,18 @@ class Twisted final : public Contestant {
       : length_(length),
         src_(static_cast<const Real*>(arrays.src())),
         dst_(static_cast<Real*>(arrays.dst())),
-        memory_(3 * count() + kLine) {
-    void* start = memory_.data();
-    std::size_t room = memory_.size() * sizeof(Real);
-    twist_ = static_cast<Real*>(std::align(64, 3 * count() * sizeof(Real), start, room));
-    from_ = twist_ + count();
-    to_ = in_place ? from_ : from_ + count();
-    plan_ =
-        fftw::Api<Real>::plan_dft_1d(length / 2, complex(from_), complex(to_), FFTW_FORWARD, effort(length));
+        memory_(3 * count() + kLine),
+        twist_(aligned(memory_)),
+        from_(twist_ + count()),
+        to_(in_place ? from_ : from_ + count()),
+        plan_(fftw::Api<Real>::plan_dft_1d(length / 2, complex(from_), complex(to_), FFTW_FORWARD,
+                                           effort(length))) {
     for (int n = 0; n < length; n += 2) {
       const double angle = -std::numbers::pi * (4 * n + 1) / (8.0 * length);
       twist_[n] = static_cast<Real>(std::cos(angle));
       twist_[n + 1] = static_cast<Real>(std::sin(angle));
     }
   }
-  Twisted(const Twisted&) = delete;
-  Twisted& operator=(const Twisted&) = delete;
-  ~Twisted() override { fftw::Api<Real>::destroy(plan_); }
 
   void run(int calls) override {
     for (int i = 0; i < calls; ++i) transform(src_, dst_);
@@ -126,6 +115,11 @@ class Twisted final : public Contestant {
   static constexpr std::size_t kLine = 64 / sizeof(Real);
   using Complex = typename fftw::Api<Real>::Complex;
   static Complex* complex(Real* p) { return reinterpret_cast<Complex*>(p); }
+  static Real* aligned(std::vector<Real>& memory) {
+    void* start = memory.data();
+    std::size_t room = memory.size() * sizeof(Real);
+    return static_cast<Real*>(std::align(64, sizeof(Real), start, room));
+  }
   std::size_t count() const { return (static_cast<std::size_t>(length_) + kLine - 1) / kLine * kLine; }
 
   void transform(const Real* __restrict x, Real* __restrict y) const {
@@ -136,7 +130,7 @@ class Twisted final : public Contestant {
       from_[n] = a * w[n] - b * w[n + 1];
       from_[n + 1] = a * w[n + 1] + b * w[n];
     }
-    fftw::Api<Real>::execute_dft(plan_, complex(from_), complex(to_));
+    fftw::Api<Real>::execute_dft(plan_.get(), complex(from_), complex(to_));
     for (int k = 0; k <= last; k += 2) {
       const Real a = to_[k], b = to_[k + 1];
       y[k] = a * w[k] - b * w[k + 1];
@@ -151,7 +145,7 @@ class Twisted final : public Contestant {
   Real* twist_;
   Real* from_;
   Real* to_;
-  typename fftw::Api<Real>::Plan plan_;
+  fftw::Plan<Real> plan_;
 };
 
 catalogue::Kernel row(const std::string& name, Precision precision, int exponent) {

@@ -116,24 +116,19 @@ template <class Real>
 class Hypercube final : public Contestant {
  public:
   Hypercube(int order, fftw_r2r_kind kind, Arrays& arrays)
-      : src_(static_cast<Real*>(arrays.src())), dst_(static_cast<Real*>(arrays.dst())) {
-    const std::vector<int> sides(static_cast<std::size_t>(order), 2);
-    const std::vector<fftw_r2r_kind> kinds(sides.size(), kind);
-    plan_ = Api<Real>::plan_r2r(order, sides.data(), src_, dst_, kinds.data(), FFTW_PATIENT);
-    if (plan_ == nullptr) throw std::runtime_error("FFTW made no plan");
-  }
-  Hypercube(const Hypercube&) = delete;
-  Hypercube& operator=(const Hypercube&) = delete;
-  ~Hypercube() override { Api<Real>::destroy(plan_); }
+      : src_(static_cast<Real*>(arrays.src())),
+        dst_(static_cast<Real*>(arrays.dst())),
+        plan_(Api<Real>::plan_r2r(order, std::vector(static_cast<std::size_t>(order), 2).data(), src_, dst_,
+                                  std::vector(static_cast<std::size_t>(order), kind).data(), FFTW_PATIENT)) {}
 
   void run(int calls) override {
-    for (int i = 0; i < calls; ++i) Api<Real>::execute_r2r(plan_, src_, dst_);
+    for (int i = 0; i < calls; ++i) Api<Real>::execute_r2r(plan_.get(), src_, dst_);
   }
 
  private:
   Real* src_;
   Real* dst_;
-  typename Api<Real>::Plan plan_;
+  Plan<Real> plan_;
 };
 
 /// Of two elements the half-complex transform and the Hartley transform are the same; the planner treats them
