@@ -3,10 +3,8 @@
 // turned behind the factor or absorbed in front of it.
 #include <ios>
 
-#include "tests/bits/data.h"
+#include "tests/bits/finite_data_test.h"
 #include "tests/real/equations.h"
-#include "tests/support/kernel_test.h"
-#include "tests/support/reference.h"
 
 namespace xfm::test {
 namespace {
@@ -37,7 +35,7 @@ std::vector<OneOf<T>> evaluate(const Kernel& kernel, const Array& src, T factor)
   return inverse_equations<T>().at(kernel.length)(spectrum, factor, family.layout);
 }
 
-class PlainReal : public KernelTest {
+class PlainReal : public FiniteDataTest {
  protected:
   template <class T>
   void compare(const Array& src, std::int32_t flag) {
@@ -51,19 +49,9 @@ class PlainReal : public KernelTest {
 };
 
 TEST_P(PlainReal, EqualsTheEquations) {
-  constexpr int rounds = 16;
-  for (const Data& data : all_data()) {
-    if (data.overflows) continue;  // infinity less infinity
-    for (int round = 0; round < rounds; ++round) {
-      const Array src = draw(data, random, kernel().precision, kernel().read);
-      for (const std::int32_t flag : flags) {
-        if (kernel().precision == Precision::single)
-          ASSERT_NO_FATAL_FAILURE(compare<float>(src, flag)) << data.name << " data, round " << round;
-        else
-          ASSERT_NO_FATAL_FAILURE(compare<double>(src, flag)) << data.name << " data, round " << round;
-      }
-    }
-  }
+  on_finite_data([&](const Array& src, std::int32_t flag) {
+    kernel().precision == Precision::single ? compare<float>(src, flag) : compare<double>(src, flag);
+  });
 }
 
 // How much is left open: nearly nothing in binary32, little in binary64.
