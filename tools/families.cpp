@@ -4,164 +4,13 @@
 #include "src/hartley/recipe/hartley.h"
 #include "src/real/recipe/real.h"
 #include "src/wht/recipe/rows.h"
+#include "tools/documentation.h"
 
 namespace xfm {
 namespace {
 
 using gen::ElementType;
 using gen::Precision;
-
-const char* const complex_documentation = R"(@DIRECTION@ complex DFT of length N, 2 to 64.
-
-    @FORMULA@
-
-Reads N complex elements of src, writes N complex elements of dst, in natural order.
-
-| flag                  | factor s  |
-|-----------------------|-----------|
-| XFM_SCALE_FWD_BY_N    | @FWD@ |
-| XFM_SCALE_INV_BY_N    | @INV@ |
-| XFM_SCALE_BY_SQRT_N   | 1/sqrt(N) |
-| XFM_SCALE_NONE        | 1         |
-
-Every output is multiplied by s as its last step, also by 1. Both arrays may have any alignment; multiples of 16 are
-fastest, and the bits do not depend on it. src and dst may overlap in any way: all input is read before the first
-output is written, and dst is never read.
-@ERRORS@
-Sources: Cooley and Tukey 1965; Good 1958; Rader 1968; Yavne 1968; Bluestein 1970.)";
-
-const char* const forward_real_documentation =
-    R"(Forward real DFT of length N, 2 to 64, in the layout @LAYOUT@.
-
-    X[k] = s * sum over j of src[j] * exp(-2 pi i j k / N),   j = 0 .. N-1,   k = 0 .. N/2
-
-Reads N elements of src; writes the half spectrum, @ELEMENTS@ elements of dst:
-@MAP@
-
-| flag                  | factor s  |
-|-----------------------|-----------|
-| XFM_SCALE_FWD_BY_N    | 1/N       |
-| XFM_SCALE_INV_BY_N    | 1         |
-| XFM_SCALE_BY_SQRT_N   | 1/sqrt(N) |
-| XFM_SCALE_NONE        | 1         |
-
-@COMMON@
-The three layouts hold the same bits for the same input.
-@ERRORS@
-Sources: Sorensen, Jones, Heideman and Burrus 1987; Good 1958; Cooley and Tukey 1965; Rader 1968.)";
-
-const char* const inverse_real_documentation =
-    R"(Inverse real DFT of length N, 2 to 64, from the layout @LAYOUT@.
-
-    dst[j] = s * sum over k of X[k] * exp(+2 pi i j k / N),   j, k = 0 .. N-1,   X[N-k] = conj(X[k])
-
-Writes N elements of dst; src holds the bins 0 .. N/2 in @ELEMENTS@ elements:
-@MAP@
-
-| flag                  | factor s  |
-|-----------------------|-----------|
-| XFM_SCALE_FWD_BY_N    | 1         |
-| XFM_SCALE_INV_BY_N    | 1/N       |
-| XFM_SCALE_BY_SQRT_N   | 1/sqrt(N) |
-| XFM_SCALE_NONE        | 1         |
-
-@COMMON@
-The three layouts give the same bits, but for the last one at N = 7, 20, 40, 49 and 50.
-@ERRORS@
-Sources: as the forward transforms, whose networks run transposed here (Bernstein 2006).)";
-
-const char* const real_common =
-    R"(Scalar code: the arrays may have any alignment. They may overlap in any way: all input is read before the first
-output is written. Every output is multiplied by s as its last step, also by 1. In single precision sums are
-rounded to binary32, and linear combinations with constants are evaluated in binary64 and rounded once.)";
-
-const char* const hartley_documentation = R"(Hartley transform of length N, 2 to 64.
-
-    dst[k] = s * sum over j of src[j] * (cos(2 pi j k / N) + sin(2 pi j k / N)),   j, k = 0 .. N-1
-
-Reads N elements of src, writes N elements of dst, in natural order. The transform is its own inverse but for a
-factor N, and the flags have no direction:
-
-| flag                  | factor s  |
-|-----------------------|-----------|
-| XFM_SCALE_FWD_BY_N    | 1/N       |
-| XFM_SCALE_INV_BY_N    | 1/N       |
-| XFM_SCALE_BY_SQRT_N   | 1/sqrt(N) |
-| XFM_SCALE_NONE        | 1         |
-
-@COMMON@
-@ERRORS@
-Sources: Hartley 1942; Bracewell 1983; Sorensen, Jones, Burrus and Heideman 1985; Rader 1968.)";
-
-const char* const errors =
-    R"(Errors, in the order of the tests: a generic function gives xfmStsBadSize for a length that is not served; then
-xfmStsNullPtr (src or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.)";
-
-const char* const walsh_hadamard_documentation =
-    R"(Walsh-Hadamard transform of N = 2^order real elements, order 1 to 13, in natural (Hadamard) order.
-
-    dst[k] = s * sum over j of (-1)^popcount(j AND k) * src[j],   j, k = 0 .. N-1
-
-Reads N elements of src, writes N elements of dst. The transform has no direction: it is its own inverse up to N,
-so the two flags of 1/N mean the same here. The number in a kernel's name is the order.
-
-| flag                  | factor s  |
-|-----------------------|-----------|
-| XFM_SCALE_FWD_BY_N    | 1/N       |
-| XFM_SCALE_INV_BY_N    | 1/N       |
-| XFM_SCALE_BY_SQRT_N   | 1/sqrt(N) |
-| XFM_SCALE_NONE        | 1         |
-
-The stages run in ascending order, additions and subtractions are those of the element type, and every output is
-multiplied by s as its last step, also by 1: the bits are those of a plain loop nest over strides 1, 2, 4, ...
-1/sqrt(N) is a stored constant: a power of two at even orders. At odd orders the one in binary32 is the nearest
-value, the one in binary64 the quotient of 1 by the rounded root of N, which lies one unit in the last place below.
-
-Both arrays may have any alignment; multiples of 16 are fastest, and the bits do not depend on it. src and dst may
-overlap in any way: all input is read before the first output is written, and dst is never read.
-
-buffer: orders 1 to 7 never look at it, whatever it is. From order 8 on it is work space of the bytes that
-xfmWHTGetBufferSize_TYPE tells, aligned to 16. What it holds before does not matter; afterwards it holds nothing of
-use. It belongs to one call at a time. A null buffer is served too, by one xfmMalloc and one xfmFree in every call;
-the bits are the same.
-Hazards: the call does not test whether xfmMalloc gave anything: a program whose memory is exhausted ends there. A
-buffer that is not a multiple of 16 ends the program as well. A buffer that is too small is written past its end.
-
-Errors, in the order of the tests: a generic function gives xfmStsBadSize for an order that is not served; then
-xfmStsNullPtr (src or dst is null), xfmStsBadScale (flag). A failed call writes nothing and allocates nothing.
-Re-entrant.
-Sources: Good 1958; Fino and Algazi 1976; for the cut into passes Johnson and Pueschel 2000.)";
-
-const char* map_of(real::Layout layout, real::Direction direction) {
-  switch (layout) {
-    case real::Layout::ccs:
-      return direction == real::Direction::forward ? "Re X[k] in dst[2k] and Im X[k] in dst[2k+1]; the "
-                                                     "imaginary parts of bin 0 and, for even N, of "
-                                                     "bin N/2\nare stored as +0 whatever the data."
-                                                   : "Re X[k] in src[2k] and Im X[k] in src[2k+1]; the "
-                                                     "imaginary parts of bin 0 and, for even N, of "
-                                                     "bin N/2\nare never read.";
-    case real::Layout::pack:
-      return "Re X[0], Re X[1], Im X[1], Re X[2], Im X[2], ..., and for even N at last Re X[N/2].";
-    default:
-      return "for even N Re X[0], Re X[N/2], Re X[1], Im X[1], Re X[2], Im X[2], ...; for odd N as Pack.";
-  }
-}
-
-std::string replaced(std::string text, const std::string& mark, const std::string& by) {
-  return text.replace(text.find(mark), mark.size(), by);
-}
-
-std::string document(dft::Direction direction) {
-  const bool forward = direction == dft::Direction::forward;
-  std::string text = replaced(complex_documentation, "@DIRECTION@", forward ? "Forward" : "Inverse");
-  text = replaced(text, "@FORMULA@",
-                  forward ? "dst[k] = s * sum over n of src[n] * exp(-2 pi i n k / N),   n, k = 0 .. N-1"
-                          : "dst[n] = s * sum over k of src[k] * exp(+2 pi i n k / N),   n, k = 0 .. N-1");
-  text = replaced(text, "@FWD@", forward ? "1/N      " : "1        ");
-  text = replaced(text, "@ERRORS@", errors);
-  return replaced(text, "@INV@", forward ? "1        " : "1/N      ");
-}
 
 Family complex_family(dft::Direction direction, const std::string& name) {
   return {.name = name,
@@ -170,20 +19,10 @@ Family complex_family(dft::Direction direction, const std::string& name) {
           .lowest = 2,
           .highest = 64,
           .vocabulary = "src/dft/vectors.h",
-          .documentation = document(direction),
+          .documentation = documentation(direction),
           .make = [direction](int length, Precision precision, const std::string& tree) {
             return dft::make_kernel(length, precision, direction, tree);
           }};
-}
-
-std::string document(real::Direction direction, real::Layout layout) {
-  const bool forward = direction == real::Direction::forward;
-  std::string text = forward ? forward_real_documentation : inverse_real_documentation;
-  text = replaced(text, "@LAYOUT@", real::name_of(layout));
-  text = replaced(text, "@ELEMENTS@", layout == real::Layout::ccs ? "2*(N/2 + 1)" : "N");
-  text = replaced(text, "@MAP@", map_of(layout, direction));
-  text = replaced(text, "@COMMON@", real_common);
-  return replaced(text, "@ERRORS@", errors);
 }
 
 Family real_family(real::Direction direction, real::Layout layout) {
@@ -193,22 +32,21 @@ Family real_family(real::Direction direction, real::Layout layout) {
           .lowest = 2,
           .highest = 64,
           .vocabulary = "",
-          .documentation = document(direction, layout),
+          .documentation = documentation(direction, layout),
           .make = [=](int length, Precision precision, const std::string& tree) {
             return real::make_kernel(length, precision, direction, layout, tree);
           }};
 }
 
 Family hartley_family() {
-  return {
-      .name = "Hartley",
-      .types = {ElementType{Precision::single, false}, ElementType{Precision::twofold, false}},
-      .lengths = hartley::lengths(),
-      .lowest = 2,
-      .highest = 64,
-      .vocabulary = "",
-      .documentation = replaced(replaced(hartley_documentation, "@COMMON@", real_common), "@ERRORS@", errors),
-      .make = hartley::make_kernel};
+  return {.name = "Hartley",
+          .types = {ElementType{Precision::single, false}, ElementType{Precision::twofold, false}},
+          .lengths = hartley::lengths(),
+          .lowest = 2,
+          .highest = 64,
+          .vocabulary = "",
+          .documentation = hartley_documentation(),
+          .make = hartley::make_kernel};
 }
 
 Family walsh_hadamard_family() {
@@ -218,7 +56,7 @@ Family walsh_hadamard_family() {
           .lowest = wht::orders().front(),
           .highest = wht::orders().back(),
           .vocabulary = "",
-          .documentation = walsh_hadamard_documentation,
+          .documentation = walsh_hadamard_documentation(),
           .make = nullptr,
           .row = wht::row,
           .argument = "order",
