@@ -4,6 +4,7 @@
 
 #include <CLI/CLI.hpp>
 #include <iostream>
+#include <tuple>
 
 #include "gen/check.h"
 #include "gen/emit.h"
@@ -56,11 +57,11 @@ int door(const std::filesystem::path& frame, const std::filesystem::path& header
   return 1;
 }
 
-int show(const std::vector<std::string>& what, const std::string& tree) {
+int show(const std::string& name, int length, const std::string& suffix, const std::string& tree) {
   for (const Family& family : families()) {
     for (const auto& type : family.types) {
-      if (family.by_hand() || family.name != what[0] || type.suffix() != what[2]) continue;
-      const Kernel kernel = family.make(std::stoi(what[1]), type.precision, tree);
+      if (family.by_hand() || family.name != name || type.suffix() != suffix) continue;
+      const Kernel kernel = family.make(length, type.precision, tree);
       const xfm::gen::Counts counts = count(*kernel.network);
       fmt::print("{}\n  tree       {}\n  adds       {} (row {})\n  mults      {} (row {})\n", kernel.name,
                  to_string(xfm::gen::parse_tree(kernel.tree)), counts.adds, kernel.adds, counts.mults,
@@ -75,7 +76,7 @@ int show(const std::vector<std::string>& what, const std::string& tree) {
       return 0;
     }
   }
-  std::cerr << "no such generated family or type: " << what[0] << " " << what[2] << "\n";
+  std::cerr << "no such generated family or type: " << name << " " << suffix << "\n";
   return 1;
 }
 
@@ -97,10 +98,10 @@ void costs() {
 int run(int argc, char** argv) {
   CLI::App app{"Writes the kernels of xfm, or shows what a row of a table comes to."};
   std::string out, header, frame, tree;
-  std::vector<std::string> what;
+  std::tuple<std::string, int, std::string> what;
   bool check = false, list_costs = false;
   app.add_option("--out", out, "write all generated sources to this folder");
-  app.add_option("--show", what, "FAMILY N TYPE: tree, costs, lanes and text of one kernel")->expected(3);
+  app.add_option("--show", what, "FAMILY N TYPE: tree, costs, lanes and text of one kernel");
   app.add_option("--tree", tree, "with --show: this tree instead of the row's");
   app.add_flag("--costs", list_costs, "every kernel's cost beside its row");
   app.add_option("--door", header, "write the public header");
@@ -111,7 +112,8 @@ int run(int argc, char** argv) {
   if (!out.empty()) write_all(out);
   if (list_costs) costs();
   if (!header.empty()) return door(frame, header, check);
-  return what.empty() ? 0 : show(what, tree);
+  const auto& [name, length, suffix] = what;
+  return name.empty() ? 0 : show(name, length, suffix, tree);
 }
 
 }  // namespace
