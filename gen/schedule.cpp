@@ -57,7 +57,7 @@ class Scheduler {
   // values.
   std::vector<NodeId> windows(Order of) const {
     // cycles; 12 spills more, 48 is the recipe's order up to a few hundred operations
-    const int window = of == Order::earliest ? 1 : network_.width() == 1 ? 16 : 24;
+    const int window = of == Order::earliest ? 1 : 24;
     std::vector<int> start(state_.size(), 0), end(state_.size(), 0);
     for (NodeId id = 0; id < size(); ++id) {
       if (state_[index(id)] != State::live) continue;

@@ -16,9 +16,9 @@ struct Step {
 /// The live operations in an order: loads at their first use, and each output finished and stored as soon as
 /// its operands are there and the last load is done.
 ///
-/// Measured: windows are best for most packed kernels, up to a tenth faster than the recipe's order alone,
-/// and for scalar kernels whose statements are long chains of conversions. For scalar kernels of plain
-/// operations bisection halves the spills of large lengths.
+/// Measured: windows are best for most packed kernels, up to a tenth faster than the recipe's order alone.
+/// Scalar kernels of statements, which are long chains of conversions, are fastest with everything as early as
+/// it can be; for those of plain operations bisection halves the spills of large lengths.
 std::vector<Step> schedule(const Network& network, Order order = Order::windows);
 
 /// The operands of a node, present ones only.

@@ -24,9 +24,9 @@ struct Binding {
   bool factor_inside = false;  ///< of the statement, where one makes an output and nothing else
 };
 
-/// Plain operations are short of registers, statements of waiting.
+/// Measured: plain operations run short of registers, while chains of statements keep each other waiting.
 inline Order order(Precision precision) {
-  return precision == Precision::twofold ? Order::bisection : Order::windows;
+  return precision == Precision::twofold ? Order::bisection : Order::earliest;
 }
 
 /// The kernel's network, with the values that are turned made as their negatives (signs.h). Every output is
