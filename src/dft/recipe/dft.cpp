@@ -3,6 +3,7 @@
 #include <stdexcept>
 
 #include "gen/check.h"
+#include "gen/flips.h"
 #include "gen/fold.h"
 #include "gen/lanes.h"
 #include "src/dft/recipe/lane_real.h"
@@ -59,8 +60,8 @@ std::unique_ptr<Network> packed_network(int length, const Tree& tree, Direction 
 // Scalar code, or four lanes in the form that takes fewer instructions.
 std::unique_ptr<Network> single_network(int length, const Tree& tree, Direction direction) {
   if (length <= longest_scalar) return packed_network(length, tree, direction, 1, Form::split);
-  auto split = packed_network(length, tree, direction, gen::max_lanes, Form::split);
-  auto whole = packed_network(length, tree, direction, gen::max_lanes, Form::whole);
+  auto split = gen::absorb_flips(*packed_network(length, tree, direction, gen::max_lanes, Form::split));
+  auto whole = gen::absorb_flips(*packed_network(length, tree, direction, gen::max_lanes, Form::whole));
   return gen::instructions(*split) < gen::instructions(*whole) ? std::move(split) : std::move(whole);
 }
 
