@@ -30,6 +30,7 @@ struct Options {
   std::vector<std::string> only;
   int rounds = 1000;
   std::string json;
+  std::string markdown;
   bool list = false;
   Placement placement;
 };
@@ -43,6 +44,8 @@ void define(CLI::App& app, Options& options) {
       ->check(CLI::Range(1, 1000000))
       ->capture_default_str();
   app.add_option("--json", options.json, "Write all figures to FILE as well")->type_name("FILE");
+  app.add_option("--markdown", options.markdown, "Write the ratios to FILE as a page as well")
+      ->type_name("FILE");
   app.add_flag("--list", options.list, "Name the kernels and measure nothing");
   app.add_flag("--unaligned", options.placement.unaligned, "Arrays one real scalar past an aligned address");
   app.add_flag("--in-place", options.placement.in_place, "dst is src");
@@ -119,7 +122,7 @@ void measure(const Options& options) {
   }
   if (const std::string reason = objection(); !reason.empty())
     throw std::runtime_error("refusing to measure: " + reason);
-  const File json = opened(options.json);
+  const File json = opened(options.json), markdown = opened(options.markdown);
   const Conditions conditions{this_build(), rival_version(), options.placement, options.rounds, load()};
   print_heading(conditions);
   std::fflush(stdout);
@@ -127,6 +130,7 @@ void measure(const Options& options) {
   print_tables(groups);
   print_summary(groups);
   if (json) write_json(json.get(), conditions, groups);
+  if (markdown) write_markdown(markdown.get(), conditions, groups);
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// Results as tables for people and as JSON for programs.
+// Results as tables for people, as JSON for programs, and as Markdown for a page.
 #pragma once
 
 #include <cstdio>
@@ -41,5 +41,6 @@ void print_heading(const Conditions& conditions);
 void print_tables(const std::vector<Group>& groups);
 void print_summary(const std::vector<Group>& groups);
 void write_json(std::FILE* file, const Conditions& conditions, const std::vector<Group>& groups);
+void write_markdown(std::FILE* file, const Conditions& conditions, const std::vector<Group>& groups);
 
 }  // namespace xfm::bench
