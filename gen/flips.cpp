@@ -1,7 +1,6 @@
 #include "gen/flips.h"
 
 #include <algorithm>
-#include <stdexcept>
 
 #include "gen/schedule.h"
 
@@ -43,25 +42,9 @@ class Absorbing {
 
   Value make(NodeId id) {
     const Node& node = old_.node(id);
-    const auto in = [&](std::size_t operand) { return value(node.in[operand]); };
-    switch (node.op) {
-      case Op::load:
-        return made_->load(node.lanes);
-      case Op::shuffle:
-        return made_->shuffle(in(0), in(1), node.lanes);
-      case Op::flip:
-        return carries(node.in[0]) ? turned(node.in[0], signs_of(node)) : made_->flip(in(0), node.lanes);
-      case Op::add:
-        return in(0) + in(1);
-      case Op::sub:
-        return in(0) - in(1);
-      case Op::mul:
-        return made_->mul(node.constants, in(0));
-      case Op::factor:
-        return made_->factor(in(0));
-      default:
-        throw std::logic_error("flips are for networks of split or whole lanes");
-    }
+    const auto in = [&](std::size_t k) { return node.in[k] < 0 ? Value{} : value(node.in[k]); };
+    const bool falls_away = node.op == Op::flip && carries(node.in[0]);
+    return falls_away ? turned(node.in[0], signs_of(node)) : made_->repeat(node, in(0), in(1));
   }
 
   static Signs signs_of(const Node& flip) {
@@ -95,10 +78,10 @@ class Absorbing {
         if (signs[l]) sources[static_cast<std::size_t>(node.lanes[l]) % max_lanes] = true;
       }
       const Value source = turned(node.in[0], sources);
-      return made_->shuffle(source, source, node.lanes);
+      return made_->repeat(node, source, source);
     }
-    const Value a = turned(node.in[0], signs), b = turned(node.in[1], signs);
-    return node.op == Op::add ? a + b : a - b;
+    const Value a = turned(node.in[0], signs), b = turned(node.in[1], signs);  // nodes are made in this order
+    return made_->repeat(node, a, b);
   }
 
   static std::vector<Constant> turned(const std::vector<Constant>& constants, const Signs& signs) {

@@ -66,28 +66,10 @@ class Folding {
 
   Value make(NodeId id) {
     const Node& node = old_.node(id);
-    const auto in = [&](std::size_t operand) { return value(node.in[operand]); };
-    switch (node.op) {
-      case Op::load:
-        return made_->load(node.lanes);
-      case Op::shuffle:
-        return made_->shuffle(in(0), in(1), node.lanes);
-      case Op::exchange:
-        return made_->exchange(in(0));
-      case Op::flip:
-        return made_->flip(in(0), node.lanes);
-      case Op::add:
-        return in(0) + in(1);
-      case Op::sub:
-        return in(0) - in(1);
-      case Op::mul:
-        return scaled(node.in[0], node.constants);
-      case Op::factor:
-        return made_->factor(in(0));
-      default:
-        break;
-    }
-    throw std::logic_error("folding is for networks that round operation by operation");
+    const auto in = [&](std::size_t k) { return node.in[k] < 0 ? Value{} : value(node.in[k]); };
+    if (is_product(id)) return scaled(node.in[0], node.constants);
+    const Value a = in(0), b = in(1);  // nodes are made in this order
+    return made_->repeat(node, a, b);
   }
 
   Value scaled(NodeId id, const Constants& c) {

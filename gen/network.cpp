@@ -58,6 +58,34 @@ Value Network::minus(Value v) { return make({.op = Op::minus, .in = {v.node, -1}
 
 Value Network::factor(Value v) { return make({.op = Op::factor, .in = {v.node, -1}}, v.negative); }
 
+Value Network::repeat(const Node& node, Value a, Value b) {
+  switch (node.op) {
+    case Op::load:
+      return load(node.lanes);
+    case Op::shuffle:
+      return shuffle(a, b, node.lanes);
+    case Op::exchange:
+      return exchange(a);
+    case Op::flip:
+      return flip(a, node.lanes);
+    case Op::add:
+      return add(a, b);
+    case Op::sub:
+      return sub(a, b);
+    case Op::mul:
+      return node.constants.size() == 1 ? mul(node.constants[0], a) : mul(node.constants, a);
+    case Op::twice:
+      return twice(a);
+    case Op::factor:
+      return factor(a);
+    case Op::minus:
+      return minus(a);
+    case Op::sum:
+      break;
+  }
+  throw std::logic_error("a statement is not repeated on two operands");
+}
+
 Value Network::sum(std::span<const Product> products, Finish finish) {
   std::vector<Product> terms;
   for (const Product& p : products) {

@@ -110,6 +110,9 @@ class Network {
   Value factor(Value v);
   Value minus(Value v);  ///< -v as an operation, for the outputs that need it
 
+  /// The operation of another network's node, on these operands; a statement has others.
+  Value repeat(const Node& node, Value a, Value b);
+
   /// The sum of the products c*v, left to right: one statement with this finish, or an operation at a time,
   /// as the rounding rule says.
   struct Product {

@@ -17,8 +17,8 @@ struct Step {
 /// its operands are there and the last load is done.
 ///
 /// Measured: windows are best for most packed kernels, up to a tenth faster than the recipe's order alone.
-/// Scalar kernels of statements, which are long chains of conversions, are fastest with everything as early as
-/// it can be; for those of plain operations bisection halves the spills of large lengths.
+/// Scalar kernels of statements, which are long chains of conversions, are fastest with everything as early
+/// as it can be; for those of plain operations bisection halves the spills of large lengths.
 std::vector<Step> schedule(const Network& network, Order order = Order::windows);
 
 /// The operands of a node, present ones only.

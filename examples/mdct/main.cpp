@@ -131,7 +131,7 @@ class RoundTrip {
     std::vector<std::span<const float>> channels;
     for (std::size_t c = 0; c < copy_.size(); ++c) {
       for (std::size_t i = 0; i < samples; ++i) powers_.add(before_[c][i], copy_[c][i]);
-      channels.push_back(std::span(copy_[c]).first(samples));
+      channels.emplace_back(std::span(copy_[c]).first(samples));
     }
     to_.write(channels);
   }

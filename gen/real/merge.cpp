@@ -4,7 +4,6 @@
 #include <functional>
 #include <map>
 #include <set>
-#include <stdexcept>
 
 #include "gen/complex.h"
 #include "gen/schedule.h"
@@ -40,20 +39,8 @@ class Rebuilding {
 
   Value copy(NodeId id) const {
     const Node& of = node(id);
-    switch (of.op) {
-      case Op::load:
-        return made_.network->load(of.lanes);
-      case Op::add:
-        return value(of.in[0]) + value(of.in[1]);
-      case Op::sub:
-        return value(of.in[0]) - value(of.in[1]);
-      case Op::twice:
-        return made_.network->twice(value(of.in[0]));
-      case Op::sum:
-        return statement(terms(id));
-      default:
-        throw std::logic_error("a draft holds sums and statements alone");
-    }
+    const auto in = [&](std::size_t k) { return of.in[k] < 0 ? Value{} : value(of.in[k]); };
+    return of.op == Op::sum ? statement(terms(id)) : made_.network->repeat(of, in(0), in(1));
   }
 
   std::vector<Network::Product> terms(NodeId id) const {

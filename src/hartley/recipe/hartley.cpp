@@ -1,5 +1,6 @@
 #include "src/hartley/recipe/hartley.h"
 
+#include <numeric>
 #include <stdexcept>
 
 #include "gen/check.h"
@@ -82,8 +83,8 @@ void definition(const std::vector<Wide>& src, std::vector<Wide>& dst) {
 }
 
 gen::real::Binding natural_order(int length) {
-  std::vector<int> order;
-  for (int n = 0; n < length; ++n) order.push_back(n);
+  std::vector<int> order(static_cast<std::size_t>(length));
+  std::iota(order.begin(), order.end(), 0);
   return {order, order};
 }
 
