@@ -65,7 +65,11 @@ Complex statement(const std::vector<ScaledComplex>& terms) {
 }
 
 Complex operator*(const ComplexConstant& w, const Complex& z) {
-  return {product(w.re, z.p) - product(w.im, z.q), product(w.im, z.p) + product(w.re, z.q)};
+  // One by one: compilers evaluate the operands of a sign in different orders, and would make different
+  // texts.
+  const Value cp = product(w.re, z.p), sq = product(w.im, z.q), sp = product(w.im, z.p),
+              cq = product(w.re, z.q);
+  return {cp - sq, sp + cq};
 }
 
 }  // namespace xfm::gen

@@ -102,7 +102,10 @@ Complex Lanes::weigh_split(std::span<const Element> elements, const Complex& z) 
     im[l] = elements[l].weight.im;
   }
   if (all_real(elements)) return {network_.mul(re, z.p), network_.mul(re, z.q)};
-  return {network_.mul(re, z.p) - network_.mul(im, z.q), network_.mul(im, z.p) + network_.mul(re, z.q)};
+  // One by one, as in operator* of complex numbers.
+  const Value cp = network_.mul(re, z.p), sq = network_.mul(im, z.q), sp = network_.mul(im, z.p),
+              cq = network_.mul(re, z.q);
+  return {cp - sq, sp + cq};
 }
 
 // c*(re, im) + s*(-im, re), the sign in the constants.
