@@ -6,6 +6,10 @@
 namespace xfm::gen {
 
 Value Network::make(Node node, bool negative) {
+  for (const NodeId in : node.in) {
+    if (in >= 0 && this->node(in).finish == Finish::kept)
+      throw std::logic_error("only statements use what stays in binary64");
+  }
   const auto [place, fresh] = known_.try_emplace(node, static_cast<NodeId>(nodes_.size()));
   if (fresh) nodes_.push_back(std::move(node));
   return {this, place->second, negative};

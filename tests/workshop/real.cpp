@@ -153,6 +153,17 @@ TEST(Keeping, RoundsAProductOnlyBehindItsAdditions) {
   EXPECT_EQ(statements(once), 3);
 }
 
+TEST(Keeping, IsForStatementsAlone) {
+  Network network(1, Rounding::statement);
+  const Value x = network.load(0);
+  const Value wide =
+      network.sum(std::vector<Network::Product>{{constant("tenth", Wide(0.1)), x}}, Finish::kept);
+  EXPECT_NO_THROW(
+      network.sum(std::vector<Network::Product>{{constant("1", 1), wide}, {constant("1", 1), x}}));
+  EXPECT_THROW(network.add(wide, x), std::logic_error);
+  EXPECT_THROW(network.factor(wide), std::logic_error);
+}
+
 TEST(Keeping, LeavesWhatAnythingElseUses) {
   Draft draft;
   const Value x = draft.network->load(0), y = draft.network->load(1);
