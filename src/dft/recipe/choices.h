@@ -1,5 +1,5 @@
-// Choices inside a kernel that its breakdown leaves open: forms of the length-5 block, primitive roots, orders
-// of operations. Data only.
+// Choices inside a kernel that its breakdown leaves open: forms of the length-5 block, primitive roots,
+// orders of operations. Data only.
 #pragma once
 
 #include "gen/kernel.h"
