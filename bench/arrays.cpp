@@ -35,7 +35,7 @@ void Arrays::Free::operator()(std::byte* memory) const { operator delete (memory
 
 Arrays::Arrays(const catalogue::Kernel& kernel, Placement placement)
     : precision_(kernel.precision), read_(kernel.read), written_(kernel.written) {
-  const std::size_t scalar = precision_ == catalogue::Precision::single ? sizeof(float) : sizeof(double);
+  const std::size_t scalar = precision_ == catalogue::Precision::binary32 ? sizeof(float) : sizeof(double);
   // One more for the unaligned place, and two for the zeros that a rival may hold along with a spectrum.
   const std::size_t array = scalar * static_cast<std::size_t>(std::max(read_, written_) + 3);
   // dst stands half a page past a multiple of pages: addresses that agree modulo 4096 would make loads wait
@@ -52,7 +52,7 @@ Arrays::Arrays(const catalogue::Kernel& kernel, Placement placement)
 
 void Arrays::fill() {
   clear();
-  if (precision_ == catalogue::Precision::single)
+  if (precision_ == catalogue::Precision::binary32)
     fill_with_noise<float>(src_, read_);
   else
     fill_with_noise<double>(src_, read_);
@@ -61,8 +61,8 @@ void Arrays::fill() {
 void Arrays::clear() { std::memset(memory_.get(), 0, size_); }
 
 std::vector<double> Arrays::output() const {
-  return precision_ == catalogue::Precision::single ? as_binary64<float>(dst_, written_)
-                                                    : as_binary64<double>(dst_, written_);
+  return precision_ == catalogue::Precision::binary32 ? as_binary64<float>(dst_, written_)
+                                                      : as_binary64<double>(dst_, written_);
 }
 
 }  // namespace xfm::bench

@@ -152,7 +152,7 @@ catalogue::Kernel row(const std::string& name, Precision precision, int exponent
   const int n = 1 << exponent;
   return {.name = name.c_str(),
           .family = "DCT4",
-          .type = precision == Precision::single ? "32f" : "64f",
+          .type = precision == Precision::binary32 ? "32f" : "64f",
           .precision = precision,
           .scaling = catalogue::Scaling::symmetric,
           .length = n,
@@ -179,9 +179,9 @@ std::span<const catalogue::Kernel> dct4_kernels() {
   static std::deque<std::string> names;
   static const std::vector<catalogue::Kernel> rows = [] {
     std::vector<catalogue::Kernel> result;
-    for (const Precision precision : {Precision::single, Precision::twofold})
+    for (const Precision precision : {Precision::binary32, Precision::binary64})
       for (int exponent = 1; exponent <= kLongest; ++exponent) {
-        const char* const type = precision == Precision::single ? "32f" : "64f";
+        const char* const type = precision == Precision::binary32 ? "32f" : "64f";
         result.push_back(
             row(names.emplace_back(fmt::format("xfmDCT4_{}_{}", 1 << exponent, type)), precision, exponent));
       }
@@ -191,7 +191,7 @@ std::span<const catalogue::Kernel> dct4_kernels() {
 }
 
 ContestantPtr make_dct4(const catalogue::Kernel& kernel, Arrays& arrays) {
-  if (kernel.precision == Precision::single) return std::make_unique<Own<float>>(kernel.length, arrays);
+  if (kernel.precision == Precision::binary32) return std::make_unique<Own<float>>(kernel.length, arrays);
   return std::make_unique<Own<double>>(kernel.length, arrays);
 }
 

@@ -8,7 +8,7 @@ namespace {
 
 int lanes(const catalogue::Kernel& kernel) {
   if (!kernel.packed_math) return 1;
-  return kernel.precision == catalogue::Precision::single ? 4 : 2;
+  return kernel.precision == catalogue::Precision::binary32 ? 4 : 2;
 }
 
 /// Lane exchanges where the kernel prescribes them; otherwise, in binary32, two shuffles split four complex

@@ -58,7 +58,7 @@ ContestantPtr make_rival(const catalogue::Kernel& kernel, Arrays& arrays) {
 std::vector<NamedContestant> further_rivals(const catalogue::Kernel& kernel, Arrays& arrays) {
   std::vector<NamedContestant> rivals;
   if (std::string_view(kernel.family) != "WHT") return rivals;
-  const bool single = kernel.precision == catalogue::Precision::single;
+  const bool single = kernel.precision == catalogue::Precision::binary32;
   for (const LoopNest& nest : loop_nests) {
     rivals.push_back({nest.name, single ? contestant(nest.single, kernel.length, arrays)
                                         : contestant(nest.twofold, kernel.length, arrays)});

@@ -4,20 +4,20 @@
 #include <memory>
 #include <string>
 
-#include "gen/network.h"
+#include "gen/network/network.h"
 
 namespace xfm::gen {
 
-enum class Precision { single, twofold };
+enum class Precision { binary32, binary64 };
 
 /// Which of the scale flags carry 1/N.
 enum class Scaling { forward, inverse, symmetric };
 
 /// The order in which a kernel's operations are written down.
 enum class Order {
-  windows,    ///< the recipe's stages, smoothed by when an operation can start
-  earliest,   ///< by when an operation can start
-  bisection,  ///< few values in flight (bisection.h)
+  windowed,        ///< the recipe's stages, smoothed by when an operation can start
+  earliest_start,  ///< by when an operation can start
+  bisection,       ///< few values in flight (bisection.h)
 };
 
 struct ElementType {
@@ -25,10 +25,10 @@ struct ElementType {
   bool complex;
 
   std::string suffix() const {
-    return std::string(precision == Precision::single ? "32f" : "64f") + (complex ? "c" : "");
+    return std::string(precision == Precision::binary32 ? "32f" : "64f") + (complex ? "c" : "");
   }
-  std::string name() const { return "xfm" + suffix(); }                                        ///< xfm32fc
-  std::string scalar() const { return precision == Precision::single ? "xfm32f" : "xfm64f"; }  ///< xfm32f
+  std::string name() const { return "xfm" + suffix(); }                                          ///< xfm32fc
+  std::string scalar() const { return precision == Precision::binary32 ? "xfm32f" : "xfm64f"; }  ///< xfm32f
 };
 
 struct Kernel {
@@ -41,7 +41,7 @@ struct Kernel {
   std::string tree;   ///< breakdown, as the row has it
   int adds, mults;    ///< the row's bounds
   std::unique_ptr<Network> network;
-  Order order = Order::windows;
+  Order order = Order::windowed;
 
   bool packed() const { return network->width() > 1; }
 };

@@ -29,7 +29,7 @@ class Arithmetic : public KernelTest {
  protected:
   /// Outputs that depend on the input scalar are not finite, whatever the others are.
   void expect_flow(double poisonous, bool nan);
-  static double least_subnormal() { return kernel().precision == Precision::single ? 0x1p-149 : 0x1p-1074; }
+  static double least_subnormal() { return kernel().precision == Precision::binary32 ? 0x1p-149 : 0x1p-1074; }
 };
 
 TEST_P(Arithmetic, KeepsTheControlBits) {

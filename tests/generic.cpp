@@ -35,7 +35,7 @@ std::set<std::int32_t> GenericContract::bad_lengths() {
 
 void GenericContract::expect_bad_size(std::int32_t length) {
   const Precision precision =
-      std::string(generic().type).starts_with("32") ? Precision::single : Precision::twofold;
+      std::string(generic().type).starts_with("32") ? Precision::binary32 : Precision::binary64;
   Array src = random.array(precision, 4 * generic().highest);
   Array dst(precision, src.count());
   const Array src_before(src);
@@ -115,7 +115,7 @@ TEST(Catalogue, NamesAndShapes) {
     EXPECT_EQ(kernel.name,
               "xfm" + std::string(kernel.family) + "_" + std::to_string(kernel.length) + "_" + kernel.type);
     EXPECT_TRUE(names.insert(kernel.name).second) << kernel.name << " stands twice";
-    EXPECT_EQ(kernel.precision == Precision::single, std::string(kernel.type).starts_with("32"))
+    EXPECT_EQ(kernel.precision == Precision::binary32, std::string(kernel.type).starts_with("32"))
         << kernel.name;
     EXPECT_GT(kernel.read, 0) << kernel.name;
     EXPECT_GT(kernel.written, 0) << kernel.name;

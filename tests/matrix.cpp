@@ -77,7 +77,7 @@ TEST_P(Matrix, MeetsTheDefinition) {
 // sum of all magnitudes, and mostly far closer.
 TEST_P(Matrix, RandomVectors) {
   const auto reference = definition(kernel());
-  const double rounding = kernel().precision == Precision::single ? 0x1p-24 : 0x1p-53;
+  const double rounding = kernel().precision == Precision::binary32 ? 0x1p-24 : 0x1p-53;
   const double bound = std::min(relative_bound(kernel().precision), 4 * rounding);
   const int rounds = kernel().points > 1000 ? 1 : 4;  // one is vast, and takes a while in binary128
   for (int round = 0; round < rounds; ++round) {

@@ -28,7 +28,7 @@ TEST(Guards, CatchEveryStep) {
 }
 
 TEST(Arrays, CompareBits) {
-  for (const Precision precision : {Precision::single, Precision::twofold}) {
+  for (const Precision precision : {Precision::binary32, Precision::binary64}) {
     Array one(precision, 3), other(precision, 3, 8);
     one.fill(0.0);
     other.fill(0.0);
@@ -44,11 +44,11 @@ TEST(Arrays, CompareBits) {
 }
 
 TEST(Arrays, UlpDistance) {
-  EXPECT_EQ(ulp_distance(Precision::single, 1, 1 + 0x1p-23), 1U);
-  EXPECT_EQ(ulp_distance(Precision::twofold, 1, 1 - 0x1p-53), 1U);
-  EXPECT_EQ(ulp_distance(Precision::twofold, -0x1p-1074, 0x1p-1074), 2U);
-  EXPECT_EQ(ulp_distance(Precision::single, 0.0, -0.0), 0U);
-  EXPECT_GT(ulp_distance(Precision::single, NAN, 1), 1U << 31);
+  EXPECT_EQ(ulp_distance(Precision::binary32, 1, 1 + 0x1p-23), 1U);
+  EXPECT_EQ(ulp_distance(Precision::binary64, 1, 1 - 0x1p-53), 1U);
+  EXPECT_EQ(ulp_distance(Precision::binary64, -0x1p-1074, 0x1p-1074), 2U);
+  EXPECT_EQ(ulp_distance(Precision::binary32, 0.0, -0.0), 0U);
+  EXPECT_GT(ulp_distance(Precision::binary32, NAN, 1), 1U << 31);
 }
 
 TEST(RandomData, OneStreamAName) {
@@ -60,8 +60,8 @@ TEST(RandomData, OneStreamAName) {
 
 TEST(RandomData, Kinds) {
   Random random("kinds");
-  for (const Precision precision : {Precision::single, Precision::twofold}) {
-    const bool single = precision == Precision::single;
+  for (const Precision precision : {Precision::binary32, Precision::binary64}) {
+    const bool single = precision == Precision::binary32;
     const double least_normal = single ? 0x1p-126 : 0x1p-1022, greatest = single ? 0x1p127 : 0x1p1023;
     for (int i = 0; i < 1000; ++i) {
       EXPECT_LT(std::abs(random.next(Kind::subnormal, precision)), least_normal);
@@ -136,7 +136,7 @@ TEST(Reference, Magnitude) {
   catalogue::Kernel kernel = {};
   kernel.family = "DFTInv_CCSToR";
   kernel.length = 2;
-  Array src(Precision::twofold, 4);
+  Array src(Precision::binary64, 4);
   for (int i = 0; i < 4; ++i) src.set(i, i % 2 == 0 ? 3 : -5);
   EXPECT_EQ(magnitude(*definition(kernel), src), 6);
   kernel.length = 3;
@@ -146,7 +146,7 @@ TEST(Reference, Magnitude) {
 TEST(Reference, Factors) {
   catalogue::Kernel kernel = {};
   kernel.points = 3;
-  kernel.precision = Precision::single;
+  kernel.precision = Precision::binary32;
   kernel.scaling = catalogue::Scaling::forward;
   EXPECT_EQ(factor(kernel, XFM_SCALE_FWD_BY_N), double{0.33333334F});
   EXPECT_EQ(factor(kernel, XFM_SCALE_INV_BY_N), 1);
@@ -157,7 +157,7 @@ TEST(Reference, Factors) {
   EXPECT_EQ(factor(kernel, XFM_SCALE_INV_BY_N), double{0.33333334F});
   kernel.scaling = catalogue::Scaling::symmetric;
   EXPECT_EQ(factor(kernel, XFM_SCALE_FWD_BY_N), factor(kernel, XFM_SCALE_INV_BY_N));
-  kernel.precision = Precision::twofold;
+  kernel.precision = Precision::binary64;
   EXPECT_EQ(factor(kernel, XFM_SCALE_FWD_BY_N), 1.0 / 3.0);
 }
 

@@ -9,7 +9,7 @@
 
 namespace xfm::catalogue {
 
-enum class Precision { single, twofold };
+enum class Precision { binary32, binary64 };
 
 /// Which of the scale flags carry 1/N: the forward ones, the inverse ones, or both alike.
 enum class Scaling { forward, inverse, symmetric };

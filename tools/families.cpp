@@ -14,7 +14,7 @@ using gen::Precision;
 
 Family complex_family(dft::Direction direction, const std::string& name) {
   return {.name = name,
-          .types = {ElementType{Precision::single, true}, ElementType{Precision::twofold, true}},
+          .types = {ElementType{Precision::binary32, true}, ElementType{Precision::binary64, true}},
           .lengths = dft::lengths(),
           .lowest = 2,
           .highest = 64,
@@ -27,7 +27,7 @@ Family complex_family(dft::Direction direction, const std::string& name) {
 
 Family real_family(real::Direction direction, real::Layout layout) {
   return {.name = real::family_name(direction, layout),
-          .types = {ElementType{Precision::single, false}, ElementType{Precision::twofold, false}},
+          .types = {ElementType{Precision::binary32, false}, ElementType{Precision::binary64, false}},
           .lengths = real::lengths(),
           .lowest = 2,
           .highest = 64,
@@ -40,7 +40,7 @@ Family real_family(real::Direction direction, real::Layout layout) {
 
 Family hartley_family() {
   return {.name = "Hartley",
-          .types = {ElementType{Precision::single, false}, ElementType{Precision::twofold, false}},
+          .types = {ElementType{Precision::binary32, false}, ElementType{Precision::binary64, false}},
           .lengths = hartley::lengths(),
           .lowest = 2,
           .highest = 64,
@@ -51,7 +51,7 @@ Family hartley_family() {
 
 Family walsh_hadamard_family() {
   return {.name = "WHT",
-          .types = {ElementType{Precision::single, false}, ElementType{Precision::twofold, false}},
+          .types = {ElementType{Precision::binary32, false}, ElementType{Precision::binary64, false}},
           .lengths = wht::orders(),
           .lowest = wht::orders().front(),
           .highest = wht::orders().back(),

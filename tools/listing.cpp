@@ -4,7 +4,7 @@
 
 #include <sstream>
 
-#include "gen/check.h"
+#include "gen/network/check.h"
 #include "tools/families.h"
 
 namespace xfm {
@@ -72,7 +72,7 @@ std::string calls(const std::string& function, bool takes_buffer) {
 
 std::string catalogue_row(const Row& row) {
   std::string text = fmt::format(R"(    {{"{}", "{}", "{}", )", row.name, row.family, row.type.suffix());
-  text += row.type.precision == gen::Precision::single ? "Precision::single, " : "Precision::twofold, ";
+  text += row.type.precision == gen::Precision::binary32 ? "Precision::binary32, " : "Precision::binary64, ";
   text += fmt::format("{}, {}, {}, {}, {}, {}, ", scaling_name(row.scaling), row.length, row.points, row.read,
                       row.written, row.exchanges);
   text += fmt::format("{}, {}, {}, \"{}\", ", row.packed, row.packed_math, row.straight, row.tree);

@@ -6,10 +6,10 @@
 #include <iostream>
 #include <tuple>
 
-#include "gen/check.h"
-#include "gen/emit.h"
-#include "gen/tree.h"
-#include "gen/write.h"
+#include "gen/algorithms/tree.h"
+#include "gen/network/check.h"
+#include "gen/write/emit.h"
+#include "gen/write/files.h"
 #include "tools/families.h"
 #include "tools/listing.h"
 
@@ -46,14 +46,14 @@ void write_all(const std::filesystem::path& out) {
 }
 
 // The public header stands in the source tree: renewed on demand, and compared by the tests.
-int door(const std::filesystem::path& frame, const std::filesystem::path& header, bool check) {
+int write_header(const std::filesystem::path& frame, const std::filesystem::path& header, bool check) {
   const std::string text = xfm::public_header(xfm::gen::read_file(frame));
   if (!check) {
     xfm::gen::write_if_changed(header, text);
     return 0;
   }
   if (xfm::gen::read_file(header) == text) return 0;
-  std::cerr << header.string() << " does not match the list of families; build the target \"door\"\n";
+  std::cerr << header.string() << " does not match the list of families; build the target \"header\"\n";
   return 1;
 }
 
@@ -104,14 +104,14 @@ int run(int argc, char** argv) {
   app.add_option("--show", what, "FAMILY N TYPE: tree, costs, lanes and text of one kernel");
   app.add_option("--tree", tree, "with --show: this tree instead of the row's");
   app.add_flag("--costs", list_costs, "every kernel's cost beside its row");
-  app.add_option("--door", header, "write the public header");
-  app.add_option("--frame", frame, "with --door: its hand-written frame");
-  app.add_flag("--check", check, "with --door: only compare");
+  app.add_option("--header", header, "write the public header");
+  app.add_option("--frame", frame, "with --header: its hand-written frame");
+  app.add_flag("--check", check, "with --header: only compare");
   CLI11_PARSE(app, argc, argv);
 
   if (!out.empty()) write_all(out);
   if (list_costs) costs();
-  if (!header.empty()) return door(frame, header, check);
+  if (!header.empty()) return write_header(frame, header, check);
   const auto& [name, length, suffix] = what;
   return name.empty() ? 0 : show(name, length, suffix, tree);
 }

@@ -10,7 +10,7 @@
 #define XFM_BODY __attribute__((always_inline)) static inline
 
 /// The unaligned body of a packed kernel: a function of its own, not exported and not merged into its caller.
-#define XFM_TWIN __attribute__((noinline, visibility("hidden")))
+#define XFM_UNALIGNED_VARIANT __attribute__((noinline, visibility("hidden")))
 
 namespace xfm {
 

@@ -124,11 +124,11 @@ XFM_INLINE inline xfmStatus body(const T* src, T* dst, std::int32_t flag, void* 
   }
 
 /// A kernel with an unaligned twin.
-#define XFM_WHT_WITH_TWIN(order, type)                                                          \
-  extern "C" XFM_TWIN XFM_WHT_SIGNATURE(xfmWHT_##order##_##type##_twin, type) {                 \
-    return xfm::wht::body<xfm##type, order, xfm::wht::Unaligned>(src, dst, flag, buffer);       \
-  }                                                                                             \
-  XFM_WHT_SIGNATURE(xfmWHT_##order##_##type, type) {                                            \
-    if (!xfm::aligned(src, dst)) return xfmWHT_##order##_##type##_twin(src, dst, flag, buffer); \
-    return xfm::wht::body<xfm##type, order, xfm::wht::Aligned>(src, dst, flag, buffer);         \
+#define XFM_WHT_WITH_UNALIGNED_VARIANT(order, type)                                                  \
+  extern "C" XFM_UNALIGNED_VARIANT XFM_WHT_SIGNATURE(xfmWHT_##order##_##type##_unaligned, type) {    \
+    return xfm::wht::body<xfm##type, order, xfm::wht::Unaligned>(src, dst, flag, buffer);            \
+  }                                                                                                  \
+  XFM_WHT_SIGNATURE(xfmWHT_##order##_##type, type) {                                                 \
+    if (!xfm::aligned(src, dst)) return xfmWHT_##order##_##type##_unaligned(src, dst, flag, buffer); \
+    return xfm::wht::body<xfm##type, order, xfm::wht::Aligned>(src, dst, flag, buffer);              \
   }

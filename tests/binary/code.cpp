@@ -31,7 +31,7 @@ const Body& traced(const std::string& function, const std::string& twin) {
 class Code : public KernelTest {
  protected:
   void SetUp() override {
-    const std::string name = kernel().name, twin = name + "_twin";
+    const std::string name = kernel().name, twin = name + "_unaligned";
     ASSERT_TRUE(code().has(name));
     ASSERT_EQ(code().has(twin), kernel().packed) << "a packed kernel, and no other, has a twin";
     bodies_.emplace(name, traced(name, kernel().packed ? twin : ""));
@@ -82,7 +82,7 @@ class Code : public KernelTest {
   /// A vector kernel without a twin holds the unaligned body itself.
   static int bodies_a_function() { return kernel().packed_math && !kernel().packed ? 2 : 1; }
   /// Binary64 and packed.
-  static bool in_pairs() { return kernel().packed_math && kernel().precision == Precision::twofold; }
+  static bool in_pairs() { return kernel().packed_math && kernel().precision == Precision::binary64; }
 
  private:
   std::map<std::string, const Body&> bodies_;
@@ -181,7 +181,7 @@ TEST_P(Code, RealTransformsMultiplyConstantsInBinary64) {
   if (real_family(kernel()) == nullptr) return;
   for (const auto& [name, body] : bodies()) {
     const auto narrow = std::ranges::count(body.instructions, "mulss", &Instruction::mnemonic);
-    const bool single = kernel().precision == Precision::single;
+    const bool single = kernel().precision == Precision::binary32;
     EXPECT_LE(narrow, single ? scaled_outputs(kernel()) + doublings() : 0) << name;
   }
 }
@@ -221,7 +221,7 @@ XFM_FOR_ALL_KERNELS(Code);
 
 // The reader of the disassembly, on lines as objdump prints them.
 TEST(Disassembler, Lines) {
-  const auto jump = parse_instruction("    266a:\tjmp    23a0 <f_twin>");
+  const auto jump = parse_instruction("    266a:\tjmp    23a0 <f_unaligned>");
   ASSERT_TRUE(jump.has_value());
   EXPECT_TRUE(jump->is_unconditional_jump());
   EXPECT_EQ(jump->target, 0x23a0U);

@@ -11,7 +11,7 @@ double of_kind(Random& random, Precision precision) {
 }
 
 double scaled(Random& random, Precision precision, int single, int twofold) {
-  return std::ldexp(random.even(), precision == Precision::single ? single : twofold);
+  return std::ldexp(random.even(), precision == Precision::binary32 ? single : twofold);
 }
 
 /// About the least normal number: sums and products fall below it.

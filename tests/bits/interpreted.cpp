@@ -1,6 +1,6 @@
 // Every generated kernel equals its network, run by the interpreter, to the bit: so a kernel that fails here
 // was written or compiled wrongly, and one that fails elsewhere has the wrong network.
-#include "gen/evaluate.h"
+#include "gen/network/interpreter.h"
 #include "tests/bits/data.h"
 #include "tests/bits/generated.h"
 #include "tests/bits/same_values.h"
@@ -21,7 +21,7 @@ void run(const gen::Network& network, const Array& src, Array& dst, double facto
 Array interpret(const gen::Kernel& kernel, const Array& src, double factor) {
   Array dst(src.precision(), kernel.written);
   dst.fill(Poison::quiet_nan);
-  if (src.precision() == Precision::single) {
+  if (src.precision() == Precision::binary32) {
     run<float>(*kernel.network, src, dst, factor);
   } else {
     run<double>(*kernel.network, src, dst, factor);

@@ -1,7 +1,7 @@
 // Packing changes no bit: the network of a packed kernel gives what the same tree gives with one lane, as
 // plain scalar code. Zeros of either sign equal, since lanes multiply together what a scalar leaves out.
-#include "gen/evaluate.h"
-#include "gen/fold.h"
+#include "gen/network/interpreter.h"
+#include "gen/passes/constant_folding.h"
 #include "src/dft/recipe/packed.h"
 #include "tests/bits/data.h"
 #include "tests/bits/generated.h"
@@ -29,7 +29,7 @@ Scalar on_one_lane(const gen::Tree& tree, int length, dft::Direction direction) 
   gen::Lanes lanes(*scalar.network);
   dft::Line x;
   for (int n = 0; n < length; ++n) x.push_back(gen::source_element(n));
-  dft::Packed packed(lanes, gen::Form::split, {length, gen::Precision::single});
+  dft::Packed packed(lanes, gen::Form::planar, {length, gen::Precision::binary32});
   const dft::Batch outputs = packed.transform(tree, {x}, direction);
   for (const gen::Element& e : outputs.front()) {
     scalar.store(e.re.value);
@@ -59,7 +59,7 @@ std::vector<Kernel> packed_complex_kernels() {
   std::vector<Kernel> kernels;
   for (const Kernel& kernel : catalogue::kernels()) {
     const bool complex = std::string(kernel.family).ends_with("_CToC");
-    if (complex && kernel.packed && kernel.precision == Precision::single) kernels.push_back(kernel);
+    if (complex && kernel.packed && kernel.precision == Precision::binary32) kernels.push_back(kernel);
   }
   return kernels;
 }

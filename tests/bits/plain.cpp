@@ -22,7 +22,7 @@ const std::set<int> lengths_64fc = {2, 3, 4, 5, 7, 8, 10, 12};
 
 bool listed(const Kernel& kernel) {
   if (kernel.family != forward && kernel.family != inverse) return false;
-  return (kernel.precision == Precision::single ? lengths_32fc : lengths_64fc).contains(kernel.length);
+  return (kernel.precision == Precision::binary32 ? lengths_32fc : lengths_64fc).contains(kernel.length);
 }
 
 std::vector<Kernel> listed_kernels() {
@@ -87,7 +87,7 @@ int Plain::compare(const std::multimap<int, Transform<T>>& equations) {
 
 TEST_P(Plain, EqualsTheEquations) {
   const int compared =
-      kernel().precision == Precision::single ? compare(equations_32fc()) : compare(equations_64fc());
+      kernel().precision == Precision::binary32 ? compare(equations_32fc()) : compare(equations_64fc());
   EXPECT_GE(compared, 1) << "no equations for this length";
 }
 
@@ -108,8 +108,8 @@ TEST(PlainList, SaysHowManyItCompares) {
         if (!present) missing += " " + std::to_string(length) + "_" + type;
       }
     };
-    look(lengths_32fc, Precision::single, "32fc");
-    look(lengths_64fc, Precision::twofold, "64fc");
+    look(lengths_32fc, Precision::binary32, "32fc");
+    look(lengths_64fc, Precision::binary64, "64fc");
     std::printf("%s: compared %d of %zu; not in this build:%s\n", family.c_str(), compared,
                 lengths_32fc.size() + lengths_64fc.size(), missing.empty() ? " none" : missing.c_str());
   }

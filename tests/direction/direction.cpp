@@ -104,7 +104,7 @@ class Direction : public KernelTest {
   /// Of the rounding of one transform: that of a matrix entry, and in binary64, whose matrices are far better
   /// than they must be, four roundings.
   static double bound() {
-    return kernel().precision == Precision::single ? matrix_bound(kernel()) : 4 * 0x1p-53;
+    return kernel().precision == Precision::binary32 ? matrix_bound(kernel()) : 4 * 0x1p-53;
   }
 
   void returns_the_input(std::int32_t flag, double times);
@@ -155,7 +155,7 @@ TEST_P(ComplexDirection, InverseIsForwardWithPartsExchanged) {
 // In binary64 real parts and imaginary parts go through one network of real coefficients and meet in its last
 // step, where the direction is the sign of a term: the same bits again. Binary32 twiddles round on their way.
 TEST_P(ComplexDirection, InverseIsForwardReflected) {
-  const bool exact = kernel().precision == Precision::twofold;
+  const bool exact = kernel().precision == Precision::binary64;
   for (int round = 0; round < 4; ++round) {
     const Array src = random_input();
     const Array got = inverse(src, XFM_SCALE_NONE);

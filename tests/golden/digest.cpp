@@ -69,8 +69,8 @@ std::string digest_as(const catalogue::Kernel& kernel) {
 }  // namespace
 
 std::string digest(const catalogue::Kernel& kernel) {
-  return kernel.precision == catalogue::Precision::single ? digest_as<float>(kernel)
-                                                          : digest_as<double>(kernel);
+  return kernel.precision == catalogue::Precision::binary32 ? digest_as<float>(kernel)
+                                                            : digest_as<double>(kernel);
 }
 
 }  // namespace xfm::test

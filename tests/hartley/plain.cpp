@@ -75,7 +75,7 @@ class PlainHartley : public FiniteDataTest {
 
 TEST_P(PlainHartley, EqualsTheEquations) {
   on_finite_data([&](const Array& src, std::int32_t flag) {
-    kernel().precision == Precision::single ? compare<float>(src, flag) : compare<double>(src, flag);
+    kernel().precision == Precision::binary32 ? compare<float>(src, flag) : compare<double>(src, flag);
   });
 }
 

@@ -23,7 +23,7 @@ double relative_error(const Array& dst, const std::vector<Wide>& expected) {
 
 TEST_P(RandomHartley, StaysWithinTheBound) {
   constexpr int rounds = 500;
-  const bool single = kernel().precision == Precision::single;
+  const bool single = kernel().precision == Precision::binary32;
   const double bound = single ? 2e-7 : 6e-16;
   const auto reference = definition(kernel());
   int beyond = 0;

@@ -50,7 +50,7 @@ class PlainReal : public FiniteDataTest {
 
 TEST_P(PlainReal, EqualsTheEquations) {
   on_finite_data([&](const Array& src, std::int32_t flag) {
-    kernel().precision == Precision::single ? compare<float>(src, flag) : compare<double>(src, flag);
+    kernel().precision == Precision::binary32 ? compare<float>(src, flag) : compare<double>(src, flag);
   });
 }
 

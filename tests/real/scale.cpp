@@ -63,7 +63,7 @@ std::vector<Kernel> forward_single_kernels() {
   std::vector<Kernel> kernels;
   for (const Kernel& kernel : catalogue::kernels()) {
     const RealFamily* const family = real_family(kernel);
-    if (family != nullptr && family->forward && kernel.precision == Precision::single)
+    if (family != nullptr && family->forward && kernel.precision == Precision::binary32)
       kernels.push_back(kernel);
   }
   return kernels;

@@ -54,7 +54,7 @@ class UnfetchedZeros : public KernelTest {
  protected:
   static void set_bits(Array& array, int index, std::uint64_t pattern) {
     const auto narrow = static_cast<std::uint32_t>(pattern >> 32 | (pattern & 1));
-    if (array.precision() == Precision::single) {
+    if (array.precision() == Precision::binary32) {
       std::memcpy(array.at(index), &narrow, sizeof narrow);
     } else {
       std::memcpy(array.at(index), &pattern, sizeof pattern);

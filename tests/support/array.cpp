@@ -38,7 +38,7 @@ std::string hexadecimal(double value) {
 double load_scalar(Precision precision, const void* base, int index) {
   const std::byte* place =
       static_cast<const std::byte*>(base) + std::ptrdiff_t{index} * scalar_size(precision);
-  if (precision == Precision::single) {
+  if (precision == Precision::binary32) {
     float value;
     std::memcpy(&value, place, sizeof value);
     return value;
@@ -50,7 +50,7 @@ double load_scalar(Precision precision, const void* base, int index) {
 
 void store_scalar(Precision precision, void* base, int index, double value) {
   std::byte* place = static_cast<std::byte*>(base) + std::ptrdiff_t{index} * scalar_size(precision);
-  if (precision == Precision::single) {
+  if (precision == Precision::binary32) {
     const auto narrow = static_cast<float>(value);
     std::memcpy(place, &narrow, sizeof narrow);
   } else {
@@ -59,7 +59,7 @@ void store_scalar(Precision precision, void* base, int index, double value) {
 }
 
 double rounded(Precision precision, double value) {
-  return precision == Precision::single ? double{static_cast<float>(value)} : value;
+  return precision == Precision::binary32 ? double{static_cast<float>(value)} : value;
 }
 
 // The NaN patterns are written as integers: a load and store of a signalling NaN as a number may quieten it.
@@ -73,7 +73,7 @@ void poison(Precision precision, void* base, int count, Poison pattern) {
   const std::uint64_t wide = quiet ? 0xfffbd3c2b1a09687 : 0x7ff5a1b2c3d4e5f6;
   for (int i = 0; i < count; ++i) {
     std::byte* place = static_cast<std::byte*>(base) + std::ptrdiff_t{i} * scalar_size(precision);
-    if (precision == Precision::single) {
+    if (precision == Precision::binary32) {
       std::memcpy(place, &narrow, sizeof narrow);
     } else {
       std::memcpy(place, &wide, sizeof wide);
@@ -121,8 +121,8 @@ testing::AssertionResult same_bits(const Array& got, const Array& expected) {
 std::uint64_t ulp_distance(Precision precision, double a, double b) {
   if (std::isnan(a) || std::isnan(b)) return std::numeric_limits<std::uint64_t>::max();
   const auto place = [&](double value) {
-    return precision == Precision::single ? rank<std::int32_t>(static_cast<float>(value))
-                                          : rank<std::int64_t>(value);
+    return precision == Precision::binary32 ? rank<std::int32_t>(static_cast<float>(value))
+                                            : rank<std::int64_t>(value);
   };
   const std::int64_t from = std::min(place(a), place(b)), to = std::max(place(a), place(b));
   return static_cast<std::uint64_t>(to) - static_cast<std::uint64_t>(from);

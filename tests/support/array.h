@@ -14,7 +14,7 @@ namespace xfm::test {
 
 using catalogue::Precision;
 
-constexpr int scalar_size(Precision precision) { return precision == Precision::single ? 4 : 8; }
+constexpr int scalar_size(Precision precision) { return precision == Precision::binary32 ? 4 : 8; }
 
 double load_scalar(Precision precision, const void* base, int index);
 /// Rounds the value to the precision.

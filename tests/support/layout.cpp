@@ -43,7 +43,7 @@ bool may_scale_before_narrowing(const catalogue::Kernel& kernel, int out) {
   static const std::set<int> lengths = {3,  5,  7,  9,  11, 12, 14, 15, 17, 18, 21, 22, 25, 27,
                                         28, 33, 34, 35, 39, 40, 45, 48, 49, 51, 54, 55, 57, 63};
   const RealFamily* const family = real_family(kernel);
-  return family != nullptr && family->forward && kernel.precision == catalogue::Precision::single &&
+  return family != nullptr && family->forward && kernel.precision == catalogue::Precision::binary32 &&
          lengths.contains(kernel.length) &&
          cells(family->layout, kernel.length)[static_cast<std::size_t>(out)].bin != 0;
 }

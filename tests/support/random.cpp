@@ -40,7 +40,7 @@ Random::Random(const std::string& name) : bits_(seed() ^ hash(name)) {}
 double Random::even() { return std::ldexp(static_cast<double>(bits_() >> 11), -52) - 1; }
 
 double Random::next(Kind kind, Precision precision) {
-  const bool single = precision == Precision::single;
+  const bool single = precision == Precision::binary32;
   const int greatest_exponent = single ? 127 : 1023;
   switch (kind) {
     case Kind::ordinary:

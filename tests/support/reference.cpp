@@ -210,11 +210,11 @@ double magnitude(const Definition& definition, const Array& src) {
   return sum;
 }
 
-double relative_bound(Precision precision) { return precision == Precision::single ? 2e-7 : 2e-15; }
+double relative_bound(Precision precision) { return precision == Precision::binary32 ? 2e-7 : 2e-15; }
 
 double common_bound(const Kernel& kernel) {
   const double bound = relative_bound(kernel.precision);
-  if (kernel.precision == Precision::twofold) return bound;
+  if (kernel.precision == Precision::binary64) return bound;
   const auto reference = definition(kernel);
   double greatest = 0;
   for (int in = 0; in < kernel.read; ++in) greatest = std::max(greatest, reference->greatest(in));
@@ -234,7 +234,7 @@ double matrix_bound(const Kernel& kernel) {
 double factor(const Kernel& kernel, std::int32_t flag) {
   const bool root = flag == XFM_SCALE_BY_SQRT_N;
   if (!root && !carries_by_n(kernel.scaling, flag)) return 1;
-  if (kernel.precision == Precision::single)
+  if (kernel.precision == Precision::binary32)
     return nearest_single(static_cast<unsigned long>(kernel.points), root);
   const double n = kernel.points;
   return 1.0 / (root ? std::sqrt(n) : n);

@@ -115,7 +115,7 @@ TEST_P(LoopNest, FactorsAreThoseOnRecord) {
 TEST_P(LoopNest, IsItsOwnInverse) {
   const Array src = random_input();
   EXPECT_TRUE(same_bits(separate(src, XFM_SCALE_FWD_BY_N), separate(src, XFM_SCALE_INV_BY_N)));
-  const double rounding = kernel().precision == Precision::single ? 0x1p-24 : 0x1p-53;
+  const double rounding = kernel().precision == Precision::binary32 ? 0x1p-24 : 0x1p-53;
   for (const auto& [first, second] :
        {std::pair{XFM_SCALE_NONE, XFM_SCALE_FWD_BY_N}, std::pair{XFM_SCALE_INV_BY_N, XFM_SCALE_NONE},
         std::pair{XFM_SCALE_BY_SQRT_N, XFM_SCALE_BY_SQRT_N}}) {

@@ -24,7 +24,7 @@ constexpr std::uint32_t buffer_sizes[2][13] = {
 };
 
 inline std::uint32_t buffer_size(const Kernel& kernel) {
-  return buffer_sizes[kernel.precision == Precision::twofold][kernel.length - 1];
+  return buffer_sizes[kernel.precision == Precision::binary64][kernel.length - 1];
 }
 
 inline xfmStatus run(const Kernel& kernel, const void* src, void* dst, std::int32_t flag, void* buffer) {

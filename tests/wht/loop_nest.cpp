@@ -41,12 +41,12 @@ Array run(const Array& src, double factor) {
 double root_factor(Precision precision, int order) {
   if (order % 2 == 0) return std::ldexp(1.0, -order / 2);
   const auto row = static_cast<std::size_t>(order / 2);
-  return precision == Precision::single ? double{std::bit_cast<float>(odd_roots_single[row])}
-                                        : std::bit_cast<double>(odd_roots_twofold[row]);
+  return precision == Precision::binary32 ? double{std::bit_cast<float>(odd_roots_single[row])}
+                                          : std::bit_cast<double>(odd_roots_twofold[row]);
 }
 
 Array loop_nest(const Array& src, double factor) {
-  return src.precision() == Precision::single ? run<float>(src, factor) : run<double>(src, factor);
+  return src.precision() == Precision::binary32 ? run<float>(src, factor) : run<double>(src, factor);
 }
 
 }  // namespace xfm::test

@@ -2,7 +2,7 @@
 // inverse kernel exchanges real and imaginary parts at its ends instead.
 #pragma once
 
-#include "gen/complex.h"
+#include "gen/network/complex.h"
 
 namespace xfm::dft {
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "gen/number.h"
+#include "gen/math/number.h"
 #include "src/dft/recipe/table.h"
 
 namespace xfm::dft {
@@ -30,24 +30,31 @@ struct ChosenOrder {
   gen::Order order;
 };
 constexpr ChosenOrder orders[] = {
-    {5, Precision::single, gen::Order::bisection},   {24, Precision::single, gen::Order::bisection},
-    {58, Precision::single, gen::Order::bisection},  {59, Precision::single, gen::Order::bisection},
-    {16, Precision::twofold, gen::Order::earliest},  {17, Precision::twofold, gen::Order::earliest},
-    {43, Precision::twofold, gen::Order::bisection}, {46, Precision::twofold, gen::Order::bisection},
-    {47, Precision::twofold, gen::Order::bisection}, {53, Precision::twofold, gen::Order::bisection},
-    {54, Precision::twofold, gen::Order::bisection}, {59, Precision::twofold, gen::Order::bisection},
-    {61, Precision::twofold, gen::Order::bisection}, {62, Precision::twofold, gen::Order::bisection},
+    {5, Precision::binary32, gen::Order::bisection},
+    {24, Precision::binary32, gen::Order::bisection},
+    {58, Precision::binary32, gen::Order::bisection},
+    {59, Precision::binary32, gen::Order::bisection},
+    {16, Precision::binary64, gen::Order::earliest_start},
+    {17, Precision::binary64, gen::Order::earliest_start},
+    {43, Precision::binary64, gen::Order::bisection},
+    {46, Precision::binary64, gen::Order::bisection},
+    {47, Precision::binary64, gen::Order::bisection},
+    {53, Precision::binary64, gen::Order::bisection},
+    {54, Precision::binary64, gen::Order::bisection},
+    {59, Precision::binary64, gen::Order::bisection},
+    {61, Precision::binary64, gen::Order::bisection},
+    {62, Precision::binary64, gen::Order::bisection},
 };
 
 }  // namespace
 
 const char* Choices::tree(int length) const {
   const Row& of = row(length);
-  return precision_ == Precision::single ? of.single.tree : of.twofold.tree;
+  return precision_ == Precision::binary32 ? of.binary32.tree : of.binary64.tree;
 }
 
 Five Choices::five(int index, bool real, bool transposed) const {
-  if (precision_ == Precision::single) {
+  if (precision_ == Precision::binary32) {
     if (length_ == 5) return Five::outer_first;
     return length_ == 62 && !transposed ? Five::six_products : Five::inner_first;
   }
@@ -69,14 +76,14 @@ gen::Order Choices::order() const {
   const auto chosen = std::find_if(std::begin(orders), std::end(orders), [&](const ChosenOrder& of) {
     return of.length == length_ && of.precision == precision_;
   });
-  return chosen == std::end(orders) ? gen::Order::windows : chosen->order;
+  return chosen == std::end(orders) ? gen::Order::windowed : chosen->order;
 }
 
 gen::Root Choices::root(int prime) const {
   const auto chosen =
       std::find_if(std::begin(roots_single), std::end(roots_single),
                    [&](const ChosenRoot& r) { return r.length == length_ && r.prime == prime; });
-  if (precision_ == Precision::single && chosen != std::end(roots_single)) return chosen->root;
+  if (precision_ == Precision::binary32 && chosen != std::end(roots_single)) return chosen->root;
   return {gen::smallest_primitive_root(prime), 0};
 }
 

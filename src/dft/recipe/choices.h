@@ -3,7 +3,7 @@
 #pragma once
 
 #include "gen/kernel.h"
-#include "gen/rader.h"
+#include "gen/math/rader_spectrum.h"
 #include "src/dft/recipe/blocks.h"
 
 namespace xfm::dft {

@@ -2,10 +2,10 @@
 
 #include <stdexcept>
 
-#include "gen/check.h"
-#include "gen/flips.h"
-#include "gen/fold.h"
-#include "gen/lanes.h"
+#include "gen/network/check.h"
+#include "gen/packing/lanes.h"
+#include "gen/passes/constant_folding.h"
+#include "gen/passes/sign_flips.h"
 #include "src/dft/recipe/lane_real.h"
 #include "src/dft/recipe/packed.h"
 #include "src/dft/recipe/table.h"
@@ -32,12 +32,12 @@ std::unique_ptr<Network> lane_real_network(int length, const Tree& tree, Directi
   const auto store = [&](int k, Value v) { network->store(network->factor(v), pair(k)); };
   Points x;
   for (int n = 0; n < length; ++n) x.push_back({network->load(pair(n)), {}});
-  const Points out = LaneReal({length, Precision::twofold}).transform(tree, x);
+  const Points out = LaneReal({length, Precision::binary64}).transform(tree, x);
   store(0, out[0].p);
   for (int k = 1; 2 * k < length; ++k) {
     const auto [p, q] = out[static_cast<std::size_t>(k)];
     const Value turned =
-        network->flip(network->exchange(direction == Direction::forward ? q : -q), {1, 0, 0, 0});
+        network->flip_signs(network->exchange(direction == Direction::forward ? q : -q), {1, 0, 0, 0});
     store(k, p + turned);
     store(length - k, p - turned);
   }
@@ -48,20 +48,20 @@ std::unique_ptr<Network> lane_real_network(int length, const Tree& tree, Directi
 std::unique_ptr<Network> packed_network(int length, const Tree& tree, Direction direction, int width,
                                         Form form) {
   const bool mixed = length == 3 || length == 5;
-  auto network = std::make_unique<Network>(width, mixed ? gen::Rounding::statement : gen::Rounding::each);
+  auto network = std::make_unique<Network>(width, mixed ? gen::Rounding::combination : gen::Rounding::each);
   gen::Lanes lanes(*network);
   Line x;
   for (int n = 0; n < length; ++n) x.push_back(gen::source_element(n));
-  Packed packed(lanes, form, {length, Precision::single});
+  Packed packed(lanes, form, {length, Precision::binary32});
   lanes.store(packed.transform(tree, {x}, direction).front());
   return network;
 }
 
 // Scalar code, or four lanes in the form that takes fewer instructions.
 std::unique_ptr<Network> single_network(int length, const Tree& tree, Direction direction) {
-  if (length <= longest_scalar) return packed_network(length, tree, direction, 1, Form::split);
-  auto split = gen::absorb_flips(*packed_network(length, tree, direction, gen::max_lanes, Form::split));
-  auto whole = gen::absorb_flips(*packed_network(length, tree, direction, gen::max_lanes, Form::whole));
+  if (length <= longest_scalar) return packed_network(length, tree, direction, 1, Form::planar);
+  auto split = gen::absorb_flips(*packed_network(length, tree, direction, gen::max_lanes, Form::planar));
+  auto whole = gen::absorb_flips(*packed_network(length, tree, direction, gen::max_lanes, Form::interleaved));
   return gen::instructions(*split) < gen::instructions(*whole) ? std::move(split) : std::move(whole);
 }
 
@@ -112,8 +112,8 @@ std::vector<int> lengths() {
 }
 
 Kernel make_kernel(int length, Precision precision, Direction direction, const std::string& tree) {
-  const bool forward = direction == Direction::forward, single = precision == Precision::single;
-  const Breakdown& breakdown = single ? row(length).single : row(length).twofold;
+  const bool forward = direction == Direction::forward, single = precision == Precision::binary32;
+  const Breakdown& breakdown = single ? row(length).binary32 : row(length).binary64;
   const std::string text = tree.empty() ? breakdown.tree : tree;
   Kernel kernel{.name = "",
                 .family = forward ? "DFTFwd_CToC" : "DFTInv_CToC",

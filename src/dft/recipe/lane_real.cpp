@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "gen/number.h"
+#include "gen/math/number.h"
 #include "src/dft/recipe/rules.h"
 
 namespace xfm::dft {

@@ -6,8 +6,8 @@
 // outputs: X[k] = P + i*Q.
 #pragma once
 
-#include "gen/complex.h"
-#include "gen/tree.h"
+#include "gen/algorithms/tree.h"
+#include "gen/network/complex.h"
 #include "src/dft/recipe/choices.h"
 
 namespace xfm::dft {

@@ -30,7 +30,7 @@ Batch Packed::transform(const Tree& tree, const Batch& x, Direction direction) {
 Batch Packed::each(const Batch& x, const Block& block, Direction direction) {
   Batch out(x.size());
   for (const std::vector<std::size_t>& group : groups(x)) {
-    const bool exchange = direction == Direction::inverse && form_ == Form::split;
+    const bool exchange = direction == Direction::inverse && form_ == Form::planar;
     Points inputs;
     for (std::size_t j = 0; j < x[group[0]].size(); ++j) {
       std::vector<Element> elements(group.size());

@@ -9,8 +9,8 @@
 
 #include <functional>
 
-#include "gen/lanes.h"
-#include "gen/tree.h"
+#include "gen/algorithms/tree.h"
+#include "gen/packing/lanes.h"
 #include "src/dft/recipe/choices.h"
 #include "src/dft/recipe/rules.h"
 

@@ -4,9 +4,9 @@
 //   b[q] = exp(-2 pi i g^-q/N),  B[r] = (1/M) sum_q b[q] exp(-2 pi i q r/M).
 // 1/M is folded into B, and x0 joins at the bin of frequency zero, so that the inverse spreads it over all
 // outputs.
-#include "gen/rader.h"
-#include "gen/number.h"
-#include "gen/transpose.h"
+#include "gen/algorithms/transposition.h"
+#include "gen/math/number.h"
+#include "gen/math/rader_spectrum.h"
 #include "src/dft/recipe/lane_real.h"
 #include "src/dft/recipe/packed.h"
 #include "src/dft/recipe/rules.h"

@@ -1,9 +1,9 @@
 // What the rules of the breakdown tables mean, apart from how they are carried out.
 #pragma once
 
-#include "gen/constant.h"
-#include "gen/number.h"
-#include "gen/tree.h"
+#include "gen/algorithms/tree.h"
+#include "gen/math/constant.h"
+#include "gen/math/number.h"
 
 namespace xfm::dft {
 

@@ -12,8 +12,8 @@ struct Breakdown {
 
 struct Row {
   int length;
-  Breakdown single;   ///< _32fc
-  Breakdown twofold;  ///< _64fc
+  Breakdown binary32;  ///< _32fc
+  Breakdown binary64;  ///< _64fc
 };
 
 /// All rows, in the order of length. Rules, the first argument nearest the input: CT Cooley-Tukey, PFA

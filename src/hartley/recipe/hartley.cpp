@@ -3,11 +3,11 @@
 #include <numeric>
 #include <stdexcept>
 
-#include "gen/check.h"
-#include "gen/real/merge.h"
-#include "gen/real/signs.h"
-#include "gen/real/transform.h"
-#include "gen/transpose.h"
+#include "gen/algorithms/real_transform.h"
+#include "gen/algorithms/transposition.h"
+#include "gen/network/check.h"
+#include "gen/passes/merging.h"
+#include "gen/passes/signs.h"
 #include "src/hartley/recipe/structure.h"
 
 namespace xfm::hartley {
@@ -49,7 +49,7 @@ Draft forward(const Tree& plan, int length) {
 // H[k] = x0 + sum_j (x[j] + x[N-j]) cos(2 pi jk/N) + (x[j] - x[N-j]) sin(2 pi jk/N), j < N/2 (and +-x[N/2]
 // for even N): an inverse real transform of the bins x[j] + x[N-j], x[N-j] - x[j].
 Draft folded(const Tree& plan, int length) {
-  gen::Network there(1, gen::Rounding::statement);
+  gen::Network there(1, gen::Rounding::combination);
   const gen::Points bins = gen::real::transform(plan, gen::real::samples(there, length));
   Draft draft;
   const Values x = gen::real::samples(*draft.network, length);
@@ -66,7 +66,7 @@ Draft folded(const Tree& plan, int length) {
 Draft finished(Products products, const Draft& draft) {
   if (products == Products::merged_in_pairs) return gen::real::merged_pairs(draft);
   Draft merged = gen::real::merged(draft);
-  return products == Products::kept ? gen::real::kept(merged) : std::move(merged);
+  return products == Products::unrounded ? gen::real::unrounded(merged) : std::move(merged);
 }
 
 // dst[k] = sum over j of src[j] (cos + sin)(2 pi j k/N).
@@ -116,7 +116,7 @@ Kernel make_kernel(int length, Precision precision, const std::string& plan) {
     throw std::invalid_argument("plan " + kernel.tree + " is not one of length " + std::to_string(length));
   const Draft draft =
       finished(of.products, of.design == Design::forward ? forward(whole, length) : folded(whole, length));
-  kernel.network = gen::real::bind(draft, natural_order(length), gen::real::turned_signs(draft));
+  kernel.network = gen::real::bind(draft, natural_order(length), gen::real::negated_values(draft));
   gen::check_memory(*kernel.network, length, length, kernel.name);
   gen::check_definition(*kernel.network, definition, length, length, kernel.name);
   if (plan.empty()) {

@@ -5,8 +5,8 @@
 #include <set>
 #include <stdexcept>
 
-#include "gen/number.h"
-#include "gen/schedule.h"
+#include "gen/math/number.h"
+#include "gen/order/schedule.h"
 
 namespace xfm::hartley {
 namespace {

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "gen/real/draft.h"
+#include "gen/passes/binding.h"
 #include "src/hartley/recipe/table.h"
 
 namespace xfm::hartley {

@@ -19,12 +19,12 @@ enum class Output { conjugate, half, radix };
 /// of the input, and an inverse real transform, the transpose of the plan, does the rest.
 enum class Design { forward, folded };
 
-/// What becomes of products on the way (gen/real/merge.h).
+/// What becomes of products on the way (gen/passes/merging.h).
 enum class Products {
   merged,
   merged_in_pairs,
-  kept,  ///< merged, and in binary64 through the additions behind them, where random data passed the bound of
-         ///< accuracy in one vector of some hundreds
+  unrounded,  ///< merged, and in binary64 through the additions behind them, where random data passed the
+              ///< bound of accuracy in one vector of some hundreds
 };
 
 struct Row {
@@ -35,7 +35,8 @@ struct Row {
   int radix;
   int adds, mults;  ///< real operations without the factor
   Design design;
-  const char* plan;  ///< as gen/real/transform.h has it; a number is a block or a plan of that length
+  const char*
+      plan;  ///< as gen/algorithms/real_transform.h has it; a number is a block or a plan of that length
   Products products = Products::merged;
 };
 

@@ -1,7 +1,7 @@
 // From the rows to plans: every length spelled out down to its blocks, in the order from samples to bins.
 #pragma once
 
-#include "gen/tree.h"
+#include "gen/algorithms/tree.h"
 #include "src/real/recipe/table.h"
 
 namespace xfm::real {

@@ -2,11 +2,11 @@
 
 #include <stdexcept>
 
-#include "gen/check.h"
-#include "gen/real/merge.h"
-#include "gen/real/signs.h"
-#include "gen/real/transform.h"
-#include "gen/transpose.h"
+#include "gen/algorithms/real_transform.h"
+#include "gen/algorithms/transposition.h"
+#include "gen/network/check.h"
+#include "gen/passes/merging.h"
+#include "gen/passes/signs.h"
 
 namespace xfm::real {
 namespace {
@@ -45,7 +45,7 @@ Draft forward(const Tree& plan, int length) {
 
 // The sum over all N bins: those with a conjugate count twice.
 Draft inverse(const Tree& plan, int length) {
-  gen::Network there(1, gen::Rounding::statement);
+  gen::Network there(1, gen::Rounding::combination);
   const gen::Points bins = gen::real::transform(plan, gen::real::samples(there, length));
   Draft draft;
   gen::Transposition transposition(there);
@@ -137,7 +137,8 @@ Kernel make_kernel(int length, Precision precision, Direction direction, Layout 
   if (gen::real::length_of(whole) != length)
     throw std::invalid_argument("tree " + kernel.tree + " is not one of length " + std::to_string(length));
   const Draft draft = gen::real::merged(forwards ? forward(whole, length) : inverse(whole, length));
-  kernel.network = gen::real::bind(draft, binding(direction, layout, length), gen::real::turned_signs(draft));
+  kernel.network =
+      gen::real::bind(draft, binding(direction, layout, length), gen::real::negated_values(draft));
   gen::check_memory(*kernel.network, kernel.read, kernel.written, kernel.name,
                     forwards ? std::vector<int>{} : zeros(layout, length));
   gen::check_definition(*kernel.network, definition(direction, layout, length), kernel.read, kernel.written,

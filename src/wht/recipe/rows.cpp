@@ -32,7 +32,7 @@ std::vector<int> orders() {
 }
 
 gen::Row row(int order, gen::Precision precision) {
-  const bool single = precision == gen::Precision::single;
+  const bool single = precision == gen::Precision::binary32;
   const Passes p = single ? passes<float>(order) : passes<double>(order);
   const gen::ElementType type{precision, false};
   const int n = p.length(), width = single ? lanes<float>(p.block) : lanes<double>(p.block);

@@ -1,0 +1,87 @@
+#include "gen/math/constant.h"
+
+#include <cmath>
+#include <numeric>
+
+namespace xfm::gen {
+namespace {
+
+// 2 pi as a sum of three binary64 values, more than 113 bits.
+Wide two_pi() {
+  return Wide(0x1.921fb54442d18p+2) + Wide(0x1.1a62633145c07p-52) + Wide(-0x1.f1976b7ed8fbcp-108);
+}
+
+// Taylor series on the first octant, summed from the small end for the last bits.
+Wide series(Wide x, int first_power) {
+  constexpr int terms = 18;
+  Wide tail = 0;
+  for (int t = terms; t > 0; --t) {
+    const int p = first_power + 2 * t;
+    tail = -(x * x) / Wide(p * (p - 1)) * (1 + tail);
+  }
+  return (first_power == 0 ? Wide(1) : x) * (1 + tail);
+}
+
+std::string fraction(Turn t) { return std::to_string(t.num) + "/" + std::to_string(t.den); }
+
+// The named constant cos or sin of t for 0 <= t <= 1/8. The three algebraic cases keep their exact values.
+Constant octant(bool is_cosine, Turn t) {
+  if (t.num == 0) return is_cosine ? Constant{"1", 1} : Constant{"0", 0};
+  if (!is_cosine && t.num == 1 && t.den == 12) return {"0.5", Wide(1) / 2};
+  if (t.num == 1 && t.den == 8) return {"cos 1/8", wide_sqrt(Wide(1) / 2)};
+  const Wide angle = two_pi() * Wide(t.num) / Wide(t.den);
+  return {(is_cosine ? "cos " : "sin ") + fraction(t), series(angle, is_cosine ? 0 : 1)};
+}
+
+}  // namespace
+
+Wide wide_abs(Wide v) { return v < 0 ? -v : v; }
+
+Wide wide_sqrt(Wide v) {
+  if (v == 0) return 0;
+  Wide root = std::sqrt(static_cast<double>(v));
+  for (int i = 0; i < 3; ++i) root = (root + v / root) / 2;
+  return root;
+}
+
+Turn turn(long long num, long long den) {
+  num = ((num % den) + den) % den;
+  const long long divisor = std::gcd(num, den);
+  return {static_cast<long>(num / divisor), static_cast<long>(den / divisor)};
+}
+
+Constant operator-(const Constant& c) {
+  if (c.is_zero()) return c;
+  return {c.name.starts_with('-') ? c.name.substr(1) : "-" + c.name, -c.value};
+}
+
+Constant magnitude(const Constant& c) { return c.is_negative() ? -c : c; }
+
+Constant operator*(const Constant& a, const Constant& b) {
+  if (a.is_zero() || b.is_one()) return a;
+  if (b.is_zero() || a.is_one()) return b;
+  const bool negative = a.is_negative() != b.is_negative();
+  const Constant u = magnitude(a), v = magnitude(b);
+  const Constant product =
+      u.is_one() ? v
+      : v.is_one()
+          ? u
+          : constant(u.name < v.name ? u.name + " x " + v.name : v.name + " x " + u.name, u.value * v.value);
+  return negative ? -product : product;
+}
+
+Constant cosine(Turn t) {
+  const long n = t.num, d = t.den;
+  if (2 * n > d) return cosine(turn(d - n, d));           // cos(-x) = cos x
+  if (4 * n > d) return -cosine(turn(d - 2 * n, 2 * d));  // cos(1/2 - x) = -cos x
+  if (8 * n > d) return octant(false, turn(d - 4 * n, 4 * d));
+  return octant(true, t);
+}
+
+Constant sine(Turn t) { return cosine(turn(4LL * t.num - t.den, 4LL * t.den)); }
+
+Constant constant(std::string name, Wide value) { return {std::move(name), value}; }
+
+ComplexConstant root_of_unity(Turn t) { return {cosine(t), -sine(t)}; }
+
+}  // namespace xfm::gen

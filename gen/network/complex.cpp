@@ -1,0 +1,75 @@
+#include "gen/network/complex.h"
+
+#include <algorithm>
+
+namespace xfm::gen {
+namespace {
+
+using Products = std::vector<Network::Product>;
+
+// The terms of one half that are not zero by structure.
+Products products(const std::vector<ScaledComplex>& terms, Value Complex::*half) {
+  Products present;
+  for (const ScaledComplex& term : terms) {
+    if (!(term.z.*half).absent() && !term.c.is_zero()) present.push_back({term.c, term.z.*half});
+  }
+  return present;
+}
+
+Value combine(const std::vector<ScaledComplex>& terms, Value Complex::*half) {
+  const Products present = products(terms, half);
+  return present.empty() ? Value{} : present.front().v.network->sum(present);
+}
+
+bool is_negative(const Network::Product& term) { return term.c.is_negative() != term.v.negative; }
+bool is_plain(const Network::Product& term) { return magnitude(term.c).is_one(); }
+
+Value product(const Constant& c, Value v) { return v.absent() ? Value{} : v.network->mul(c, v); }
+
+}  // namespace
+
+Complex operator+(const Complex& a, const Complex& b) { return {a.p + b.p, a.q + b.q}; }
+Complex operator-(const Complex& a, const Complex& b) { return {a.p - b.p, a.q - b.q}; }
+Complex times_i(const Complex& z) { return {-z.q, z.p}; }
+Complex conjugate(const Complex& z) { return {z.p, -z.q}; }
+Complex exchanged(const Complex& z) { return {z.q, z.p}; }
+
+ScaledComplex::operator Complex() const { return sum({*this}); }
+
+Complex sum(std::initializer_list<ScaledComplex> terms) { return sum(std::vector<ScaledComplex>(terms)); }
+
+Complex sum(const std::vector<ScaledComplex>& terms) {
+  return {combine(terms, &Complex::p), combine(terms, &Complex::q)};
+}
+
+Value combination(std::vector<Network::Product> terms, Finish finish) {
+  if (terms.empty()) return {};
+  const bool turned = std::all_of(terms.begin(), terms.end(), is_negative);
+  if (turned) {
+    for (Network::Product& term : terms) term.v = -term.v;
+  }
+  auto leader = terms.begin();
+  if (is_negative(*leader)) {
+    const auto leads = [](const Network::Product& term) { return !is_negative(term); };
+    leader = std::find_if(terms.begin(), terms.end(),
+                          [&](const Network::Product& term) { return leads(term) && is_plain(term); });
+    if (leader == terms.end()) leader = std::find_if(terms.begin(), terms.end(), leads);
+  }
+  std::rotate(terms.begin(), leader, leader + 1);
+  const Value sum = terms.front().v.network->sum(terms, finish);
+  return turned ? -sum : sum;
+}
+
+Complex combination(const std::vector<ScaledComplex>& terms) {
+  return {combination(products(terms, &Complex::p)), combination(products(terms, &Complex::q))};
+}
+
+Complex operator*(const ComplexConstant& w, const Complex& z) {
+  // One by one: compilers evaluate the operands of a sign in different orders, and would make different
+  // texts.
+  const Value cp = product(w.re, z.p), sq = product(w.im, z.q), sp = product(w.im, z.p),
+              cq = product(w.re, z.q);
+  return {cp - sq, sp + cq};
+}
+
+}  // namespace xfm::gen

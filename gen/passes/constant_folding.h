@@ -1,0 +1,18 @@
+// Folding of constants: products of products become one, with a constant that is multiplied out before it is
+// rounded.
+//
+// A product all of whose uses are products is dropped, and its constant goes into theirs. Its transpose: a
+// product of a sum of products that nothing else uses is distributed over them. Both save a multiplication
+// and its rounding.
+#pragma once
+
+#include <memory>
+
+#include "gen/network/network.h"
+
+namespace xfm::gen {
+
+/// The network with all constants folded.
+std::unique_ptr<Network> fold(const Network& network);
+
+}  // namespace xfm::gen

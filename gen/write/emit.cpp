@@ -1,0 +1,311 @@
+#include "gen/write/emit.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cmath>
+#include <set>
+#include <stdexcept>
+
+#include "gen/network/check.h"
+#include "gen/order/schedule.h"
+
+namespace xfm::gen {
+namespace {
+
+constexpr const char* written_by_xfmgen =
+    "// Written by xfmgen; do not edit: change the row or the recipe, and build.\n";
+
+std::string identifier(const std::string& name) {
+  if (name.starts_with('-')) return "minus_" + identifier(name.substr(1));
+  std::string id;
+  for (const char c : name) id += std::isalnum(static_cast<unsigned char>(c)) != 0 ? c : '_';
+  return id;
+}
+
+bool is_trivial(const Constant& c) { return c.is_zero() || magnitude(c).is_one(); }
+
+const char* register_type(const Kernel& kernel) { return kernel.network->width() == 2 ? "Pair" : "Quad"; }
+
+// A kernel's body, line by line.
+class Body {
+ public:
+  Body(const Kernel& kernel, SharedConstants& shared)
+      : kernel_(kernel), network_(*kernel.network), shared_(shared) {}
+
+  std::string text() {
+    std::string lines;
+    for (const Step& step : schedule(network_, kernel_.order)) {
+      lines += step.node >= 0 ? compute(step.node)
+                              : store(network_.stores()[static_cast<std::size_t>(step.store)]);
+    }
+    return constants() + lines;
+  }
+
+  // The shared registers that text() uses, to be declared in front of the body.
+  std::string declarations() const {
+    std::string text;
+    for (const std::string& name : registers_) {
+      text += fmt::format("extern \"C\" XFM_CONSTANT {} {};\n", register_type(kernel_), name);
+    }
+    return text;
+  }
+
+ private:
+  // Statements carry binary64 constants whatever the kernel's precision.
+  Precision constant_precision() const {
+    return network_.rounding() == Rounding::combination ? Precision::binary64 : kernel_.type.precision;
+  }
+
+  std::string constants() const {
+    std::string text;
+    for (const Constant& c : constants_) {
+      text += fmt::format("  constexpr {} {} = {};  // {:.17g}\n",
+                          constant_precision() == Precision::binary32 ? "xfm32f" : "xfm64f", named(c.name),
+                          literal(c.value, constant_precision()), static_cast<double>(c.value));
+    }
+    return text;
+  }
+
+  static std::string named(const std::string& name) {
+    return std::isdigit(static_cast<unsigned char>(name[0])) != 0 ? "c" + identifier(name) : identifier(name);
+  }
+
+  // Constants appear by name, with their sign in front; 0 and 1 as they are.
+  std::string use(const Constant& c) {
+    if (is_trivial(c)) return fmt::format("{}", static_cast<int>(c.value));
+    constants_.insert(magnitude(c));
+    return (c.is_negative() ? "-" : "") + named(magnitude(c).name);
+  }
+
+  std::string value_type() const {
+    return network_.width() == 1 ? kernel_.type.scalar() : register_type(kernel_);
+  }
+
+  static std::string var(NodeId id) { return fmt::format("v{}", id); }
+
+  std::string compute(NodeId id) {
+    const Node& node = network_.node(id);
+    const std::string type = node.finish == Finish::unrounded ? "xfm64f" : value_type();
+    return fmt::format("  const {} {} = {};\n", type, var(id), expression(node));
+  }
+
+  std::string expression(const Node& node) {
+    switch (node.op) {
+      case Op::load:
+        return load(node);
+      case Op::shuffle:
+        return shuffle(node);
+      case Op::exchange:
+        return fmt::format("exchange({})", var(node.in[0]));
+      case Op::sign_flip:
+        return flip(node);
+      case Op::add:
+        return fmt::format("{} + {}", var(node.in[0]), var(node.in[1]));
+      case Op::sub:
+        return fmt::format("{} - {}", var(node.in[0]), var(node.in[1]));
+      case Op::mul:
+        return fmt::format("{} * {}", multiplier(node), var(node.in[0]));
+      case Op::combination:
+        return combination(node);
+      case Op::factor:
+        return fmt::format("s * {}", var(node.in[0]));
+      case Op::twice:
+        return fmt::format("{0} + {0}", var(node.in[0]));
+      case Op::minus:
+        return fmt::format("0 - {}", var(node.in[0]));
+    }
+    return {};
+  }
+
+  std::string multiplier(const Node& node) {
+    if (network_.width() == 1) return use(node.constants[0]);
+    if (node.constants.size() == 1) {
+      std::string name = shared_.use(node.constants[0], kernel_);
+      registers_.insert(name);
+      return name;
+    }
+    std::string lanes;
+    for (const Constant& c : node.constants) lanes += (lanes.empty() ? "" : ", ") + use(c);
+    return fmt::format("_mm_setr_ps({})", lanes);
+  }
+
+  std::string flip(const Node& node) const {
+    if (network_.width() == 2) return fmt::format("flip({})", var(node.in[0]));
+    const auto [a, b, c, d] = node.lanes;
+    return fmt::format("flip<{}, {}, {}, {}>({})", a, b, c, d, var(node.in[0]));
+  }
+
+  // One linear combination in binary64, rounded once; its terms stand in the recipe's order.
+  std::string combination(const Node& node) {
+    std::string sum;
+    for (const Term& term : node.terms) {
+      const bool negative = term.coefficient.is_negative();
+      const Constant c = magnitude(term.coefficient);
+      if (sum.empty()) {
+        sum = negative ? "-" : "";
+      } else {
+        sum += negative ? " - " : " + ";
+      }
+      const std::string operand = fmt::format("xfm64f{{{}}}", var(term.node));
+      sum += c.is_one() ? operand : fmt::format("{} * {}", use(c), operand);
+    }
+    if (scales(node.finish)) sum = fmt::format("xfm64f{{s}} * ({})", sum);
+    if (node.finish == Finish::negated) sum = "0 - " + sum;
+    return kernel_.type.precision == Precision::binary32 && node.finish != Finish::unrounded
+               ? fmt::format("static_cast<xfm32f>({})", sum)
+               : sum;
+  }
+
+  std::string load(const Node& node) const {
+    const auto& at = node.lanes;
+    if (network_.width() == 1) return fmt::format("x[{}]", at[0]);
+    if (network_.width() == 2 || at[2] == at[0] + 2)
+      return fmt::format("{}::load(x + {})", memory(at[0]), at[0]);
+    if (at[2] < 0) return fmt::format("load_low(x + {})", at[0]);
+    return fmt::format("load_halves(x + {}, x + {})", at[0], at[2]);
+  }
+
+  // Two adjacent complex numbers at an odd index are never aligned.
+  std::string memory(int scalar) const {
+    return network_.width() == 4 && scalar % 4 != 0 ? "Unaligned" : "Memory";
+  }
+
+  static std::string shuffle(const Node& node) {
+    const std::string u = var(node.in[0]), v = var(node.in[1]);
+    const auto [a, b, c, d] = node.lanes;
+    const auto is = [&](std::array<int, 4> picks) { return node.lanes == picks; };
+    if (is({0, 1, 4, 5})) return fmt::format("low_halves({}, {})", u, v);
+    if (is({2, 3, 6, 7})) return fmt::format("high_halves({}, {})", u, v);
+    if (is({0, 4, 1, 5})) return fmt::format("unpack_low({}, {})", u, v);
+    if (is({2, 6, 3, 7})) return fmt::format("unpack_high({}, {})", u, v);
+    return fmt::format("shuffle<{}, {}, {}, {}>({}, {})", a, b, c - 4, d - 4, u, v);
+  }
+
+  std::string store(const Store& store) const {
+    const auto& to = store.lanes;
+    if (store.node < 0) return fmt::format("  y[{}] = 0;\n", to[0]);
+    const std::string v = var(store.node);
+    if (network_.width() == 1) return fmt::format("  y[{}] = {};\n", to[0], v);
+    if (network_.width() == 2 || (to[0] >= 0 && to[2] == to[0] + 2)) {
+      return fmt::format("  {}::store(y + {}, {});\n", memory(to[0]), to[0], v);
+    }
+    std::string text;
+    if (to[0] >= 0) text += fmt::format("  store_low(y + {}, {});\n", to[0], v);
+    if (to[2] >= 0) text += fmt::format("  store_high(y + {}, {});\n", to[2], v);
+    return text;
+  }
+
+  const Kernel& kernel_;
+  const Network& network_;
+  std::set<Constant> constants_;
+  std::set<std::string> registers_;
+  SharedConstants& shared_;
+};
+
+// 1/N and 1/sqrt(N): nearest in binary32, in binary64 the quotients by N and by the rounded root.
+std::string factors(const Kernel& kernel) {
+  const Precision precision = kernel.type.precision;
+  const Wide by_n =
+      precision == Precision::binary32 ? Wide(1) / Wide(kernel.length) : Wide(1.0 / kernel.length);
+  const Wide by_root = precision == Precision::binary32
+                           ? Wide(1) / wide_sqrt(Wide(kernel.length))
+                           : Wide(1.0 / std::sqrt(static_cast<double>(kernel.length)));
+  const auto carried = [&](bool carries) { return literal(carries ? by_n : Wide(1), precision); };
+  return fmt::format("constexpr Factors<{}, {}> factors_{}({}, {}, {});\n", kernel.type.scalar(),
+                     kernel.network->width(), kernel.type.suffix(),
+                     carried(kernel.scaling != Scaling::inverse), carried(kernel.scaling != Scaling::forward),
+                     literal(by_root, precision));
+}
+
+std::string signature(const Kernel& kernel, const std::string& name) {
+  return fmt::format("xfmStatus {}(const {}* src, {}* dst, int32_t flag)", name, kernel.type.name(),
+                     kernel.type.name());
+}
+
+std::string heading(const Kernel& kernel) {
+  const Counts counts = count(*kernel.network);
+  return fmt::format(
+      "// {}: {}, {} additions and {} multiplications (row: {} and {}).\n"
+      "// To see this text or try another tree: xfmgen --show {} {} {} [--tree TREE]\n",
+      kernel.name, kernel.tree, counts.adds, counts.mults, kernel.adds, kernel.mults, kernel.family,
+      kernel.length, kernel.type.suffix());
+}
+
+std::string factor_load(const Kernel& kernel) {
+  const std::string of = fmt::format("factors_{}.of(flag)", kernel.type.suffix());
+  switch (kernel.network->width()) {
+    case 1:
+      return fmt::format("  const {} s = *{};\n", kernel.type.scalar(), of);
+    case 2:
+      return fmt::format("  const Pair s = Aligned::load({});\n", of);
+    default:
+      return fmt::format("  const Quad s = Aligned::load({});\n", of);
+  }
+}
+
+std::string entry_text(const Kernel& kernel) {
+  return "  if (const xfmStatus status = check(src, dst, flag); status != xfmStsOk) return status;\n" +
+         factor_load(kernel) +
+         fmt::format(
+             "  const auto* const x = reinterpret_cast<const {0}*>(src);\n"
+             "  auto* const y = reinterpret_cast<{0}*>(dst);\n",
+             kernel.type.scalar());
+}
+
+// A scalar kernel is one function; a packed one is a body bound twice, to aligned and to unaligned memory.
+std::string emit_kernel(const Kernel& kernel, SharedConstants& shared) {
+  Body body(kernel, shared);
+  const std::string inner = " {\n" + entry_text(kernel) + body.text() + "  return xfmStsOk;\n}\n\n";
+  const std::string head =
+      heading(kernel) + "namespace {\n" + factors(kernel) + "}\n" + body.declarations() + "\n";
+  if (!kernel.packed()) return head + signature(kernel, kernel.name) + inner;
+  const std::string suffix = kernel.type.suffix(), twin = kernel.name + "_unaligned";
+  return head + "template <class Memory>\nXFM_BODY " + signature(kernel, "body_" + suffix) + inner +
+         "extern \"C\" XFM_UNALIGNED_VARIANT " + signature(kernel, twin) +
+         fmt::format(" {{\n  return body_{}<Unaligned>(src, dst, flag);\n}}\n\n", suffix) +
+         signature(kernel, kernel.name) +
+         fmt::format(" {{\n  if (!aligned(src, dst)) return {}(src, dst, flag);\n", twin) +
+         fmt::format("  return body_{}<Aligned>(src, dst, flag);\n}}\n\n", suffix);
+}
+
+}  // namespace
+
+std::string literal(Wide value, Precision precision) {
+  if (precision == Precision::binary32) return fmt::format("{:a}F", static_cast<float>(value));
+  return fmt::format("{:a}", static_cast<double>(value));
+}
+
+std::string SharedConstants::use(const Constant& c, const Kernel& kernel) {
+  const bool pair = kernel.network->width() == 2;
+  std::string name = fmt::format("xfm_{}_{}", pair ? "pair" : "quad", identifier(c.name));
+  const std::string value = literal(c.value, kernel.type.precision);
+  const std::string definition =
+      fmt::format("extern \"C\" XFM_CONSTANT {} {} = {{{}}};  // {:.17g}\n", register_type(kernel), name,
+                  pair ? fmt::format("{0}, {0}", value) : fmt::format("{0}, {0}, {0}, {0}", value),
+                  static_cast<double>(c.value));
+  const auto [known, fresh] = definitions_.try_emplace(name, definition);
+  if (!fresh && known->second != definition)
+    throw std::logic_error(kernel.name + ": two constants of the name " + name);
+  return name;
+}
+
+std::string SharedConstants::definitions(const std::string& vocabulary) const {
+  std::string text =
+      fmt::format("{}#include \"{}\"\n\nusing namespace xfm;\n\n", written_by_xfmgen, vocabulary);
+  for (const auto& [name, definition] : definitions_) text += definition;
+  return text;
+}
+
+std::string emit_file(std::span<const Kernel> kernels, const std::string& vocabulary,
+                      SharedConstants& shared) {
+  std::string text = fmt::format("{}#include \"src/frame/contract.h\"\n", written_by_xfmgen);
+  if (std::any_of(kernels.begin(), kernels.end(), [](const Kernel& k) { return k.packed(); })) {
+    text += fmt::format("#include \"{}\"\n", vocabulary);
+  }
+  text += "\nusing namespace xfm;\n\n";
+  for (const Kernel& kernel : kernels) text += emit_kernel(kernel, shared);
+  return text;
+}
+
+}  // namespace xfm::gen

@@ -1,0 +1,88 @@
+// The written text: literals keep every bit, and the same kernels give the same bytes.
+#include "gen/write/emit.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdlib>
+#include <random>
+
+#include "tools/families.h"
+
+namespace xfm::gen {
+namespace {
+
+TEST(Literal, KeepsEveryBit) {
+  std::mt19937_64 random(1);
+  for (int round = 0; round < 1000; ++round) {
+    const double value =
+        std::ldexp(static_cast<double>(random()) - 0x1p63, static_cast<int>(random() % 200) - 160);
+    const std::string twofold = literal(Wide(value), Precision::binary64);
+    const std::string single = literal(Wide(value), Precision::binary32);
+    ASSERT_EQ(std::strtod(twofold.c_str(), nullptr), value) << twofold;
+    ASSERT_EQ(single.back(), 'F');
+    ASSERT_EQ(std::strtof(single.c_str(), nullptr), static_cast<float>(value)) << single;
+  }
+}
+
+// 1 + 2^-24 + 2^-60 lies above the middle of two binary32 numbers, and in binary64 it is that middle.
+TEST(Literal, IsRoundedOnce) {
+  const Wide value = Wide(1) + Wide(0x1p-24) + Wide(0x1p-60);
+  EXPECT_EQ(std::strtof(literal(value, Precision::binary32).c_str(), nullptr), 1 + 0x1p-23F);
+  EXPECT_EQ(std::strtod(literal(value, Precision::binary64).c_str(), nullptr), 1 + 0x1p-24);
+}
+
+TEST(Literal, NeedsNoMoreThanAHexadecimalFloat) {
+  EXPECT_EQ(literal(Wide(0.5), Precision::binary64), "0x1p-1");
+  EXPECT_EQ(literal(Wide(-0.75), Precision::binary32), "-0x1.8p-1F");
+}
+
+std::vector<Kernel> kernels_of(const Family& family, int length) {
+  std::vector<Kernel> kernels;
+  for (const ElementType& type : family.types) kernels.push_back(family.make(length, type.precision, ""));
+  return kernels;
+}
+
+TEST(EmitFile, TheSameTwice) {
+  for (const Family& family : families()) {
+    if (family.by_hand()) continue;
+    for (const int length : {family.lengths.front(), family.lengths[family.lengths.size() / 2]}) {
+      SharedConstants first, second;
+      ASSERT_EQ(emit_file(kernels_of(family, length), family.vocabulary, first),
+                emit_file(kernels_of(family, length), family.vocabulary, second));
+      ASSERT_EQ(first.definitions("v.h"), second.definitions("v.h"));
+    }
+  }
+}
+
+TEST(EmitFile, TellsTheRowAndTheCosts) {
+  for (const Family& family : families()) {
+    if (family.by_hand()) continue;
+    const std::vector<Kernel> kernels = kernels_of(family, family.lengths.back());
+    SharedConstants shared;
+    const std::string text = emit_file(kernels, family.vocabulary, shared);
+    for (const Kernel& kernel : kernels) {
+      const std::string row =
+          "(row: " + std::to_string(kernel.adds) + " and " + std::to_string(kernel.mults) + ")";
+      for (const std::string& part : {kernel.name + ": " + kernel.tree, row, kernel.name + "(const "})
+        EXPECT_NE(text.find(part), std::string::npos) << part;
+    }
+    EXPECT_NE(text.find("Written by xfmgen"), std::string::npos);
+  }
+}
+
+TEST(SharedConstants, OneNameHasOneValue) {
+  const Family& family = families().front();
+  const Kernel single = family.make(8, Precision::binary32, ""),
+               twofold = family.make(8, Precision::binary64, "");
+  SharedConstants shared;
+  const std::string name = shared.use(constant("c", 3), twofold);
+  EXPECT_EQ(shared.use(constant("c", 3), twofold), name);
+  EXPECT_NE(shared.use(constant("c", 3), single), name) << "a register of four is not a register of two";
+  EXPECT_THROW(shared.use(constant("c", 4), twofold), std::logic_error);
+  const std::string text = shared.definitions("v.h");
+  EXPECT_EQ(text.find(name), text.rfind(name)) << "defined twice";
+}
+
+}  // namespace
+}  // namespace xfm::gen

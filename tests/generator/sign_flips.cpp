@@ -1,0 +1,78 @@
+// Flips that constants can carry fall away, and no bit changes.
+#include "gen/passes/sign_flips.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "tests/generator/small_networks.h"
+
+namespace xfm::gen {
+namespace {
+
+class Flips : public testing::Test {
+ protected:
+  Value exchanged(Value v) { return network.shuffle(v, v, {1, 0, 7, 6}); }
+  Value flipped(Value v) { return network.flip_signs(v, {1, 0, 1, 0}); }
+
+  /// How many flips are left; the outputs are those of the network, bit for bit.
+  int left(std::size_t written) const {
+    const auto result = absorb_flips(network);
+    const std::vector<float> src = {0.1F, -0.7F, 1.3F, 0, 2.9F, -3.1F, -0.0F, 5.7F};
+    const auto before = test::evaluate<float>(network, src, written),
+               after = test::evaluate<float>(*result, src, written);
+    for (std::size_t i = 0; i < written; ++i) {
+      EXPECT_EQ(before[i], after[i]) << "scalar " << i;
+      EXPECT_EQ(std::signbit(before[i]), std::signbit(after[i])) << "scalar " << i;
+    }
+    return test::count(*result, Op::sign_flip);
+  }
+
+  Network network{4};
+  const Value x = network.load({0, 1, 2, 3}), y = network.load({4, 5, 6, 7});
+  const Constant c = cosine(turn(1, 7)), d = cosine(turn(2, 7));
+};
+
+TEST_F(Flips, OfAProduct) {
+  const Value u = flipped(network.mul(c, x));
+  test::store(network, y + u, 0);
+  test::store(network, y - u, 4);
+  EXPECT_EQ(left(8), 0);
+}
+
+TEST_F(Flips, BehindAnExchange) {
+  test::store(network, y + flipped(exchanged(network.mul(c, x))), 0);
+  EXPECT_EQ(left(4), 0);
+}
+
+TEST_F(Flips, OfASumOfProducts) {
+  test::store(network, y + flipped(exchanged(network.mul(c, x) - network.mul(d, y))), 0);
+  EXPECT_EQ(left(4), 0);
+}
+
+TEST_F(Flips, OfLaneConstants) {
+  const std::vector<Constant> lanes{c, -d, d, -c};
+  test::store(network, y + flipped(exchanged(network.mul(lanes, x))), 0);
+  EXPECT_EQ(left(4), 0);
+}
+
+TEST_F(Flips, StayWhereThereIsNoProduct) {
+  test::store(network, y + flipped(exchanged(network.mul(c, x) - y)), 0);
+  EXPECT_EQ(left(4), 1);
+}
+
+TEST_F(Flips, StayWhereTheProductIsUsedBesides) {
+  const Value product = network.mul(c, x);
+  test::store(network, y + flipped(product), 0);
+  test::store(network, y + product, 4);
+  EXPECT_EQ(left(8), 1);
+}
+
+TEST_F(Flips, StayWhereALaneGoesToTwoSigns) {
+  const Value product = network.mul(c, x), spread = network.shuffle(product, product, {0, 0, 4, 4});
+  test::store(network, y + flipped(spread), 0);
+  EXPECT_EQ(left(4), 1);
+}
+
+}  // namespace
+}  // namespace xfm::gen
