@@ -1,82 +1,72 @@
 #include "tools/families.h"
 
+#include <numeric>
+
 #include "src/dft/recipe/dft.h"
 #include "src/hartley/recipe/hartley.h"
 #include "src/real/recipe/real.h"
-#include "src/wht/recipe/rows.h"
 #include "tools/documentation.h"
 
 namespace xfm {
 namespace {
 
-using gen::ElementType;
+using gen::Direction;
 using gen::Precision;
+using gen::Target;
+using real::Layout;
 
-Family complex_family(dft::Direction direction, const std::string& name) {
-  return {.name = name,
-          .types = {ElementType{Precision::binary32, true}, ElementType{Precision::binary64, true}},
-          .lengths = dft::lengths(),
-          .lowest = 2,
-          .highest = 64,
-          .vocabulary = "src/dft/vectors.h",
-          .documentation = documentation(direction),
-          .make = [direction](int length, Precision precision, const std::string& tree) {
-            return dft::make_kernel(length, precision, direction, tree);
+struct Making {
+  std::string documentation;
+  Designer design;
+};
+
+Making complex_of(Direction direction) {
+  return {documentation(direction),
+          [=](int length, Precision precision, const std::string& tree, const Target& target) {
+            return dft::design(length, precision, direction, tree, target);
           }};
 }
 
-Family real_family(real::Direction direction, real::Layout layout) {
-  return {.name = real::family_name(direction, layout),
-          .types = {ElementType{Precision::binary32, false}, ElementType{Precision::binary64, false}},
-          .lengths = real::lengths(),
-          .lowest = 2,
-          .highest = 64,
-          .vocabulary = "",
-          .documentation = documentation(direction, layout),
-          .make = [=](int length, Precision precision, const std::string& tree) {
-            return real::make_kernel(length, precision, direction, layout, tree);
+Making real_of(Direction direction, Layout layout) {
+  return {documentation(direction, layout),
+          [=](int length, Precision precision, const std::string& tree, const Target&) {
+            return real::design(length, precision, direction, layout, tree);
           }};
 }
 
-Family hartley_family() {
-  return {.name = "Hartley",
-          .types = {ElementType{Precision::binary32, false}, ElementType{Precision::binary64, false}},
-          .lengths = hartley::lengths(),
-          .lowest = 2,
-          .highest = 64,
-          .vocabulary = "",
-          .documentation = hartley_documentation(),
-          .make = hartley::make_kernel};
+Making hartley_of() {
+  return {hartley_documentation(),
+          [](int length, Precision precision, const std::string& plan, const Target&) {
+            return hartley::design(length, precision, plan);
+          }};
 }
 
-Family walsh_hadamard_family() {
-  return {.name = "WHT",
-          .types = {ElementType{Precision::binary32, false}, ElementType{Precision::binary64, false}},
-          .lengths = wht::orders(),
-          .lowest = wht::orders().front(),
-          .highest = wht::orders().back(),
-          .vocabulary = "",
-          .documentation = walsh_hadamard_documentation(),
-          .make = nullptr,
-          .row = wht::row,
-          .argument = "order",
-          .takes_buffer = true};
+Family generated(const char* name, int lowest, int highest, bool complex, Making making) {
+  return {name, lowest, highest, complex, std::move(making.documentation), std::move(making.design)};
 }
 
 }  // namespace
 
+std::vector<gen::ElementType> Family::types() const {
+  return {{Precision::binary32, complex}, {Precision::binary64, complex}};
+}
+
+std::vector<int> Family::lengths() const {
+  std::vector<int> all(static_cast<std::size_t>(highest - lowest + 1));
+  std::iota(all.begin(), all.end(), lowest);
+  return all;
+}
+
+gen::Kernel Family::make(int length, Precision precision, const std::string& tree,
+                         const Target& target) const {
+  return gen::make_kernel(design(length, precision, tree, target));
+}
+
 const std::vector<Family>& families() {
   static const std::vector<Family> all = {
-      complex_family(dft::Direction::forward, "DFTFwd_CToC"),
-      complex_family(dft::Direction::inverse, "DFTInv_CToC"),
-      real_family(real::Direction::forward, real::Layout::ccs),
-      real_family(real::Direction::forward, real::Layout::pack),
-      real_family(real::Direction::forward, real::Layout::perm),
-      real_family(real::Direction::inverse, real::Layout::ccs),
-      real_family(real::Direction::inverse, real::Layout::pack),
-      real_family(real::Direction::inverse, real::Layout::perm),
-      hartley_family(),
-      walsh_hadamard_family(),
+#define GENERATED(name, lowest, highest, complex, making) generated(#name, lowest, highest, complex, making),
+#define BY_HAND(name, lowest, highest, documentation) Family{#name, lowest, highest, false, documentation, {}},
+#include "tools/families.def"
   };
   return all;
 }

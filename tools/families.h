@@ -1,5 +1,4 @@
-// The families of transforms: the one list that the public header, the export map, the generic functions, the
-// kernels and the catalogue of tests and bench are made from.
+// The families of transforms, from their list (families.def).
 #pragma once
 
 #include <functional>
@@ -7,25 +6,31 @@
 #include <vector>
 
 #include "gen/kernel.h"
+#include "gen/targets/target.h"
 
 namespace xfm {
 
+/// What designs a kernel of a length, by its row or by another tree.
+using Designer = std::function<gen::Design(int length, gen::Precision precision, const std::string& tree,
+                                           const gen::Target& target)>;
+
 struct Family {
   std::string name;  ///< "DFTFwd_CToC": between the prefix and the length
-  std::vector<gen::ElementType> types;
-  std::vector<int> lengths;   ///< lengths that have a kernel
-  int lowest, highest;        ///< what the generic function may accept
-  std::string vocabulary;     ///< header that the generated kernels include
-  std::string documentation;  ///< Doxygen text of the family
-  /// The kernel of a length, by its row or by another tree. Empty in a family that is written by hand.
-  std::function<gen::Kernel(int length, gen::Precision precision, const std::string& tree)> make;
-  /// Instead of make: what the catalogue tells of a kernel that is written by hand.
-  std::function<gen::Row(int length, gen::Precision precision)> row = nullptr;
-  std::string argument = "length";  ///< what the generic function's argument is called
-  bool takes_buffer = false;        ///< the last argument is a work buffer
+  int lowest, highest;
+  bool complex;
+  std::string documentation;  ///< Doxygen text
+  Designer design;            ///< none in a family that is written by hand
 
-  bool by_hand() const { return !make; }
+  bool by_hand() const { return !design; }
+  /// What the generic function's argument is called, and whether the last argument is a work buffer.
+  std::string argument() const { return by_hand() ? "order" : "length"; }
+  bool takes_buffer() const { return by_hand(); }
+
+  std::vector<gen::ElementType> types() const;
+  std::vector<int> lengths() const;
   std::string generic(const gen::ElementType& type) const { return "xfm" + name + "_" + type.suffix(); }
+  gen::Kernel make(int length, gen::Precision precision, const std::string& tree = "",
+                   const gen::Target& target = gen::baseline()) const;
 };
 
 const std::vector<Family>& families();

@@ -4,14 +4,12 @@
 
 #include <sstream>
 
-#include "gen/network/check.h"
-#include "tools/families.h"
+#include "src/wht/recipe/rows.h"
 
 namespace xfm {
 namespace {
 
 using gen::ElementType;
-using gen::Row;
 
 std::string kernel_name(const Family& family, int length, const ElementType& type) {
   return fmt::format("xfm{}_{}_{}", family.name, length, type.suffix());
@@ -21,7 +19,7 @@ std::string kernel_name(const Family& family, int length, const ElementType& typ
 template <class Visit>
 void for_each_type(Visit visit) {
   for (const Family& family : families()) {
-    for (const ElementType& type : family.types) visit(family, type);
+    for (const ElementType& type : family.types()) visit(family, type);
   }
 }
 
@@ -36,16 +34,16 @@ std::string comment(const std::string& documentation) {
 // function.
 std::string parameters(const Family& family, const ElementType& type, bool generic) {
   return fmt::format("(const {0}* src, {0}* dst, {1}int32_t flag{2})", type.name(),
-                     generic ? "int32_t " + family.argument + ", " : "",
-                     family.takes_buffer ? ", void* buffer" : "");
+                     generic ? "int32_t " + family.argument() + ", " : "",
+                     family.takes_buffer() ? ", void* buffer" : "");
 }
 
 std::string declarations(const Family& family) {
   std::string text = fmt::format("/** @name {0}\n * xfm{0}_N_TYPE\n * @{{ */\n", family.name) +
                      comment(family.documentation);
-  for (const ElementType& type : family.types) {
+  for (const ElementType& type : family.types()) {
     text += fmt::format("xfmStatus {}{};\n", family.generic(type), parameters(family, type, true));
-    for (const int length : family.lengths) {
+    for (const int length : family.lengths()) {
       text += fmt::format("xfmStatus {}{};\n", kernel_name(family, length, type),
                           parameters(family, type, false));
     }
@@ -70,7 +68,18 @@ std::string calls(const std::string& function, bool takes_buffer) {
                       : fmt::format("&call<{}>, nullptr", function);
 }
 
-std::string catalogue_row(const Row& row) {
+// A kernel as the catalogue has it.
+struct Row {
+  std::string name, family;
+  ElementType type;
+  gen::Scaling scaling;
+  int length, points, read, written, exchanges;
+  bool packed, packed_math, straight;
+  std::string tree;
+  int adds, mults, add_instructions, mult_instructions, buffer_bytes;
+};
+
+std::string text(const Row& row, bool takes_buffer) {
   std::string text = fmt::format(R"(    {{"{}", "{}", "{}", )", row.name, row.family, row.type.suffix());
   text += row.type.precision == gen::Precision::binary32 ? "Precision::binary32, " : "Precision::binary64, ";
   text += fmt::format("{}, {}, {}, {}, {}, {}, ", scaling_name(row.scaling), row.length, row.points, row.read,
@@ -78,7 +87,7 @@ std::string catalogue_row(const Row& row) {
   text += fmt::format("{}, {}, {}, \"{}\", ", row.packed, row.packed_math, row.straight, row.tree);
   text += fmt::format("{}, {}, {}, {}, {}, ", row.adds, row.mults, row.add_instructions,
                       row.mult_instructions, row.buffer_bytes);
-  return text + calls(row.name, row.takes_buffer) + "},\n";
+  return text + calls(row.name, takes_buffer) + "},\n";
 }
 
 }  // namespace
@@ -96,7 +105,7 @@ std::string export_map() {
   for (const std::string& name : plain_functions()) text += fmt::format("    {};\n", name);
   for_each_type([&](const Family& family, const ElementType& type) {
     text += fmt::format("    {};\n", family.generic(type));
-    for (const int length : family.lengths)
+    for (const int length : family.lengths())
       text += fmt::format("    {};\n", kernel_name(family, length, type));
   });
   return text + "  local: *;\n};\n";
@@ -109,44 +118,70 @@ std::string generic_functions() {
   text += "#include \"xfm.h\"\n\n";
   for_each_type([&](const Family& family, const ElementType& type) {
     text += fmt::format("xfmStatus {}{} {{\n  switch ({}) {{\n", family.generic(type),
-                        parameters(family, type, true), family.argument);
-    for (const int length : family.lengths) {
+                        parameters(family, type, true), family.argument());
+    for (const int length : family.lengths()) {
       text += fmt::format("    case {}: return {}(src, dst, flag{});\n", length,
-                          kernel_name(family, length, type), family.takes_buffer ? ", buffer" : "");
+                          kernel_name(family, length, type), family.takes_buffer() ? ", buffer" : "");
     }
     text += "    default: return xfmStsBadSize;\n  }\n}\n\n";
   });
   return text;
 }
 
-Row row_of(const gen::Kernel& kernel) {
+// A register of one complex number exchanges its parts as often as it is joined, and its row says how often.
+std::string catalogue_row(const Family& family, const gen::Kernel& kernel) {
   const gen::Counts counts = count(*kernel.network);
-  return {.name = kernel.name,
-          .family = kernel.family,
-          .type = kernel.type,
-          .scaling = kernel.scaling,
-          .length = kernel.length,
-          .points = kernel.length,
-          .read = kernel.read,
-          .written = kernel.written,
-          .exchanges = kernel.network->width() == 2 ? counts.exchanges : -1,
-          .packed = kernel.packed(),
-          .packed_math = kernel.packed(),
-          .straight = true,
-          .tree = kernel.tree,
-          .adds = kernel.adds,
-          .mults = kernel.mults,
-          .add_instructions = counts.add_nodes,
-          .mult_instructions = counts.mult_nodes};
+  const bool joined = kernel.network->width() == 2;
+  return text({.name = kernel.name(),
+               .family = kernel.family,
+               .type = kernel.type,
+               .scaling = kernel.scaling,
+               .length = kernel.length,
+               .points = kernel.length,
+               .read = kernel.read,
+               .written = kernel.written,
+               .exchanges = joined ? counts.permutations : -1,
+               .packed = kernel.packed(),
+               .packed_math = kernel.packed(),
+               .straight = true,
+               .tree = kernel.tree,
+               .adds = kernel.adds,
+               .mults = kernel.mults,
+               .add_instructions = counts.add_nodes,
+               .mult_instructions = counts.mult_nodes,
+               .buffer_bytes = 0},
+              family.takes_buffer());
 }
 
-std::string catalogue(std::span<const Row> all) {
-  std::string kernels, generics;
-  for (const Row& row : all) kernels += catalogue_row(row);
+std::string catalogue_row(const Family& family, int length, const ElementType& type) {
+  const wht::Facts facts = wht::facts(length, type.precision);
+  return text({.name = kernel_name(family, length, type),
+               .family = family.name,
+               .type = type,
+               .scaling = gen::Scaling::symmetric,
+               .length = length,
+               .points = facts.points,
+               .read = facts.points,
+               .written = facts.points,
+               .exchanges = -1,
+               .packed = facts.two_variants,
+               .packed_math = facts.vector_code,
+               .straight = facts.straight,
+               .tree = facts.tree,
+               .adds = facts.adds,
+               .mults = 0,
+               .add_instructions = facts.add_instructions,
+               .mult_instructions = facts.mult_instructions,
+               .buffer_bytes = facts.buffer_bytes},
+              family.takes_buffer());
+}
+
+std::string catalogue(const std::string& rows) {
+  std::string generics;
   for_each_type([&](const Family& family, const ElementType& type) {
     generics += fmt::format("    {{\"{}\", \"{}\", \"{}\", {}, {}, {}}},\n", family.generic(type),
                             family.name, type.suffix(), family.lowest, family.highest,
-                            calls(family.generic(type), family.takes_buffer));
+                            calls(family.generic(type), family.takes_buffer()));
   });
   return R"(// Written by xfmgen from the list of families.
 #include "tools/catalogue.h"
@@ -169,7 +204,7 @@ xfmStatus call_with_null(const void* src, void* dst, Rest... rest) {
 }
 
 constexpr Kernel all_kernels[] = {
-)" + kernels +
+)" + rows +
          "};\n\nconstexpr Generic all_generics[] = {\n" + generics + R"(};
 
 }  // namespace

@@ -1,10 +1,9 @@
 // Everything that is written from the list of families and is not a kernel.
 #pragma once
 
-#include <span>
 #include <string>
 
-#include "gen/kernel.h"
+#include "tools/families.h"
 
 namespace xfm {
 
@@ -17,10 +16,11 @@ std::string export_map();
 /// The generic functions: length to kernel.
 std::string generic_functions();
 
-/// The row of a generated kernel.
-gen::Row row_of(const gen::Kernel& kernel);
+/// A row of the catalogue (catalogue.h explains the columns), of a generated kernel or of one by hand.
+std::string catalogue_row(const Family& family, const gen::Kernel& kernel);
+std::string catalogue_row(const Family& family, int length, const gen::ElementType& type);
 
 /// The tables behind catalogue.h.
-std::string catalogue(std::span<const gen::Row> all);
+std::string catalogue(const std::string& rows);
 
 }  // namespace xfm

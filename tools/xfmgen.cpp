@@ -4,44 +4,62 @@
 
 #include <CLI/CLI.hpp>
 #include <iostream>
+#include <map>
+#include <set>
 #include <tuple>
 
-#include "gen/algorithms/tree.h"
-#include "gen/network/check.h"
+#include "gen/algorithms/rules.h"
 #include "gen/write/emit.h"
 #include "gen/write/files.h"
-#include "tools/families.h"
 #include "tools/listing.h"
+#include "tools/promises.h"
 
 namespace {
 
 using xfm::families;
 using xfm::Family;
 using xfm::gen::Kernel;
+using xfm::gen::Target;
 
-// One file a family and length, both precisions: a changed row recompiles that file and no other.
-void write_all(const std::filesystem::path& out) {
+// Both precisions.
+std::vector<Kernel> kernels_of(const Family& family, int length, const Target& target) {
+  std::vector<Kernel> kernels;
+  for (const auto& type : family.types()) kernels.push_back(family.make(length, type.precision, "", target));
+  return kernels;
+}
+
+// One file a family and length: a changed row recompiles that file and no other. Length by length, so that the
+// kernels of all families can be compared.
+void write_all(const std::filesystem::path& out, const Target& target) {
   const auto write = [&](const std::string& name, const std::string& text) {
     xfm::gen::write_if_changed(out / name, text);
   };
   xfm::gen::SharedConstants shared;
-  std::vector<xfm::gen::Row> rows;
+  std::map<std::string, std::string> rows;  // of each family
+  std::map<int, std::vector<const Family*>> by_length;
   for (const Family& family : families()) {
-    for (const int length : family.lengths) {
-      std::vector<Kernel> kernels;
-      for (const auto& type : family.types) {
-        if (!family.by_hand()) kernels.push_back(family.make(length, type.precision, ""));
-        rows.push_back(family.by_hand() ? family.row(length, type.precision) : xfm::row_of(kernels.back()));
-      }
-      if (!family.by_hand()) {
-        write(fmt::format("{}_{}.cpp", family.name, length),
-              xfm::gen::emit_file(kernels, family.vocabulary, shared));
-      }
-    }
+    for (const int length : family.lengths()) by_length[length].push_back(&family);
   }
-  write("constants.cpp", shared.definitions("src/dft/vectors.h"));
+  for (const auto& [length, all] : by_length) {
+    std::vector<Kernel> kernels;
+    for (const Family* const family : all) {
+      std::string& family_rows = rows[family->name];
+      if (family->by_hand()) {
+        for (const auto& type : family->types()) family_rows += xfm::catalogue_row(*family, length, type);
+        continue;
+      }
+      std::vector<Kernel> of_family = kernels_of(*family, length, target);
+      for (const Kernel& kernel : of_family) family_rows += xfm::catalogue_row(*family, kernel);
+      write(fmt::format("{}_{}.cpp", family->name, length), emit_file(of_family, target, shared));
+      std::ranges::move(of_family, std::back_inserter(kernels));
+    }
+    xfm::check_promises(kernels);
+  }
+  std::string all_rows;
+  for (const Family& family : families()) all_rows += rows[family.name];
+  write("constants.cpp", shared.definitions(target));
   write("generic.cpp", xfm::generic_functions());
-  write("catalogue.cpp", xfm::catalogue(rows));
+  write("catalogue.cpp", xfm::catalogue(all_rows));
   write("xfm.map", xfm::export_map());
 }
 
@@ -57,38 +75,62 @@ int write_header(const std::filesystem::path& frame, const std::filesystem::path
   return 1;
 }
 
-int show(const std::string& name, int length, const std::string& suffix, const std::string& tree) {
+// A generated kernel that was asked for by name.
+struct Named {
+  const Family* family;
+  xfm::gen::ElementType type;
+  int length;
+};
+Named named(const std::tuple<std::string, int, std::string>& what) {
+  const auto& [name, length, suffix] = what;
   for (const Family& family : families()) {
-    for (const auto& type : family.types) {
-      if (family.by_hand() || family.name != name || type.suffix() != suffix) continue;
-      const Kernel kernel = family.make(length, type.precision, tree);
-      const xfm::gen::Counts counts = count(*kernel.network);
-      fmt::print("{}\n  tree       {}\n  adds       {} (row {})\n  mults      {} (row {})\n", kernel.name,
-                 to_string(xfm::gen::parse_tree(kernel.tree)), counts.adds, kernel.adds, counts.mults,
-                 kernel.mults);
-      fmt::print(
-          "  lanes      {}\n  packed     {} additions, {} multiplications with the factor, {} shuffles, {} "
-          "exchanges, {} loads, {} stores\n\n",
-          kernel.network->width(), counts.add_nodes, counts.mult_nodes, counts.shuffles, counts.exchanges,
-          counts.loads, counts.stores);
-      xfm::gen::SharedConstants shared;
-      fmt::print("{}", xfm::gen::emit_file({&kernel, 1}, family.vocabulary, shared));
-      return 0;
+    for (const auto& type : family.types()) {
+      if (!family.by_hand() && family.name == name && type.suffix() == suffix) return {&family, type, length};
     }
   }
-  std::cerr << "no such generated family or type: " << name << " " << suffix << "\n";
-  return 1;
+  throw std::invalid_argument("no such generated family or type: " + name + " " + suffix);
 }
 
-void costs() {
+// Every rule of a tree with its meaning, the outermost first.
+void show_rules(const xfm::gen::Tree& tree, std::set<std::string_view>& shown) {
+  const xfm::gen::Rule& rule = rule_of(tree);
+  if (shown.insert(rule.name).second && !rule.name.empty())
+    fmt::print("  {:<10} {} ({})\n", rule.name, rule.formula, rule.source);
+  for (const xfm::gen::Tree& arg : tree.args) show_rules(arg, shown);
+}
+
+void show(const Named& what, const std::string& tree, const Target& target) {
+  const Kernel kernel = what.family->make(what.length, what.type.precision, tree, target);
+  const xfm::gen::Counts counts = count(*kernel.network);
+  const xfm::gen::Tree parsed = xfm::gen::parse_tree(kernel.tree);
+  fmt::print("{}\n  tree       {}\n  adds       {} (row {})\n  mults      {} (row {})\n", kernel.name(),
+             to_string(parsed), counts.adds, kernel.adds, counts.mults, kernel.mults);
+  fmt::print("  lanes      {}\n  packed     {} additions, {} multiplications with the factor, {} permutations, "
+             "{} loads, {} stores\n",
+             kernel.network->width(), counts.add_nodes, counts.mult_nodes, counts.permutations, counts.loads,
+             counts.stores);
+  std::set<std::string_view> shown;
+  show_rules(parsed, shown);
+  xfm::gen::SharedConstants shared;
+  fmt::print("\n{}", emit_file({&kernel, 1}, target, shared));
+}
+
+void show_program(const Named& what, const std::string& tree, const Target& target) {
+  const Kernel kernel = what.family->make(what.length, what.type.precision, tree, target);
+  xfm::gen::Programs programs(xfm::gen::Equality::bits);
+  const xfm::gen::Program program = xfm::program_of(kernel, programs);
+  fmt::print("# {}: {}, digest {:016x}\n{}", kernel.name(), kernel.tree, programs.digest(program),
+             programs.text(program));
+}
+
+void costs(const Target& target) {
   fmt::print("{:<32} {:>6} {:>6} {:>6} {:>6}  {}\n", "kernel", "adds", "row", "mults", "row", "tree");
   for (const Family& family : families()) {
-    if (family.by_hand()) continue;
-    for (const auto& type : family.types) {
-      for (const int length : family.lengths) {
-        const Kernel kernel = family.make(length, type.precision, "");
+    for (const auto& type : family.types()) {
+      for (const int length : family.by_hand() ? std::vector<int>{} : family.lengths()) {
+        const Kernel kernel = family.make(length, type.precision, "", target);
         const xfm::gen::Counts counts = count(*kernel.network);
-        fmt::print("{:<32} {:>6} {:>6} {:>6} {:>6}  {}\n", kernel.name, counts.adds, kernel.adds,
+        fmt::print("{:<32} {:>6} {:>6} {:>6} {:>6}  {}\n", kernel.name(), counts.adds, kernel.adds,
                    counts.mults, kernel.mults, kernel.tree);
       }
     }
@@ -97,23 +139,26 @@ void costs() {
 
 int run(int argc, char** argv) {
   CLI::App app{"Writes the kernels of xfm, or shows what a row of a table comes to."};
-  std::string out, header, frame, tree;
-  std::tuple<std::string, int, std::string> what;
+  std::string out, header, frame, tree, target_name{xfm::gen::baseline().name};
+  std::tuple<std::string, int, std::string> shown, program;
   bool check = false, list_costs = false;
-  app.add_option("--out", out, "write all generated sources to this folder");
-  app.add_option("--show", what, "FAMILY N TYPE: tree, costs, lanes and text of one kernel");
-  app.add_option("--tree", tree, "with --show: this tree instead of the row's");
-  app.add_flag("--costs", list_costs, "every kernel's cost beside its row");
-  app.add_option("--header", header, "write the public header");
-  app.add_option("--frame", frame, "with --header: its hand-written frame");
-  app.add_flag("--check", check, "with --header: only compare");
+  app.add_option("--out", out, "Write all generated sources to this folder");
+  app.add_option("--target", target_name, "For this target")->capture_default_str();
+  app.add_option("--show", shown, "FAMILY N TYPE: tree, costs, rules and text of one kernel");
+  app.add_option("--program", program, "FAMILY N TYPE: the scalar program of one kernel");
+  app.add_option("--tree", tree, "With --show and --program: this tree instead of the row's");
+  app.add_flag("--costs", list_costs, "Every kernel's cost beside its row");
+  app.add_option("--header", header, "Write the public header");
+  app.add_option("--frame", frame, "With --header: its hand-written frame");
+  app.add_flag("--check", check, "With --header: only compare");
   CLI11_PARSE(app, argc, argv);
 
-  if (!out.empty()) write_all(out);
-  if (list_costs) costs();
-  if (!header.empty()) return write_header(frame, header, check);
-  const auto& [name, length, suffix] = what;
-  return name.empty() ? 0 : show(name, length, suffix, tree);
+  const Target& target = xfm::gen::target(target_name);
+  if (!out.empty()) write_all(out, target);
+  if (list_costs) costs(target);
+  if (!std::get<0>(shown).empty()) show(named(shown), tree, target);
+  if (!std::get<0>(program).empty()) show_program(named(program), tree, target);
+  return header.empty() ? 0 : write_header(frame, header, check);
 }
 
 }  // namespace

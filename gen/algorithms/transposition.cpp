@@ -14,7 +14,7 @@ Complex product(const ScaledComplex& term) {
 }  // namespace
 
 void Transposition::receive(NodeId node, const ScaledComplex& weight) {
-  sent_[static_cast<std::size_t>(node)].push_back(weight);
+  sent_[node].push_back(weight);
 }
 
 void Transposition::send(Value output, const Complex& weight) {
@@ -23,7 +23,7 @@ void Transposition::send(Value output, const Complex& weight) {
 
 // Sums and terms stand in the order of arrival, the reverse of the recipe's.
 Complex Transposition::weight(NodeId node) const {
-  const std::vector<ScaledComplex>& terms = sent_[static_cast<std::size_t>(node)];
+  const Sequence<ScaledComplex>& terms = sent_[node];
   const bool products = std::any_of(terms.begin(), terms.end(),
                                     [](const ScaledComplex& term) { return !magnitude(term.c).is_one(); });
   if (products && forward_.rounding() == Rounding::combination) return combination(terms);
@@ -32,15 +32,15 @@ Complex Transposition::weight(NodeId node) const {
   return total;
 }
 
-std::vector<Complex> Transposition::run(int inputs) {
-  std::vector<Complex> arrived(static_cast<std::size_t>(inputs));
-  for (NodeId id = static_cast<NodeId>(sent_.size()) - 1; id >= 0; --id) {
+Points Transposition::run(int inputs) {
+  Points arrived(inputs);
+  for (NodeId id = sent_.size() - 1; id >= 0; --id) {
     const Complex sum = weight(id);
     if (sum.p.absent() && sum.q.absent()) continue;
     const Node& node = forward_.node(id);
     switch (node.op) {
       case Op::load:
-        arrived[static_cast<std::size_t>(node.lanes[0])] = sum;
+        arrived[node.lanes[0]] = sum;
         break;
       case Op::add:
         receive(node.in[0], sum);

@@ -3,11 +3,9 @@
 // For y = A x the transpose computes A^T w at the same cost (Tellegen's principle; Bernstein 2006 for its
 // history). Walking from the outputs to the inputs, each node's value is the sum of what its users send: an
 // addition sends its value to both operands, a subtraction sends it to one and its negative to the other, a
-// product or a statement sends it multiplied. Where statements round as one, so does such a sum with
-// products.
+// product or a linear combination sends it multiplied. Where linear combinations round once, so does such a sum
+// with products.
 #pragma once
-
-#include <vector>
 
 #include "gen/network/complex.h"
 
@@ -22,14 +20,14 @@ class Transposition {
   void send(Value output, const Complex& weight);
 
   /// After all weights were sent: the value at each load of the forward network, by scalar index.
-  std::vector<Complex> run(int inputs);
+  Points run(int inputs);
 
  private:
   void receive(NodeId node, const ScaledComplex& weight);
   Complex weight(NodeId node) const;
 
   const Network& forward_;
-  std::vector<std::vector<ScaledComplex>> sent_;
+  Sequence<Sequence<ScaledComplex>> sent_;
 };
 
 }  // namespace xfm::gen

@@ -3,6 +3,8 @@
 #include <cctype>
 #include <stdexcept>
 
+#include "gen/algorithms/rules.h"
+
 namespace xfm::gen {
 namespace {
 
@@ -34,7 +36,7 @@ class Parser {
   // One operand, or several joined by a sign.
   template <class Operand>
   Tree run(char sign, Operand operand) {
-    std::vector<Tree> args{operand()};
+    Sequence<Tree> args{operand()};
     while (peek() == sign) {
       ++at_;
       args.push_back(operand());
@@ -42,8 +44,8 @@ class Parser {
     return args.size() == 1 ? args.front() : Tree{std::string(1, sign), 0, std::move(args)};
   }
 
-  std::vector<Tree> list(Tree first) {
-    std::vector<Tree> items{std::move(first)};
+  Sequence<Tree> list(Tree first) {
+    Sequence<Tree> items{std::move(first)};
     while (peek() == ',') {
       ++at_;
       items.push_back(product());
@@ -64,7 +66,7 @@ class Parser {
     if (rule.empty()) fail("a number or a rule is expected");
     if (peek() != '(') fail("'(' is expected");
     ++at_;
-    std::vector<Tree> args = list(product());
+    Sequence<Tree> args = list(product());
     close();
     return {std::move(rule), 0, std::move(args)};
   }
@@ -101,9 +103,14 @@ class Parser {
 
 }  // namespace
 
-Tree parse_tree(std::string_view text) { return Parser(text).whole(); }
-
 namespace {
+
+void check_rules(const Tree& tree) {
+  rule_of(tree);
+  for (const Tree& arg : tree.args) {
+    if (!arg.is_number()) check_rules(arg);  // a number may be a root or a bin
+  }
+}
 
 bool is_run(const Tree& tree) { return tree.rule == "x" || tree.rule == "*"; }
 
@@ -114,6 +121,12 @@ std::string operand(const Tree& tree, const std::string& sign) {
 }
 
 }  // namespace
+
+Tree parse_tree(std::string_view text) {
+  Tree tree = Parser(text).whole();
+  check_rules(tree);
+  return tree;
+}
 
 std::string to_string(const Tree& tree) {
   if (tree.is_number()) return std::to_string(tree.number);

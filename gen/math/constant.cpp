@@ -2,6 +2,8 @@
 
 #include <cmath>
 #include <numeric>
+#include <set>
+#include <string_view>
 
 namespace xfm::gen {
 namespace {
@@ -57,17 +59,33 @@ Constant operator-(const Constant& c) {
 
 Constant magnitude(const Constant& c) { return c.is_negative() ? -c : c; }
 
+namespace {
+
+constexpr std::string_view times = " x ";
+
+// "a x b x c" in the order of the factors' names, however it was multiplied.
+std::string product_name(const std::string& a, const std::string& b) {
+  std::multiset<std::string> factors;
+  for (std::string rest : {a, b}) {
+    for (std::size_t at = rest.find(times); at != std::string::npos; at = rest.find(times)) {
+      factors.insert(rest.substr(0, at));
+      rest.erase(0, at + times.size());
+    }
+    factors.insert(rest);
+  }
+  std::string name;
+  for (const std::string& factor : factors) name += (name.empty() ? "" : std::string(times)) + factor;
+  return name;
+}
+
+}  // namespace
+
 Constant operator*(const Constant& a, const Constant& b) {
   if (a.is_zero() || b.is_one()) return a;
   if (b.is_zero() || a.is_one()) return b;
-  const bool negative = a.is_negative() != b.is_negative();
-  const Constant u = magnitude(a), v = magnitude(b);
-  const Constant product =
-      u.is_one() ? v
-      : v.is_one()
-          ? u
-          : constant(u.name < v.name ? u.name + " x " + v.name : v.name + " x " + u.name, u.value * v.value);
-  return negative ? -product : product;
+  if (a.is_negative()) return -(-a * b);
+  if (b.is_negative()) return -(a * -b);
+  return {product_name(a.name, b.name), a.value * b.value};
 }
 
 Constant cosine(Turn t) {
@@ -82,6 +100,12 @@ Constant sine(Turn t) { return cosine(turn(4LL * t.num - t.den, 4LL * t.den)); }
 
 Constant constant(std::string name, Wide value) { return {std::move(name), value}; }
 
-ComplexConstant root_of_unity(Turn t) { return {cosine(t), -sine(t)}; }
+ComplexConstant directed(const ComplexConstant& w, Direction direction) {
+  return direction == Direction::forward ? w : ComplexConstant{w.re, -w.im};
+}
+
+ComplexConstant root_of_unity(Turn t, Direction direction) {
+  return directed({cosine(t), -sine(t)}, direction);
+}
 
 }  // namespace xfm::gen

@@ -1,4 +1,4 @@
-// Constants of the networks: a rule, its value to 113 bits, and a name that tells what it is.
+// Constants of the networks: a rule, its value to 113 bits, and a name that says what it is.
 //
 // A constant is rounded exactly once, to the precision of the kernel. Evaluating it in binary64 would not do:
 // cosl or cos of 2 pi a/b is wrong in the last place of binary64 for most of the angles of the lengths up to
@@ -36,7 +36,7 @@ struct Constant {
 Constant operator-(const Constant& c);
 Constant magnitude(const Constant& c);
 
-/// A product, multiplied out before it is rounded; its name does not depend on the order.
+/// A product, multiplied out before it is rounded; its name does not depend on the order of the factors.
 Constant operator*(const Constant& a, const Constant& b);
 
 /// cos and sin of an exact fraction of the circle, named by their octant form: "cos 1/16", "sin 1/12".
@@ -52,7 +52,17 @@ struct ComplexConstant {
   bool is_one() const { return re.is_one() && im.is_zero(); }
 };
 
-/// exp(-2 pi i t), the forward root of unity.
-ComplexConstant root_of_unity(Turn t);
+/// The sign of i in the exponent: forward transforms have -.
+enum class Direction { forward, inverse };
+
+inline Direction opposite(Direction d) {
+  return d == Direction::forward ? Direction::inverse : Direction::forward;
+}
+
+/// A constant of the forward transform, or its conjugate for the inverse one.
+ComplexConstant directed(const ComplexConstant& w, Direction direction);
+
+/// exp(-2 pi i t), or exp(2 pi i t) for inverse transforms.
+ComplexConstant root_of_unity(Turn t, Direction direction = Direction::forward);
 
 }  // namespace xfm::gen

@@ -5,10 +5,8 @@
 namespace xfm::gen {
 namespace {
 
-using Products = std::vector<Network::Product>;
-
 // The terms of one half that are not zero by structure.
-Products products(const std::vector<ScaledComplex>& terms, Value Complex::*half) {
+Products products(const Sequence<ScaledComplex>& terms, Value Complex::*half) {
   Products present;
   for (const ScaledComplex& term : terms) {
     if (!(term.z.*half).absent() && !term.c.is_zero()) present.push_back({term.c, term.z.*half});
@@ -16,7 +14,7 @@ Products products(const std::vector<ScaledComplex>& terms, Value Complex::*half)
   return present;
 }
 
-Value combine(const std::vector<ScaledComplex>& terms, Value Complex::*half) {
+Value combine(const Sequence<ScaledComplex>& terms, Value Complex::*half) {
   const Products present = products(terms, half);
   return present.empty() ? Value{} : present.front().v.network->sum(present);
 }
@@ -36,16 +34,16 @@ Complex exchanged(const Complex& z) { return {z.q, z.p}; }
 
 ScaledComplex::operator Complex() const { return sum({*this}); }
 
-Complex sum(std::initializer_list<ScaledComplex> terms) { return sum(std::vector<ScaledComplex>(terms)); }
+Complex sum(std::initializer_list<ScaledComplex> terms) { return sum(Sequence<ScaledComplex>(terms)); }
 
-Complex sum(const std::vector<ScaledComplex>& terms) {
+Complex sum(const Sequence<ScaledComplex>& terms) {
   return {combine(terms, &Complex::p), combine(terms, &Complex::q)};
 }
 
-Value combination(std::vector<Network::Product> terms, Finish finish) {
+Value combination(Products terms, Finish finish) {
   if (terms.empty()) return {};
-  const bool turned = std::all_of(terms.begin(), terms.end(), is_negative);
-  if (turned) {
+  const bool negated = std::all_of(terms.begin(), terms.end(), is_negative);
+  if (negated) {
     for (Network::Product& term : terms) term.v = -term.v;
   }
   auto leader = terms.begin();
@@ -57,10 +55,10 @@ Value combination(std::vector<Network::Product> terms, Finish finish) {
   }
   std::rotate(terms.begin(), leader, leader + 1);
   const Value sum = terms.front().v.network->sum(terms, finish);
-  return turned ? -sum : sum;
+  return negated ? -sum : sum;
 }
 
-Complex combination(const std::vector<ScaledComplex>& terms) {
+Complex combination(const Sequence<ScaledComplex>& terms) {
   return {combination(products(terms, &Complex::p)), combination(products(terms, &Complex::q))};
 }
 

@@ -1,12 +1,11 @@
 // Complex values in a network: p + i*q, each half a value of its own or absent.
 //
-// Under the split arithmetic p and q are the real and the imaginary part. Under the lane-real arithmetic a
-// node is a whole complex number in two lanes, the network has real coefficients only, and p + i*q carries a
-// factor i that is never formed before the last step. The same recipes serve both.
+// In the planar form p and q are the real and the imaginary part. In the interleaved form a node holds whole
+// complex numbers, the network has real coefficients only, and p + i*q carries a factor i that is never formed
+// before the last step. The same recipes serve both.
 #pragma once
 
 #include <initializer_list>
-#include <vector>
 
 #include "gen/network/network.h"
 
@@ -18,7 +17,7 @@ struct Complex {
   bool is_real() const { return q.absent(); }
   Complex operator-() const { return {-p, -q}; }
 };
-using Points = std::vector<Complex>;
+using Points = Sequence<Complex>;
 
 Complex operator+(const Complex& a, const Complex& b);
 Complex operator-(const Complex& a, const Complex& b);
@@ -26,7 +25,7 @@ Complex times_i(const Complex& z);
 Complex conjugate(const Complex& z);
 Complex exchanged(const Complex& z);  ///< real and imaginary part change places
 
-/// A product with a real constant that is not yet rounded: it becomes a value by itself or a term of a sum.
+/// A product with a real constant, not yet rounded: it becomes a value by itself or a term of a sum.
 struct ScaledComplex {
   Constant c{"1", 1};
   Complex z;
@@ -41,13 +40,13 @@ inline ScaledComplex operator*(const Constant& c, const Complex& z) { return {c,
 
 /// The terms added from left to right, as the network's rounding rule says.
 Complex sum(std::initializer_list<ScaledComplex> terms);
-Complex sum(const std::vector<ScaledComplex>& terms);
+Complex sum(const Sequence<ScaledComplex>& terms);
 
-/// One statement, written with a positive term first where it has one: a leading negative term gives way to
-/// the plain operand, or else to the first positive product. Without any positive term it is the negative of
-/// the statement of the turned terms. So a zero comes out as +0.
-Value combination(std::vector<Network::Product> terms, Finish finish = Finish::none);
-Complex combination(const std::vector<ScaledComplex>& terms);
+/// One linear combination, written with a positive term first where it has one: a leading negative term gives
+/// way to the plain operand, or else to the first positive product. Without any positive term it is the
+/// negative of the linear combination of the negated terms. So a zero comes out as +0.
+Value combination(Products terms, Finish finish = Finish::none);
+Complex combination(const Sequence<ScaledComplex>& terms);
 
 /// w*z, (c + i*s)*(p + i*q) = (c*p - s*q) + i*(s*p + c*q), each product rounded by itself; products with 0, 1
 /// and -1 cost nothing.

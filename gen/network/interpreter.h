@@ -2,8 +2,7 @@
 // binary128 for the mathematics alone.
 #pragma once
 
-#include <array>
-#include <vector>
+#include <type_traits>
 
 #include "gen/network/network.h"
 
@@ -12,44 +11,33 @@ namespace xfm::gen {
 template <class T>
 class Interpreter {
  public:
-  explicit Interpreter(const Network& network) : network_(network), values_(network.nodes().size()) {}
+  explicit Interpreter(const Network& network)
+      : network_(network), values_(network.nodes().size(), Sequence<Inner>(network.width())) {}
 
   void run(const T* src, T* dst, T factor) {
-    for (std::size_t id = 0; id < values_.size(); ++id)
-      values_[id] = compute(network_.nodes()[id], src, factor);
+    for (NodeId id = 0; id < values_.size(); ++id) {
+      for (int l = 0; l < network_.width(); ++l) values_[id][l] = lane(network_.node(id), l, src, factor);
+    }
     for (const Store& store : network_.stores()) {
-      for (std::size_t l = 0; l < max_lanes; ++l) {
+      for (int l = 0; l < store.lanes.size(); ++l) {
         if (store.lanes[l] >= 0)
-          dst[store.lanes[l]] = store.node < 0 ? T(0) : static_cast<T>(at(store.node)[l]);
+          dst[store.lanes[l]] = store.node < 0 ? T(0) : static_cast<T>(values_[store.node][l]);
       }
     }
   }
 
  private:
-  /// Statements compute in binary64, or in T where that is wider.
+  /// Linear combinations are computed in binary64, or in T where that is wider.
   using Inner = std::conditional_t<std::is_same_v<T, float>, double, T>;
-  using Lanes = std::array<Inner, max_lanes>;
 
-  const Lanes& at(NodeId id) const { return values_[static_cast<std::size_t>(id)]; }
-
-  Lanes compute(const Node& node, const T* src, T factor) const {
-    Lanes result{};
-    for (std::size_t l = 0; l < static_cast<std::size_t>(network_.width()); ++l)
-      result[l] = node.op == Op::combination ? combination(node, factor) : lane(node, l, src, factor);
-    return result;
-  }
-
-  T lane(const Node& node, std::size_t l, const T* src, T factor) const {
-    const auto in = [&](std::size_t operand) { return static_cast<T>(at(node.in[operand])[l]); };
+  Inner lane(const Node& node, int l, const T* src, T factor) const {
+    const auto in = [&](std::size_t operand) { return static_cast<T>(values_[node.in[operand]][l]); };
+    const int width = network_.width();
     switch (node.op) {
       case Op::load:
-        return node.lanes[l] >= 0 ? src[node.lanes[l]] : T(0);
-      case Op::shuffle: {
-        const auto pick = static_cast<std::size_t>(node.lanes[l]);
-        return static_cast<T>(at(node.in[pick / max_lanes])[pick % max_lanes]);
-      }
-      case Op::exchange:
-        return static_cast<T>(at(node.in[0])[1 - l]);
+        return l < node.lanes.size() && node.lanes[l] >= 0 ? src[node.lanes[l]] : T(0);
+      case Op::permute:
+        return values_[node.in[node.lanes[l] < width ? 0 : 1]][node.lanes[l] % width];
       case Op::sign_flip:
         return node.lanes[l] == 1 ? -in(0) : in(0);
       case Op::add:
@@ -57,25 +45,24 @@ class Interpreter {
       case Op::sub:
         return in(0) - in(1);
       case Op::mul:
-        return static_cast<T>(node.constants[node.constants.size() == 1 ? 0 : l].value) * in(0);
+        return static_cast<T>(node.constant(l).value) * in(0);
       case Op::twice:
         return in(0) + in(0);
       case Op::minus:
         return T(0) - in(0);
-      case Op::combination:
-        break;
       case Op::factor:
         return factor * in(0);
+      case Op::combination:
+        break;
     }
-    return T(0);
+    return combination(node, factor);
   }
 
-  // A linear combination, rounded once unless it is kept.
   Inner combination(const Node& node, T factor) const {
     Inner total = 0;
-    for (std::size_t t = 0; t < node.terms.size(); ++t) {
+    for (int t = 0; t < node.terms.size(); ++t) {
       const Term& term = node.terms[t];
-      const Inner product = static_cast<Inner>(term.coefficient.value) * at(term.node)[0];
+      const Inner product = static_cast<Inner>(term.coefficient.value) * values_[term.node][0];
       total = t == 0 ? product : total + product;
     }
     if (scales(node.finish)) total = static_cast<Inner>(factor) * total;
@@ -84,7 +71,7 @@ class Interpreter {
   }
 
   const Network& network_;
-  std::vector<Lanes> values_;
+  Sequence<Sequence<Inner>> values_;
 };
 
 template <class T>

@@ -1,31 +1,40 @@
 #include "gen/network/network.h"
 
+#include <algorithm>
 #include <stdexcept>
 #include <utility>
 
 namespace xfm::gen {
 
+Sequence<NodeId> operands(const Node& node) {
+  Sequence<NodeId> in;
+  const auto meet = [&](NodeId id) {
+    if (id >= 0 && std::find(in.begin(), in.end(), id) == in.end()) in.push_back(id);
+  };
+  for (const NodeId id : node.in) meet(id);
+  for (const Term& term : node.terms) meet(term.node);
+  return in;
+}
+
 Value Network::make(Node node, bool negative) {
   for (const NodeId in : node.in) {
     if (in >= 0 && this->node(in).finish == Finish::unrounded)
-      throw std::logic_error("only statements use what stays in binary64");
+      throw std::logic_error("only linear combinations may use an unrounded value");
   }
-  const auto [place, fresh] = known_.try_emplace(node, static_cast<NodeId>(nodes_.size()));
+  const auto [place, fresh] = known_.try_emplace(node, nodes_.size());
   if (fresh) nodes_.push_back(std::move(node));
   return {this, place->second, negative};
 }
 
-Value Network::load(std::array<int, max_lanes> scalars) { return make({.op = Op::load, .lanes = scalars}); }
+Value Network::load(PerLane scalars) { return make({.op = Op::load, .lanes = std::move(scalars)}); }
 
-Value Network::shuffle(Value a, Value b, std::array<int, max_lanes> picks) {
-  if (a.negative != b.negative) throw std::logic_error("shuffle of values with different signs");
-  return make({.op = Op::shuffle, .in = {a.node, b.node}, .lanes = picks}, a.negative);
+Value Network::permute(Value a, Value b, PerLane picks) {
+  if (a.negative != b.negative) throw std::logic_error("permutation of values with different signs");
+  return make({.op = Op::permute, .in = {a.node, b.node}, .lanes = std::move(picks)}, a.negative);
 }
 
-Value Network::exchange(Value v) { return make({.op = Op::exchange, .in = {v.node, -1}}, v.negative); }
-
-Value Network::flip_signs(Value v, std::array<int, max_lanes> turned) {
-  return make({.op = Op::sign_flip, .in = {v.node, -1}, .lanes = turned}, v.negative);
+Value Network::flip_signs(Value v, PerLane flipped) {
+  return make({.op = Op::sign_flip, .in = {v.node, -1}, .lanes = std::move(flipped)}, v.negative);
 }
 
 Value Network::add(Value a, Value b) {
@@ -37,10 +46,10 @@ Value Network::add(Value a, Value b) {
   return make({.op = Op::add, .in = {a.node, b.node}}, a.negative);
 }
 
-// a - b, or the turned b - a if that was written first: a difference and its negative are one node.
+// a - b, or -(b - a) if that was written first: a difference and its negative are one node.
 Value Network::difference(NodeId a, NodeId b, bool negative) {
-  const Node turned{.op = Op::sub, .in = {b, a}};
-  if (known_.contains(turned)) return make(turned, !negative);
+  const Node reversed{.op = Op::sub, .in = {b, a}};
+  if (known_.contains(reversed)) return make(reversed, !negative);
   return make({.op = Op::sub, .in = {a, b}}, negative);
 }
 
@@ -51,7 +60,7 @@ Value Network::mul(const Constant& c, Value v) {
   return make({.op = Op::mul, .in = {v.node, -1}, .constants = {c}}, v.negative);
 }
 
-Value Network::mul(const std::vector<Constant>& lanes, Value v) {
+Value Network::mul(const Sequence<Constant>& lanes, Value v) {
   if (v.absent()) return {};
   return make({.op = Op::mul, .in = {v.node, -1}, .constants = lanes}, v.negative);
 }
@@ -66,10 +75,8 @@ Value Network::repeat(const Node& node, Value a, Value b) {
   switch (node.op) {
     case Op::load:
       return load(node.lanes);
-    case Op::shuffle:
-      return shuffle(a, b, node.lanes);
-    case Op::exchange:
-      return exchange(a);
+    case Op::permute:
+      return permute(a, b, node.lanes);
     case Op::sign_flip:
       return flip_signs(a, node.lanes);
     case Op::add:
@@ -87,11 +94,11 @@ Value Network::repeat(const Node& node, Value a, Value b) {
     case Op::combination:
       break;
   }
-  throw std::logic_error("a statement is not repeated on two operands");
+  throw std::logic_error("a linear combination is not repeated on two operands");
 }
 
 Value Network::sum(std::span<const Product> products, Finish finish) {
-  std::vector<Product> terms;
+  Products terms;
   for (const Product& p : products) {
     if (!p.v.absent() && !p.c.is_zero()) terms.push_back(p);
   }
@@ -106,10 +113,18 @@ Value Network::sum(std::span<const Product> products, Finish finish) {
   return make(std::move(node));
 }
 
-void Network::store(Value v, std::array<int, max_lanes> scalars) {
+void Network::store(Value v, PerLane scalars) {
   if (v.absent()) throw std::logic_error("an output is zero by structure");
   if (v.negative) throw std::logic_error("an output would need a negation");
-  stores_.push_back({v.node, scalars});
+  stores_.push_back({v.node, std::move(scalars)});
+}
+
+void Network::repeat(const Store& store, Value v) {
+  if (store.node < 0) {
+    stores_.push_back(store);
+  } else {
+    this->store(v, store.lanes);
+  }
 }
 
 }  // namespace xfm::gen

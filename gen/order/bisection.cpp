@@ -2,21 +2,19 @@
 
 #include <algorithm>
 
-#include "gen/order/schedule.h"
-
 namespace xfm::gen {
 namespace {
 
-using Nodes = std::vector<NodeId>;
+using Nodes = Sequence<NodeId>;
 
 class Bisection {
  public:
   Bisection(const Network& network, const Nodes& nodes)
-      : sources_(network.nodes().size()), users_(sources_.size()), part_(sources_.size(), 0) {
+      : sources_(network.nodes().size()), users_(sources_.size()), part_(sources_.size()) {
     for (const NodeId id : nodes) {
       for (const NodeId operand : operands(network.node(id))) {
-        sources_[index(id)].push_back(operand);
-        users_[index(operand)].push_back(id);
+        sources_[id].push_back(operand);
+        users_[operand].push_back(id);
       }
     }
     order(nodes);
@@ -25,10 +23,9 @@ class Bisection {
   Nodes result() { return std::move(order_); }
 
  private:
-  static std::size_t index(NodeId id) { return static_cast<std::size_t>(id); }
-  int& part(NodeId id) { return part_[index(id)]; }
+  int& part(NodeId id) { return part_[id]; }
 
-  // A number that no other set of nodes has: nodes are told to be in a set by it.
+  // A number that marks these nodes as one set.
   int mark(const Nodes& nodes) {
     ++marks_;
     for (const NodeId id : nodes) part(id) = marks_;
@@ -40,7 +37,7 @@ class Bisection {
       order_.insert(order_.end(), nodes.begin(), nodes.end());
       return;
     }
-    const std::vector<Nodes> components = split(nodes);
+    const Sequence<Nodes> components = split(nodes);
     if (components.size() > 1) {
       for (const Nodes& component : components) order(component);
       return;
@@ -51,16 +48,16 @@ class Bisection {
   }
 
   // The connected components, in the recipe's order.
-  std::vector<Nodes> split(const Nodes& nodes) {
+  Sequence<Nodes> split(const Nodes& nodes) {
     const int whole = mark(nodes);
-    std::vector<Nodes> components;
+    Sequence<Nodes> components;
     for (const NodeId start : nodes) {
       if (part(start) != whole) continue;
       Nodes& component = components.emplace_back(Nodes{start});
       part(start) = 0;
-      for (std::size_t next = 0; next < component.size(); ++next) {
+      for (int next = 0; next < component.size(); ++next) {
         for (const auto* neighbours : {&sources_, &users_}) {
-          for (const NodeId id : (*neighbours)[index(component[next])]) {
+          for (const NodeId id : (*neighbours)[component[next]]) {
             if (part(id) != whole) continue;
             part(id) = 0;
             component.push_back(id);
@@ -79,7 +76,7 @@ class Bisection {
     for (bool from_inputs = true; !left.empty(); from_inputs = !from_inputs) {
       const auto& neighbours = from_inputs ? sources_ : users_;
       const auto waits = [&](NodeId id) {
-        return std::any_of(neighbours[index(id)].begin(), neighbours[index(id)].end(),
+        return std::any_of(neighbours[id].begin(), neighbours[id].end(),
                            [&](NodeId other) { return part(other) == whole; });
       };
       const auto layer = std::stable_partition(left.begin(), left.end(), waits);
@@ -91,15 +88,15 @@ class Bisection {
     return both;
   }
 
-  std::vector<Nodes> sources_, users_;
-  std::vector<int> part_;
+  Sequence<Nodes> sources_, users_;
+  Sequence<int> part_;
   int marks_ = 0;
   Nodes order_;
 };
 
 }  // namespace
 
-std::vector<NodeId> bisected(const Network& network, const std::vector<NodeId>& nodes) {
+Sequence<NodeId> bisected(const Network& network, const Sequence<NodeId>& nodes) {
   return Bisection(network, nodes).result();
 }
 

@@ -4,13 +4,11 @@
 // fewest.
 #pragma once
 
-#include <vector>
-
 #include "gen/network/network.h"
 
 namespace xfm::gen {
 
 /// The given nodes of a network, in the order of bisection.
-std::vector<NodeId> bisected(const Network& network, const std::vector<NodeId>& nodes);
+Sequence<NodeId> bisected(const Network& network, const Sequence<NodeId>& nodes);
 
 }  // namespace xfm::gen

@@ -1,11 +1,25 @@
-// The order in which a kernel's operations are written down. Never changes an operation.
+// The order in which a kernel's operations are written. Never changes an operation.
 #pragma once
 
-#include <vector>
-
-#include "gen/kernel.h"
+#include "gen/math/precision.h"
+#include "gen/network/network.h"
 
 namespace xfm::gen {
+
+/// Measured: windows are best for most packed kernels, up to a tenth faster than the recipe's order alone.
+/// Scalar kernels of linear combinations, which are long chains of conversions, are fastest with everything
+/// as early as possible; for those of plain operations bisection halves the spills of large lengths.
+enum class Order {
+  windowed,        ///< the recipe's stages, smoothed by earliest start
+  earliest_start,  ///< every operation as soon as possible
+  bisection,       ///< few values in flight (bisection.h)
+};
+
+/// Of scalar networks: plain operations run short of registers, while chains of linear combinations keep each
+/// other waiting.
+inline Order scalar_order(Precision precision) {
+  return precision == Precision::binary64 ? Order::bisection : Order::earliest_start;
+}
 
 /// A node to compute, or (node < 0) a store to make.
 struct Step {
@@ -13,15 +27,8 @@ struct Step {
   int store = -1;
 };
 
-/// The live operations in an order: loads at their first use, and each output finished and stored as soon as
-/// its operands are there and the last load is done.
-///
-/// Measured: windows are best for most packed kernels, up to a tenth faster than the recipe's order alone.
-/// Scalar kernels of statements, which are long chains of conversions, are fastest with everything as early
-/// as it can be; for those of plain operations bisection halves the spills of large lengths.
-std::vector<Step> schedule(const Network& network, Order order = Order::windowed);
-
-/// The operands of a node, present ones only.
-std::vector<NodeId> operands(const Node& node);
+/// The live operations in an order: loads at their first use, all of them before the first store, and each
+/// output finished and stored as soon as its operands are there and the last load is done.
+Sequence<Step> schedule(const Network& network, Order order);
 
 }  // namespace xfm::gen

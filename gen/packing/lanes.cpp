@@ -11,18 +11,18 @@ bool is_quarter_turn(const ComplexConstant& w) {
   return (w.re.is_zero() && magnitude(w.im).is_one()) || (w.im.is_zero() && magnitude(w.re).is_one());
 }
 
-bool weighed_alike(std::span<const Element> elements) {
+bool weighed_alike(const Elements& elements) {
   const ComplexConstant& first = elements.front().weight;
   return std::all_of(elements.begin(), elements.end(),
                      [&](const Element& e) { return e.weight.re == first.re && e.weight.im == first.im; });
 }
 
-bool all_real(std::span<const Element> elements) {
+bool all_real(const Elements& elements) {
   return std::all_of(elements.begin(), elements.end(),
                      [](const Element& e) { return e.weight.im.is_zero(); });
 }
 
-// w times the element by its parts alone: a quarter turn moves and turns signs, and costs nothing.
+// A quarter turn by its parts alone: they change places and signs, and nothing is computed.
 Element turned(const Element& e) {
   const Constant &c = e.weight.re, &s = e.weight.im;
   const auto with_sign = [](Part part, bool negative) {
@@ -32,13 +32,6 @@ Element turned(const Element& e) {
   out.re = s.is_zero() ? with_sign(e.re, c.is_negative()) : with_sign(e.im, !s.is_negative());
   out.im = s.is_zero() ? with_sign(e.im, c.is_negative()) : with_sign(e.re, s.is_negative());
   return out;
-}
-
-std::array<int, max_lanes> scalars(int low, int high) {
-  std::array<int, max_lanes> at{-1, -1, -1, -1};
-  if (low >= 0) at[0] = 2 * low, at[1] = 2 * low + 1;
-  if (high >= 0) at[2] = 2 * high, at[3] = 2 * high + 1;
-  return at;
 }
 
 }  // namespace
@@ -51,53 +44,56 @@ Element weighted(Element e, const ComplexConstant& w) {
   return e;
 }
 
-std::size_t Lanes::instances(Form form) const {
-  const auto lanes = static_cast<std::size_t>(width());
-  return form == Form::planar ? lanes : lanes / 2;
+Complex Lanes::gather(Elements elements, Form form) {
+  // Quarter turns that differ by the lane need no product.
+  const bool turns = std::all_of(elements.begin(), elements.end(), [](const Element& e) {
+    return !e.in_memory() && is_quarter_turn(e.weight);
+  });
+  if (turns && !weighed_alike(elements))
+    std::transform(elements.begin(), elements.end(), elements.begin(), turned);
+  const bool memory = elements.front().in_memory();
+  if (form == Form::planar)
+    return weigh_planar(elements, memory ? load_planar(elements) : gather_planar(elements));
+  if (memory) return {weigh_interleaved(elements, {&network_, load(elements, 0), false}), {}};
+  Sequence<Part> parts;
+  for (const Element& e : elements) parts.insert(parts.end(), {e.re, e.im});
+  return {weigh_interleaved(elements, gather_parts(parts)), {}};
 }
 
-Complex Lanes::gather(std::span<const Element> elements, Form form) {
-  std::vector<Element> now(elements.begin(), elements.end());
-  // Quarter turns that differ by the lane need no product: parts change places, and signs turn.
-  const bool turns = std::all_of(
-      now.begin(), now.end(), [](const Element& e) { return !e.in_memory() && is_quarter_turn(e.weight); });
-  if (turns && !weighed_alike(now)) std::transform(now.begin(), now.end(), now.begin(), turned);
-  const bool memory = now.front().in_memory();
-  if (form == Form::planar) return weigh_planar(now, memory ? load_planar(now) : gather_planar(now));
-  if (memory) return {weigh_interleaved(now, load_interleaved(now)), {}};
-  std::vector<Part> parts;
-  for (const Element& e : now) parts.insert(parts.end(), {e.re, e.im});
-  return {weigh_interleaved(now, gather_parts(parts)), {}};
-}
-
-std::vector<Element> Lanes::scatter(const Complex& z, std::size_t count, Form form) {
-  std::vector<Element> elements(count);
+Elements Lanes::scatter(const Complex& z, int count, Form form) {
+  Elements elements(count);
   const Value joined = form == Form::interleaved && !z.q.absent() ? z.p + times_i(z.q) : z.p;
-  for (std::size_t l = 0; l < count; ++l) {
-    const int lane = static_cast<int>(l);
+  for (int l = 0; l < count; ++l) {
     if (form == Form::planar) {
-      elements[l].re = {z.p, lane};
-      elements[l].im = {z.q, lane};
+      elements[l].re = {z.p, l};
+      elements[l].im = {z.q, l};
     } else {
-      elements[l].re = {joined, 2 * lane};
-      elements[l].im = {joined, 2 * lane + 1};
+      elements[l].re = {joined, 2 * l};
+      elements[l].im = {joined, 2 * l + 1};
     }
   }
   return elements;
 }
 
-Value Lanes::times_i(Value whole) {
-  const NodeId swapped = shuffle(whole.node, whole.node, {1, 0, 7, 6});
-  return network_.flip_signs({&network_, swapped, whole.negative}, {1, 0, 1, 0});
+// Of every complex number in an interleaved register.
+Value Lanes::with_parts_exchanged(Value z) {
+  PerLane picks(width());
+  for (int l = 0; l < width(); ++l) picks[l] = l ^ 1;
+  return {&network_, permuter_.permuted(z.node, z.node, picks), z.negative};
+}
+
+Value Lanes::times_i(Value z) {
+  PerLane real_parts(width());
+  for (int l = 0; l < width(); l += 2) real_parts[l] = 1;
+  return network_.flip_signs(with_parts_exchanged(z), real_parts);
 }
 
 // Lane constants where the lanes differ, trivial ones included, since the lanes are multiplied together.
-Complex Lanes::weigh_planar(std::span<const Element> elements, const Complex& z) {
+Complex Lanes::weigh_planar(const Elements& elements, const Complex& z) {
   const ComplexConstant& first = elements.front().weight;
   if (weighed_alike(elements)) return first * z;
-  std::vector<Constant> re(static_cast<std::size_t>(width()), first.re);
-  std::vector<Constant> im(static_cast<std::size_t>(width()), first.im);
-  for (std::size_t l = 0; l < elements.size(); ++l) {
+  Sequence<Constant> re(width(), first.re), im(width(), first.im);
+  for (int l = 0; l < elements.size(); ++l) {
     re[l] = elements[l].weight.re;
     im[l] = elements[l].weight.im;
   }
@@ -108,175 +104,106 @@ Complex Lanes::weigh_planar(std::span<const Element> elements, const Complex& z)
   return {cp - sq, sp + cq};
 }
 
-// c*(re, im) + s*(-im, re), the sign in the constants.
-Value Lanes::weigh_interleaved(std::span<const Element> elements, Value z) {
-  const ComplexConstant &a = elements.front().weight, &b = elements.back().weight;
-  if (a.is_one() && b.is_one()) return z;
-  if (weighed_alike(elements) && is_quarter_turn(a)) {
-    const Value turn = a.im.is_zero() ? z : times_i(z);
-    return a.re.is_negative() || a.im.is_negative() ? -turn : turn;
+// c*(re, im) + s*(-im, re), the sign in the constants. Idle lanes repeat the last number's.
+Value Lanes::weigh_interleaved(const Elements& elements, Value z) {
+  const ComplexConstant& first = elements.front().weight;
+  if (std::all_of(elements.begin(), elements.end(), [](const Element& e) { return e.weight.is_one(); }))
+    return z;
+  if (weighed_alike(elements) && is_quarter_turn(first)) {
+    const Value turned = first.im.is_zero() ? z : times_i(z);
+    return first.re.is_negative() || first.im.is_negative() ? -turned : turned;
   }
-  const Value cosines = network_.mul(std::vector<Constant>{a.re, a.re, b.re, b.re}, z);
-  if (all_real(elements)) return cosines;
-  const Value swapped{&network_, shuffle(z.node, z.node, {1, 0, 7, 6}), z.negative};
-  return cosines + network_.mul(std::vector<Constant>{-a.im, a.im, -b.im, b.im}, swapped);
+  Sequence<Constant> cosines, sines;
+  for (int l = 0; l < width(); ++l) {
+    const ComplexConstant& w = elements[std::min(l / 2, elements.size() - 1)].weight;
+    cosines.push_back(w.re);
+    sines.push_back(l % 2 == 0 ? -w.im : w.im);
+  }
+  const Value in_phase = network_.mul(cosines, z);
+  return all_real(elements) ? in_phase : in_phase + network_.mul(sines, with_parts_exchanged(z));
 }
 
-// Two loads of two complex numbers and two shuffles make a split value of four.
-Complex Lanes::load_planar(std::span<const Element> elements) {
-  const int n = elements[0].at;
-  if (width() == 1) return {network_.load(2 * n), network_.load(2 * n + 1)};
-  const auto pair = [&](std::size_t l) {
-    return network_.load(scalars(elements[l].at, l + 1 < elements.size() ? elements[l + 1].at : -1)).node;
+// A register of complex numbers as they stand in memory, from elements[first] on.
+NodeId Lanes::load(const Elements& elements, int first) {
+  PerLane scalars(width(), -1);
+  for (int l = 0; l < width() && first + l / 2 < elements.size(); ++l)
+    scalars[l] = 2 * elements[first + l / 2].at + l % 2;
+  return network_.load(scalars).node;
+}
+
+// Two loads and two permutations make a planar value.
+Complex Lanes::load_planar(const Elements& elements) {
+  if (width() == 1) return {network_.load(2 * elements[0].at), network_.load(2 * elements[0].at + 1)};
+  const int half = width() / 2;
+  const NodeId low = load(elements, 0), high = elements.size() > half ? load(elements, half) : low;
+  const auto parts = [&](int part) {
+    PerLane picks(width());
+    for (int l = 0; l < width(); ++l) {
+      const bool idle = l >= elements.size();
+      picks[l] = l / half * width() + (idle ? 0 : 2 * (l % half)) + part;
+    }
+    return Value{&network_, permuter_.permuted(low, high, picks), false};
   };
-  const NodeId low = pair(0);
-  const NodeId high = elements.size() > 2 ? pair(2) : low;
-  const int last = elements.size() == 3 ? 4 : 6;
-  return {{&network_, shuffle(low, high, {0, 2, 4, last}), false},
-          {&network_, shuffle(low, high, {1, 3, 5, last + 1}), false}};
+  const Value re = parts(0), im = parts(1);
+  return {re, im};
 }
 
-Value Lanes::load_interleaved(std::span<const Element> elements) {
-  return network_.load(scalars(elements[0].at, elements.size() > 1 ? elements[1].at : -1));
-}
-
-Complex Lanes::gather_planar(std::span<const Element> elements) {
-  std::vector<Part> re, im;
+Complex Lanes::gather_planar(const Elements& elements) {
+  Sequence<Part> re, im;
   for (const Element& e : elements) {
     re.push_back(e.re);
     im.push_back(e.im);
   }
-  return {gather_parts(re), gather_parts(im)};
+  const Value p = gather_parts(re), q = gather_parts(im);
+  return {p, q};
 }
 
-Value Lanes::gather_parts(const std::vector<Part>& parts) {
+Value Lanes::gather_parts(const Sequence<Part>& parts) {
   if (width() == 1) return parts[0].value;
-  Places wanted;
-  std::array<int, max_lanes> negative{};
-  for (std::size_t l = 0; l < parts.size(); ++l) {
+  Sequence<Place> wanted(width());
+  PerLane negative(width());
+  for (int l = 0; l < parts.size(); ++l) {
     if (parts[l].value.absent()) throw std::logic_error("a lane without a value");
-    wanted[l] = content(parts[l].value.node, parts[l].lane);
+    wanted[l] = permuter_.content({parts[l].value.node, parts[l].lane});
     negative[l] = parts[l].value.negative ? 1 : 0;
   }
-  const Value gathered{&network_, bring(wanted), false};
+  const Value gathered{&network_, permuter_.bring(wanted), false};
   const auto count = std::count(negative.begin(), negative.end(), 1);
   if (count == 0) return gathered;
-  return count == static_cast<long>(parts.size()) ? -gathered : network_.flip_signs(gathered, negative);
+  return count == parts.size() ? -gathered : network_.flip_signs(gathered, negative);
 }
 
-// Where the content of a lane was computed: through shuffles to the arithmetic node behind them.
-Lanes::Place Lanes::content(NodeId node, int lane) const {
-  while (network_.node(node).op == Op::shuffle) {
-    const int pick = network_.node(node).lanes[static_cast<std::size_t>(lane)];
-    node = network_.node(node).in[pick < max_lanes ? 0 : 1];
-    lane = pick % max_lanes;
-  }
-  return {node, lane};
-}
-
-NodeId Lanes::shuffle(NodeId a, NodeId b, std::array<int, max_lanes> picks) {
-  const NodeId made = network_.shuffle({&network_, a, false}, {&network_, b, false}, picks).node;
-  if (std::find(shuffles_.begin(), shuffles_.end(), made) == shuffles_.end()) shuffles_.push_back(made);
-  return made;
-}
-
-// A node that has the wanted lanes already, or -1.
-NodeId Lanes::find(const Places& wanted) const {
-  const auto holds = [&](NodeId node) {
-    for (int l = 0; l < max_lanes; ++l) {
-      const Place& w = wanted[static_cast<std::size_t>(l)];
-      if (w.node >= 0 && w != content(node, l)) return false;
-    }
-    return true;
-  };
-  if (holds(wanted[0].node)) return wanted[0].node;
-  const auto found = std::find_if(shuffles_.begin(), shuffles_.end(), holds);
-  return found == shuffles_.end() ? -1 : *found;
-}
-
-// The wanted lanes by a single shuffle: two lanes from one node and two from another, or an unpack; else -1.
-NodeId Lanes::one_shuffle(const Places& wanted) {
-  const auto same = [](const Place& a, const Place& b) {
-    return a.node < 0 || b.node < 0 || a.node == b.node;
-  };
-  const auto either = [](const Place& a, const Place& b) { return a.node >= 0 ? a : b; };
-  const auto [w0, w1, w2, w3] = wanted;
-  if (same(w0, w1) && same(w2, w3)) {
-    const Place low = either(w0, w1), high = w2.node >= 0 || w3.node >= 0 ? either(w2, w3) : low;
-    const auto pick = [](const Place& w, int idle) { return w.node >= 0 ? w.lane : idle; };
-    return shuffle(low.node, high.node, {pick(w0, 0), pick(w1, 1), 4 + pick(w2, 0), 4 + pick(w3, 1)});
-  }
-  const auto at = [](const Place& w, int lane) { return w.node < 0 || w.lane == lane; };
-  if (same(w0, w2) && same(w1, w3)) {
-    const NodeId a = either(w0, w2).node, b = either(w1, w3).node;
-    if (at(w0, 0) && at(w1, 0) && at(w2, 1) && at(w3, 1)) return shuffle(a, b, {0, 4, 1, 5});
-    if (at(w0, 2) && at(w1, 2) && at(w2, 3) && at(w3, 3)) return shuffle(a, b, {2, 6, 3, 7});
-  }
-  return -1;
-}
-
-// The places of a and b in one node, an unpack if their halves allow it: the form that transpositions share.
-Lanes::Places Lanes::beside(Place a, Place b) {
-  const auto within = [&](NodeId node) {
-    Places places;
-    for (int l = max_lanes - 1; l >= 0; --l) {
-      if (content(node, l) == a) places[0] = {node, l};
-      if (b.node >= 0 && content(node, l) == b) places[1] = {node, l};
-    }
-    return places;
-  };
-  const auto complete = [&](const Places& p) { return p[0].node >= 0 && (b.node < 0 || p[1].node >= 0); };
-  if (const Places p = within(a.node); complete(p)) return p;
-  for (const NodeId node : shuffles_) {
-    if (const Places p = within(node); complete(p)) return p;
-  }
-  if (a.lane < 2 && b.lane < 2) return within(shuffle(a.node, b.node, {0, 4, 1, 5}));
-  if (a.lane >= 2 && b.lane >= 2) return within(shuffle(a.node, b.node, {2, 6, 3, 7}));
-  return within(shuffle(a.node, b.node, {a.lane, a.lane ^ 1, 4 + b.lane, 4 + (b.lane ^ 1)}));
-}
-
-NodeId Lanes::bring(const Places& wanted) {
-  if (const NodeId node = find(wanted); node >= 0) return node;
-  if (const NodeId node = one_shuffle(wanted); node >= 0) return node;
-  Places near;
-  for (std::size_t half = 0; half < wanted.size(); half += 2) {
-    if (wanted[half].node < 0) continue;
-    const Places pair = beside(wanted[half], wanted[half + 1]);
-    near[half] = pair[0];
-    near[half + 1] = pair[1];
-  }
-  return one_shuffle(near);
-}
-
-// All outputs that share registers leave together: split ones are interleaved, whole ones go as they are.
-void Lanes::store(std::span<const Element> elements) {
-  std::map<std::pair<NodeId, NodeId>, Outputs> groups;
-  for (std::size_t k = 0; k < elements.size(); ++k) {
-    const Element& e = elements[k];
-    if (e.re.value.negative || e.im.value.negative) throw std::logic_error("an output would need a negation");
-    const auto [group, fresh] =
-        groups.try_emplace({e.re.value.node, e.im.value.node}, Outputs{-1, -1, -1, -1});
-    const bool whole = e.re.value.node == e.im.value.node;
-    group->second[static_cast<std::size_t>(whole ? e.re.lane / 2 : e.re.lane)] = static_cast<int>(k);
+// All outputs that share registers leave together: planar ones are interleaved, the others go as they are.
+void Lanes::store(const Elements& elements) {
+  std::map<std::pair<NodeId, NodeId>, PerLane> groups;
+  for (int k = 0; k < elements.size(); ++k) {
+    const auto& [re, im] = std::pair(elements[k].re, elements[k].im);
+    if (re.value.negative || im.value.negative) throw std::logic_error("an output would need a negation");
+    PerLane& outputs = groups.try_emplace({re.value.node, im.value.node}, width(), -1).first->second;
+    outputs[re.value.node == im.value.node ? re.lane / 2 : re.lane] = k;
   }
   for (const auto& [nodes, outputs] : groups) {
-    store_half(outputs, nodes.first, nodes.second, 0);
-    store_half(outputs, nodes.first, nodes.second, 1);
+    for (int first = 0; first < width(); first += std::max(1, width() / 2))
+      store_register(outputs, first, nodes.first, nodes.second);
   }
 }
 
-void Lanes::store_half(const Outputs& outputs, NodeId re, NodeId im, int half) {
-  const auto first = static_cast<std::size_t>(2 * half);
-  if (outputs[first] < 0 && outputs[first + 1] < 0) return;
+// The numbers of half a planar register, or of an interleaved one: what one store takes.
+void Lanes::store_register(const PerLane& outputs, int first, NodeId re, NodeId im) {
+  const auto scaled = [&](NodeId node) { return network_.factor({&network_, node, false}); };
   if (width() == 1) {
-    network_.store(network_.factor({&network_, re, false}), {2 * outputs[0], -1, -1, -1});
-    network_.store(network_.factor({&network_, im, false}), {2 * outputs[0] + 1, -1, -1, -1});
+    network_.store(scaled(re), 2 * outputs[0]);
+    network_.store(scaled(im), 2 * outputs[0] + 1);
     return;
   }
-  const int lane = 2 * half;
-  const NodeId interleaved = re == im ? re : shuffle(re, im, {lane, 4 + lane, lane + 1, 5 + lane});
-  network_.store(network_.factor({&network_, interleaved, false}),
-                 scalars(outputs[first], outputs[first + 1]));
+  PerLane picks(width()), scalars(width(), -1);
+  for (int l = 0; l < width(); ++l) {
+    const int instance = first + l / 2, output = outputs[instance];
+    picks[l] = l % 2 * width() + instance;
+    if (output >= 0) scalars[l] = 2 * output + l % 2;
+  }
+  if (std::all_of(scalars.begin(), scalars.end(), [](int s) { return s < 0; })) return;
+  network_.store(scaled(re == im ? re : permuter_.permuted(re, im, picks)), scalars);
 }
 
 }  // namespace xfm::gen

@@ -1,36 +1,21 @@
-// A real network before it is bound to memory: its loads are numbered samples, its outputs values with signs.
+// Binding: from a draft to a network that loads from memory and stores to it.
 #pragma once
 
 #include <memory>
-#include <vector>
 
-#include "gen/kernel.h"
-#include "gen/network/network.h"
+#include "gen/network/draft.h"
 
-namespace xfm::gen::real {
-
-struct Draft {
-  std::unique_ptr<Network> network = std::make_unique<Network>(1, Rounding::combination);
-  std::vector<Value> outputs;
-};
-
-/// The nodes that outputs depend on, and how often each is used.
-std::vector<int> uses(const Draft& draft);
+namespace xfm::gen {
 
 /// Where the inputs and outputs of a draft stand in memory, by their numbers.
 struct Binding {
-  std::vector<int> from, to;
-  std::vector<int> zeros{};    ///< elements of dst that are zero whatever the data
-  bool factor_inside = false;  ///< of the statement, where one makes an output and nothing else
+  PerLane from, to;
+  PerLane zeros{};             ///< elements of dst that are zero whatever the data
+  bool factor_inside = false;  ///< of the linear combination, where one makes an output and nothing else
 };
 
-/// Measured: plain operations run short of registers, while chains of statements keep each other waiting.
-inline Order order(Precision precision) {
-  return precision == Precision::binary64 ? Order::bisection : Order::earliest_start;
-}
+/// The network, with some values computed as their negatives (signs.h). Every output is multiplied by the
+/// factor as its last step; one whose sign is still wrong then is subtracted from zero.
+std::unique_ptr<Network> bind(const Draft& draft, const Binding& binding, const Sequence<bool>& negated);
 
-/// The kernel's network, with the values that are turned made as their negatives (signs.h). Every output is
-/// multiplied by the factor as its last step; one whose sign is still wrong then is subtracted from zero.
-std::unique_ptr<Network> bind(const Draft& draft, const Binding& binding, const std::vector<bool>& turned);
-
-}  // namespace xfm::gen::real
+}  // namespace xfm::gen

@@ -1,17 +1,16 @@
 #include "gen/passes/constant_folding.h"
 
-#include "gen/order/schedule.h"
+#include "gen/network/liveness.h"
 
 namespace xfm::gen {
 namespace {
 
-using Constants = std::vector<Constant>;
+using Constants = Sequence<Constant>;
 
 Constants times(const Constants& a, const Constants& b) {
   Constants product;
-  for (std::size_t l = 0; l < std::max(a.size(), b.size()); ++l) {
+  for (int l = 0; l < std::max(a.size(), b.size()); ++l)
     product.push_back(a[a.size() == 1 ? 0 : l] * b[b.size() == 1 ? 0 : l]);
-  }
   return product;
 }
 
@@ -20,46 +19,39 @@ class Folding {
   explicit Folding(const Network& old)
       : old_(old),
         made_(std::make_unique<Network>(old.width(), old.rounding())),
-        uses_(old.nodes().size(), 0),
-        products_(old.nodes().size(), 0),
-        values_(old.nodes().size()) {
-    for (const Step& step : schedule(old)) {
-      if (step.node < 0) continue;
-      const bool product = old.node(step.node).op == Op::mul;
-      for (const NodeId operand : operands(old.node(step.node))) {
-        ++uses_[index(operand)];
-        if (product) ++products_[index(operand)];
-      }
+        uses_(uses(old)),
+        products_(uses_.size()),
+        values_(uses_.size()) {
+    for (NodeId id = 0; id < uses_.size(); ++id) {
+      if (uses_[id] > 0 && is_product(id)) ++products_[old.node(id).in[0]];
     }
-    for (const Store& store : old.stores()) ++uses_[index(store.node)];
   }
 
   std::unique_ptr<Network> run() {
-    for (NodeId id = 0; id < static_cast<NodeId>(values_.size()); ++id) {
-      if (uses_[index(id)] > 0 && !vanishes(id)) value(id);
+    for (NodeId id = 0; id < uses_.size(); ++id) {
+      if (uses_[id] > 0 && !vanishes(id)) value(id);
     }
-    for (const Store& store : old_.stores()) made_->store(value(store.node), store.lanes);
+    for (const Store& store : old_.stores())
+      made_->repeat(store, store.node < 0 ? Value{} : value(store.node));
     return std::move(made_);
   }
 
  private:
-  static std::size_t index(NodeId id) { return static_cast<std::size_t>(id); }
-
   bool is_product(NodeId id) const { return old_.node(id).op == Op::mul; }
   bool is_sum(NodeId id) const { return old_.node(id).op == Op::add || old_.node(id).op == Op::sub; }
 
   // Only products use it.
-  bool vanishes(NodeId id) const { return is_product(id) && products_[index(id)] == uses_[index(id)]; }
+  bool vanishes(NodeId id) const { return is_product(id) && products_[id] == uses_[id]; }
 
   // A sum of products that nothing else uses.
   bool distributes(NodeId id) const {
-    if (uses_[index(id)] != 1) return false;
+    if (uses_[id] != 1) return false;
     if (is_product(id)) return true;
     return is_sum(id) && distributes(old_.node(id).in[0]) && distributes(old_.node(id).in[1]);
   }
 
   Value value(NodeId id) {
-    Value& known = values_[index(id)];
+    Value& known = values_[id];
     if (known.absent()) known = make(id);
     return known;
   }
@@ -85,17 +77,17 @@ class Folding {
 
   const Network& old_;
   std::unique_ptr<Network> made_;
-  std::vector<int> uses_, products_;
-  std::vector<Value> values_;
+  Sequence<int> uses_, products_;
+  Sequence<Value> values_;
 };
 
 }  // namespace
 
-std::unique_ptr<Network> fold(const Network& network) {
+std::unique_ptr<Network> fold_constants(const Network& network) {
   std::unique_ptr<Network> folded = Folding(network).run();
   while (true) {
     std::unique_ptr<Network> again = Folding(*folded).run();
-    if (schedule(*again).size() == schedule(*folded).size()) return again;
+    if (instructions(*again) == instructions(*folded)) return again;
     folded = std::move(again);
   }
 }

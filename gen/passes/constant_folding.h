@@ -1,4 +1,4 @@
-// Folding of constants: products of products become one, with a constant that is multiplied out before it is
+// Constant folding: products of products become one, with a constant that is multiplied out before it is
 // rounded.
 //
 // A product all of whose uses are products is dropped, and its constant goes into theirs. Its transpose: a
@@ -13,6 +13,6 @@
 namespace xfm::gen {
 
 /// The network with all constants folded.
-std::unique_ptr<Network> fold(const Network& network);
+std::unique_ptr<Network> fold_constants(const Network& network);
 
 }  // namespace xfm::gen

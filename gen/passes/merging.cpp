@@ -6,12 +6,9 @@
 #include <set>
 
 #include "gen/network/complex.h"
-#include "gen/order/schedule.h"
 
-namespace xfm::gen::real {
+namespace xfm::gen {
 namespace {
-
-std::size_t index(NodeId id) { return static_cast<std::size_t>(id); }
 
 bool is_product(const Term& term) { return !magnitude(term.coefficient).is_one(); }
 
@@ -20,10 +17,12 @@ bool is_lone(const Node& of) {
   return of.op == Op::twice || (of.op == Op::combination && of.terms.size() == 1 && is_product(of.terms[0]));
 }
 NodeId operand(const Node& lone) { return lone.op == Op::twice ? lone.in[0] : lone.terms[0].node; }
+Constant coefficient(const Node& lone) {
+  return lone.op == Op::twice ? constant("2", 2) : lone.terms[0].coefficient;
+}
 
 bool only_products(const Node& of) {
-  return is_lone(of) ||
-         (of.op == Op::combination && std::all_of(of.terms.begin(), of.terms.end(), is_product));
+  return is_lone(of) || (of.op == Op::combination && std::all_of(of.terms.begin(), of.terms.end(), is_product));
 }
 
 // A draft made anew, node by node.
@@ -33,10 +32,10 @@ class Rebuilding {
 
  protected:
   const Node& node(NodeId id) const { return old_.network->node(id); }
-  NodeId size() const { return static_cast<NodeId>(uses_.size()); }
-  bool live(NodeId id) const { return uses_[index(id)] > 0; }
-  Value value(NodeId id) const { return values_[index(id)]; }
-  void define(NodeId id, const Value& v) { values_[index(id)] = v; }
+  NodeId size() const { return uses_.size(); }
+  bool live(NodeId id) const { return uses_[id] > 0; }
+  Value value(NodeId id) const { return values_[id]; }
+  void define(NodeId id, const Value& v) { values_[id] = v; }
 
   Value copy(NodeId id) const {
     const Node& of = node(id);
@@ -44,9 +43,9 @@ class Rebuilding {
     return of.op == Op::combination ? combination(terms(id)) : made_.network->repeat(of, in(0), in(1));
   }
 
-  std::vector<Network::Product> terms(NodeId id) const {
-    if (node(id).op == Op::twice) return {{constant("2", 2), value(node(id).in[0])}};
-    std::vector<Network::Product> all;
+  Products terms(NodeId id) const {
+    if (is_lone(node(id))) return {{coefficient(node(id)), value(operand(node(id)))}};
+    Products all;
     for (const Term& term : node(id).terms) all.push_back({term.coefficient, value(term.node)});
     return all;
   }
@@ -60,14 +59,14 @@ class Rebuilding {
   }
 
   const Draft& old_;
-  std::vector<int> uses_;
+  Sequence<int> uses_;
 
  private:
   Draft made_;
-  std::vector<Value> values_;
+  Sequence<Value> values_;
 };
 
-std::vector<Network::Product> scaled(std::vector<Network::Product> terms, const Constant& by) {
+Products scaled(Products terms, const Constant& by) {
   for (Network::Product& term : terms) term.c = by * term.c;
   return terms;
 }
@@ -77,19 +76,19 @@ class Merging : Rebuilding {
   using Rebuilding::Rebuilding;
 
   Draft run() {
-    std::vector<bool> absorbed(uses_.size(), false);
+    Sequence<bool> absorbed(uses_.size());
     for (NodeId id = 0; id < size(); ++id) {
       if (!live(id) || !is_lone(node(id))) continue;
       const NodeId inner = operand(node(id));
-      absorbed[index(inner)] = only_products(node(inner)) && uses_[index(inner)] == 1;
+      absorbed[inner] = only_products(node(inner)) && uses_[inner] == 1;
     }
-    const std::function<std::vector<Network::Product>(NodeId)> all_terms = [&](NodeId id) {
-      if (!is_lone(node(id)) || !absorbed[index(operand(node(id)))]) return terms(id);
-      return scaled(all_terms(operand(node(id))), node(id).terms[0].coefficient);
+    const auto absorbs = [&](NodeId id) -> bool { return is_lone(node(id)) && absorbed[operand(node(id))]; };
+    const std::function<Products(NodeId)> all_terms = [&](NodeId id) {
+      return absorbs(id) ? scaled(all_terms(operand(node(id))), coefficient(node(id))) : terms(id);
     };
     for (NodeId id = 0; id < size(); ++id) {
-      if (!live(id) || absorbed[index(id)]) continue;
-      define(id, is_lone(node(id)) && node(id).op == Op::combination ? combination(all_terms(id)) : copy(id));
+      if (!live(id) || absorbed[id]) continue;
+      define(id, absorbs(id) ? combination(all_terms(id)) : copy(id));
     }
     return finished();
   }
@@ -121,7 +120,7 @@ class PairMerging : Rebuilding {
     for (NodeId id = 0; id < size(); ++id) {
       if (!live(id) || node(id).op != Op::combination || !is_lone(node(id))) continue;
       const NodeId both = operand(node(id));
-      if (uses_[index(both)] != 1 || (node(both).op != Op::add && node(both).op != Op::sub)) continue;
+      if (uses_[both] != 1 || (node(both).op != Op::add && node(both).op != Op::sub)) continue;
       const auto key = std::minmax(node(both).in[0], node(both).in[1]);
       const auto [other, fresh] = lone_sums.try_emplace({key.first, key.second}, id);
       if (!fresh) merge(key.first, key.second, id, other->second);
@@ -129,7 +128,7 @@ class PairMerging : Rebuilding {
   }
 
   void merge(NodeId u, NodeId v, NodeId a, NodeId b) {
-    const auto fits = [&](NodeId id) { return only_products(node(id)) && uses_[index(id)] == 2; };
+    const auto fits = [&](NodeId id) { return only_products(node(id)) && uses_[id] == 2; };
     const Constant &k = node(a).terms[0].coefficient, &l = node(b).terms[0].coefficient;
     if (!fits(u) || !fits(v) || k != l || u == v) return;
     scales_.insert({u, k});
@@ -142,20 +141,21 @@ class PairMerging : Rebuilding {
   std::set<NodeId> vanishing_;
 };
 
-// Statements of products alone stay in binary64, and the additions that use them become statements.
-class Keeping : Rebuilding {
+// Linear combinations of products alone stay in binary64, and the additions that use them become linear
+// combinations.
+class Unrounding : Rebuilding {
  public:
   using Rebuilding::Rebuilding;
 
   Draft run() {
-    const std::vector<bool> kept = unrounded_combinations();
+    const Sequence<bool> unrounded = unrounded_combinations();
     for (NodeId id = 0; id < size(); ++id) {
       if (!live(id)) continue;
       const Node& of = node(id);
       const bool adds = of.op == Op::add || of.op == Op::sub;
-      if (kept[index(id)]) {
+      if (unrounded[id]) {
         define(id, combination(terms(id), Finish::unrounded));
-      } else if (adds && (kept[index(of.in[0])] || kept[index(of.in[1])])) {
+      } else if (adds && (unrounded[of.in[0]] || unrounded[of.in[1]])) {
         const Constant one = constant("1", 1);
         define(id, combination({{one, value(of.in[0])}, {of.op == Op::sub ? -one : one, value(of.in[1])}}));
       } else {
@@ -166,16 +166,16 @@ class Keeping : Rebuilding {
   }
 
  private:
-  std::vector<bool> unrounded_combinations() const {
-    std::vector<bool> kept(uses_.size(), false);
+  Sequence<bool> unrounded_combinations() const {
+    Sequence<bool> unrounded(uses_.size());
     for (NodeId id = 0; id < size(); ++id)
-      kept[index(id)] = live(id) && node(id).op == Op::combination && only_products(node(id));
+      unrounded[id] = live(id) && node(id).op == Op::combination && only_products(node(id));
     for (NodeId id = 0; id < size(); ++id) {
       if (!live(id) || node(id).op == Op::add || node(id).op == Op::sub) continue;
-      for (const NodeId in : operands(node(id))) kept[index(in)] = false;
+      for (const NodeId in : operands(node(id))) unrounded[in] = false;
     }
-    for (const Value& output : old_.outputs) kept[index(output.node)] = false;
-    return kept;
+    for (const Value& output : old_.outputs) unrounded[output.node] = false;
+    return unrounded;
   }
 };
 
@@ -183,8 +183,8 @@ class Keeping : Rebuilding {
 
 Draft merged(const Draft& draft) { return Merging(draft).run(); }
 
-Draft unrounded(const Draft& draft) { return Keeping(draft).run(); }
+Draft unrounded(const Draft& draft) { return Unrounding(draft).run(); }
 
 Draft merged_pairs(const Draft& draft) { return PairMerging(draft).run(); }
 
-}  // namespace xfm::gen::real
+}  // namespace xfm::gen

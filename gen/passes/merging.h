@@ -1,12 +1,12 @@
-// What becomes of statements of products alone in a draft.
+// What becomes of linear combinations of products alone in a draft.
 #pragma once
 
-#include "gen/passes/binding.h"
+#include "gen/network/draft.h"
 
-namespace xfm::gen::real {
+namespace xfm::gen {
 
-/// One that is used once and by a single product takes that product's constant into its own. Both constants
-/// are multiplied out before they are rounded. Saves a multiplication and a rounding.
+/// One that is used once, by a single product, takes that product's constant into its own. Both constants are
+/// multiplied out before they are rounded. Saves a multiplication and a rounding.
 Draft merged(const Draft& draft);
 
 /// Merges only what two products share: where u + v and u - v are multiplied by the same constant and used in
@@ -17,4 +17,4 @@ Draft merged_pairs(const Draft& draft);
 /// equal counts.
 Draft unrounded(const Draft& draft);
 
-}  // namespace xfm::gen::real
+}  // namespace xfm::gen

@@ -1,6 +1,6 @@
-// Signs of lanes that constants can carry: where nothing but a flip uses a product, or a sum of such
-// products, directly or behind shuffles, the products are made with constants of these signs and the flip
-// falls away. Changes no bit, for a sign is exact.
+// Sign flips that constants can carry: where nothing but a flip uses a product, or a sum of such products,
+// directly or behind permutations, the products get constants of these signs and the flip falls away. No
+// value changes, for a sign is exact; a sum that cancels to zero may change that zero's sign.
 #pragma once
 
 #include <memory>
@@ -9,7 +9,7 @@
 
 namespace xfm::gen {
 
-/// The network with all such flips gone.
-std::unique_ptr<Network> absorb_flips(const Network& network);
+/// The network without these sign flips.
+std::unique_ptr<Network> absorb_sign_flips(const Network& network);
 
 }  // namespace xfm::gen

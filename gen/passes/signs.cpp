@@ -3,57 +3,54 @@
 #include <algorithm>
 #include <cstdint>
 
-#include "gen/order/schedule.h"
-
-namespace xfm::gen::real {
+namespace xfm::gen {
 namespace {
 
 class Search {
  public:
   explicit Search(const Draft& draft)
-      : draft_(draft), uses_(uses(draft)), turned_(uses_.size(), false), users_(uses_.size()) {
-    for (NodeId id = 0; id < static_cast<NodeId>(uses_.size()); ++id) {
-      if (uses_[index(id)] == 0) continue;
-      for (const NodeId operand : operands(node(id))) users_[index(operand)].push_back(id);
+      : draft_(draft), uses_(uses(draft)), negated_(uses_.size()), users_(uses_.size()) {
+    for (NodeId id = 0; id < uses_.size(); ++id) {
+      if (uses_[id] == 0) continue;
+      for (const NodeId operand : operands(node(id))) users_[operand].push_back(id);
     }
   }
 
-  std::vector<bool> run() {
+  Sequence<bool> run() {
     constexpr int steps_per_output = 200;
-    std::vector<bool> best = turned_;
-    std::size_t fewest = draft_.outputs.size() + 1;
-    const int steps = steps_per_output * static_cast<int>(draft_.outputs.size());
+    Sequence<bool> best = negated_;
+    int fewest = draft_.outputs.size() + 1;
+    const int steps = steps_per_output * draft_.outputs.size();
     for (int step = 0; step < steps && fewest > 0; ++step) {
-      const std::vector<NodeId> broken = broken_operations();
-      const std::vector<NodeId> minus = minus_outputs();
+      const Sequence<NodeId> broken = broken_operations();
+      const Sequence<NodeId> minus = minus_outputs();
       if (broken.empty() && minus.size() < fewest) {
         fewest = minus.size();
-        best = turned_;
+        best = negated_;
       }
       if (!broken.empty()) {
         repair(broken[random(broken.size())]);
       } else if (!minus.empty()) {
-        flip(minus[random(minus.size())]);
+        negate(minus[random(minus.size())]);
       }
     }
     return best;
   }
 
  private:
-  static std::size_t index(NodeId id) { return static_cast<std::size_t>(id); }
   const Node& node(NodeId id) const { return draft_.network->node(id); }
 
   // A linear congruential generator: the same walk in every build.
-  std::size_t random(std::size_t below) {
+  int random(int below) {
     state_ = state_ * 6364136223846793005U + 1442695040888963407U;
-    return static_cast<std::size_t>(state_ >> 33U) % below;
+    return static_cast<int>((state_ >> 33U) % static_cast<std::uint64_t>(below));
   }
 
   // No operand enters with a plus.
   bool is_broken(NodeId id) const {
     const Node& of = node(id);
     const auto plus = [&](NodeId operand, bool minus) {
-      return (turned_[index(operand)] != minus) == turned_[index(id)];
+      return (negated_[operand] != minus) == negated_[id];
     };
     if (of.op == Op::load) return false;
     if (of.op == Op::combination) {
@@ -63,61 +60,61 @@ class Search {
     return !plus(of.in[0], false) && (of.in[1] < 0 || !plus(of.in[1], of.op == Op::sub));
   }
 
-  std::vector<NodeId> broken_operations() const {
-    std::vector<NodeId> broken;
-    for (NodeId id = 0; id < static_cast<NodeId>(uses_.size()); ++id) {
-      if (uses_[index(id)] > 0 && is_broken(id)) broken.push_back(id);
+  Sequence<NodeId> broken_operations() const {
+    Sequence<NodeId> broken;
+    for (NodeId id = 0; id < uses_.size(); ++id) {
+      if (uses_[id] > 0 && is_broken(id)) broken.push_back(id);
     }
     return broken;
   }
 
-  std::vector<NodeId> minus_outputs() const {
-    std::vector<NodeId> minus;
+  Sequence<NodeId> minus_outputs() const {
+    Sequence<NodeId> minus;
     for (const Value& output : draft_.outputs) {
-      if (output.negative != turned_[index(output.node)]) minus.push_back(output.node);
+      if (output.negative != negated_[output.node]) minus.push_back(output.node);
     }
     return minus;
   }
 
-  void flip(NodeId id) { turned_[index(id)] = !turned_[index(id)]; }
+  void negate(NodeId id) { negated_[id] = !negated_[id]; }
 
   int broken_around(NodeId id) const {
     const auto is = [&](NodeId user) { return is_broken(user); };
     return (is_broken(id) ? 1 : 0) +
-           static_cast<int>(std::count_if(users_[index(id)].begin(), users_[index(id)].end(), is));
+           static_cast<int>(std::count_if(users_[id].begin(), users_[id].end(), is));
   }
 
-  // Turns the operation or one of its operands: the one that breaks least, and now and then any.
+  // Negates the operation or one of its operands: the one that breaks least, and now and then any.
   void repair(NodeId id) {
-    std::vector<NodeId> candidates{id};
+    Sequence<NodeId> candidates{id};
     for (const NodeId operand : operands(node(id))) {
       if (node(operand).op != Op::load) candidates.push_back(operand);
     }
-    constexpr std::size_t one_in = 5;
+    constexpr int one_in = 5;
     if (random(one_in) == 0) {
-      flip(candidates[random(candidates.size())]);
+      negate(candidates[random(candidates.size())]);
       return;
     }
     const auto damage = [&](NodeId candidate) {
       const int before = broken_around(candidate);
-      flip(candidate);
+      negate(candidate);
       const int after = broken_around(candidate);
-      flip(candidate);
+      negate(candidate);
       return after - before;
     };
-    flip(*std::min_element(candidates.begin(), candidates.end(),
+    negate(*std::min_element(candidates.begin(), candidates.end(),
                            [&](NodeId a, NodeId b) { return damage(a) < damage(b); }));
   }
 
   const Draft& draft_;
-  std::vector<int> uses_;
-  std::vector<bool> turned_;
-  std::vector<std::vector<NodeId>> users_;
+  Sequence<int> uses_;
+  Sequence<bool> negated_;
+  Sequence<Sequence<NodeId>> users_;
   std::uint64_t state_ = 1;
 };
 
 }  // namespace
 
-std::vector<bool> negated_values(const Draft& draft) { return Search(draft).run(); }
+Sequence<bool> negated_values(const Draft& draft) { return Search(draft).run(); }
 
-}  // namespace xfm::gen::real
+}  // namespace xfm::gen

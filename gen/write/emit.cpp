@@ -7,7 +7,7 @@
 #include <set>
 #include <stdexcept>
 
-#include "gen/network/check.h"
+#include "gen/network/count.h"
 #include "gen/order/schedule.h"
 
 namespace xfm::gen {
@@ -37,7 +37,7 @@ class Body {
     std::string lines;
     for (const Step& step : schedule(network_, kernel_.order)) {
       lines += step.node >= 0 ? compute(step.node)
-                              : store(network_.stores()[static_cast<std::size_t>(step.store)]);
+                              : store(network_.stores()[step.store]);
     }
     return constants() + lines;
   }
@@ -94,10 +94,8 @@ class Body {
     switch (node.op) {
       case Op::load:
         return load(node);
-      case Op::shuffle:
-        return shuffle(node);
-      case Op::exchange:
-        return fmt::format("exchange({})", var(node.in[0]));
+      case Op::permute:
+        return permute(node);
       case Op::sign_flip:
         return flip(node);
       case Op::add:
@@ -132,7 +130,7 @@ class Body {
 
   std::string flip(const Node& node) const {
     if (network_.width() == 2) return fmt::format("flip({})", var(node.in[0]));
-    const auto [a, b, c, d] = node.lanes;
+    const int a = node.lanes[0], b = node.lanes[1], c = node.lanes[2], d = node.lanes[3];
     return fmt::format("flip<{}, {}, {}, {}>({})", a, b, c, d, var(node.in[0]));
   }
 
@@ -171,10 +169,11 @@ class Body {
     return network_.width() == 4 && scalar % 4 != 0 ? "Unaligned" : "Memory";
   }
 
-  static std::string shuffle(const Node& node) {
+  std::string permute(const Node& node) const {
+    if (network_.width() == 2) return fmt::format("exchange({})", var(node.in[0]));
     const std::string u = var(node.in[0]), v = var(node.in[1]);
-    const auto [a, b, c, d] = node.lanes;
-    const auto is = [&](std::array<int, 4> picks) { return node.lanes == picks; };
+    const int a = node.lanes[0], b = node.lanes[1], c = node.lanes[2], d = node.lanes[3];
+    const auto is = [&](const PerLane& picks) { return node.lanes == picks; };
     if (is({0, 1, 4, 5})) return fmt::format("low_halves({}, {})", u, v);
     if (is({2, 3, 6, 7})) return fmt::format("high_halves({}, {})", u, v);
     if (is({0, 4, 1, 5})) return fmt::format("unpack_low({}, {})", u, v);
@@ -228,7 +227,7 @@ std::string heading(const Kernel& kernel) {
   return fmt::format(
       "// {}: {}, {} additions and {} multiplications (row: {} and {}).\n"
       "// To see this text or try another tree: xfmgen --show {} {} {} [--tree TREE]\n",
-      kernel.name, kernel.tree, counts.adds, counts.mults, kernel.adds, kernel.mults, kernel.family,
+      kernel.name(), kernel.tree, counts.adds, counts.mults, kernel.adds, kernel.mults, kernel.family,
       kernel.length, kernel.type.suffix());
 }
 
@@ -259,12 +258,12 @@ std::string emit_kernel(const Kernel& kernel, SharedConstants& shared) {
   const std::string inner = " {\n" + entry_text(kernel) + body.text() + "  return xfmStsOk;\n}\n\n";
   const std::string head =
       heading(kernel) + "namespace {\n" + factors(kernel) + "}\n" + body.declarations() + "\n";
-  if (!kernel.packed()) return head + signature(kernel, kernel.name) + inner;
-  const std::string suffix = kernel.type.suffix(), twin = kernel.name + "_unaligned";
+  if (!kernel.packed()) return head + signature(kernel, kernel.name()) + inner;
+  const std::string suffix = kernel.type.suffix(), twin = kernel.name() + "_unaligned";
   return head + "template <class Memory>\nXFM_BODY " + signature(kernel, "body_" + suffix) + inner +
          "extern \"C\" XFM_UNALIGNED_VARIANT " + signature(kernel, twin) +
          fmt::format(" {{\n  return body_{}<Unaligned>(src, dst, flag);\n}}\n\n", suffix) +
-         signature(kernel, kernel.name) +
+         signature(kernel, kernel.name()) +
          fmt::format(" {{\n  if (!aligned(src, dst)) return {}(src, dst, flag);\n", twin) +
          fmt::format("  return body_{}<Aligned>(src, dst, flag);\n}}\n\n", suffix);
 }
@@ -286,22 +285,21 @@ std::string SharedConstants::use(const Constant& c, const Kernel& kernel) {
                   static_cast<double>(c.value));
   const auto [known, fresh] = definitions_.try_emplace(name, definition);
   if (!fresh && known->second != definition)
-    throw std::logic_error(kernel.name + ": two constants of the name " + name);
+    throw std::logic_error(kernel.name() + ": two constants of the name " + name);
   return name;
 }
 
-std::string SharedConstants::definitions(const std::string& vocabulary) const {
+std::string SharedConstants::definitions(const Target& target) const {
   std::string text =
-      fmt::format("{}#include \"{}\"\n\nusing namespace xfm;\n\n", written_by_xfmgen, vocabulary);
+      fmt::format("{}#include \"{}\"\n\nusing namespace xfm;\n\n", written_by_xfmgen, target.vocabulary);
   for (const auto& [name, definition] : definitions_) text += definition;
   return text;
 }
 
-std::string emit_file(std::span<const Kernel> kernels, const std::string& vocabulary,
-                      SharedConstants& shared) {
+std::string emit_file(std::span<const Kernel> kernels, const Target& target, SharedConstants& shared) {
   std::string text = fmt::format("{}#include \"src/frame/contract.h\"\n", written_by_xfmgen);
   if (std::any_of(kernels.begin(), kernels.end(), [](const Kernel& k) { return k.packed(); })) {
-    text += fmt::format("#include \"{}\"\n", vocabulary);
+    text += fmt::format("#include \"{}\"\n", target.vocabulary);
   }
   text += "\nusing namespace xfm;\n\n";
   for (const Kernel& kernel : kernels) text += emit_kernel(kernel, shared);

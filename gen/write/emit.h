@@ -6,6 +6,7 @@
 #include <string>
 
 #include "gen/kernel.h"
+#include "gen/targets/target.h"
 
 namespace xfm::gen {
 
@@ -18,15 +19,14 @@ class SharedConstants {
   std::string use(const Constant& c, const Kernel& kernel);
 
   /// The translation unit that defines all that were used.
-  std::string definitions(const std::string& vocabulary) const;
+  std::string definitions(const Target& target) const;
 
  private:
   std::map<std::string, std::string> definitions_;
 };
 
-/// One translation unit with these kernels. `vocabulary` is the header of what packed kernels are written in.
-std::string emit_file(std::span<const Kernel> kernels, const std::string& vocabulary,
-                      SharedConstants& shared);
+/// One translation unit with these kernels.
+std::string emit_file(std::span<const Kernel> kernels, const Target& target, SharedConstants& shared);
 
 /// A C++ literal with every bit of the value, in the given precision.
 std::string literal(Wide value, Precision precision);

@@ -1,6 +1,7 @@
 #include "src/dft/recipe/choices.h"
 
 #include <algorithm>
+#include <limits>
 
 #include "gen/math/number.h"
 #include "src/dft/recipe/table.h"
@@ -8,7 +9,43 @@
 namespace xfm::dft {
 namespace {
 
+using gen::Five;
+using gen::Order;
 using gen::Precision;
+using gen::Rounding;
+
+constexpr auto binary32 = Precision::binary32, binary64 = Precision::binary64;
+
+// Numbers that stand for a block. Every other one is a prime whose inner transform is the row of one less.
+constexpr int blocks[] = {2, 3, 4, 5, 7, 11};
+
+// Binary32 kernels too short for lanes.
+struct Scalar {
+  int length;
+  Rounding rounding;
+};
+constexpr Scalar scalars[] = {
+    {2, Rounding::each}, {3, Rounding::combination}, {4, Rounding::each}, {5, Rounding::combination}};
+
+// Length-5 blocks in another form than that of most kernels; the first row that fits holds.
+constexpr int all = std::numeric_limits<int>::max();
+struct ChosenFive {
+  int length;
+  Precision precision;
+  Five form;
+  bool of_complex_too = true;     ///< complex sequences, not only real ones
+  bool of_transposed_too = true;  ///< also those that run from outputs to inputs
+  int instances = all;            ///< the first so many of a stage
+};
+constexpr ChosenFive fives[] = {
+    {5, binary32, Five::outer_first},          {62, binary32, Five::six_products, true, false},
+    {10, binary64, Five::six_products},        {35, binary64, Five::five_products, true, true, 2},
+    {35, binary64, Five::six_products},        {41, binary64, Five::six_products, false},
+    {50, binary64, Five::six_products, false}, {60, binary64, Five::six_products, false},
+};
+constexpr Five most_fives(Precision precision) {
+  return precision == binary32 ? Five::inner_first : Five::outer_first;
+}
 
 // Roots whose rounding errors stay lowest in binary32, found by trying all; elsewhere the smallest root
 // serves.
@@ -16,7 +53,7 @@ struct ChosenRoot {
   int length, prime;
   gen::Root root;
 };
-constexpr ChosenRoot roots_single[] = {
+constexpr ChosenRoot roots_binary32[] = {
     {19, 19, {13, 0}}, {23, 23, {7, 0}}, {34, 17, {3, 3}},   {37, 37, {13, 1}},
     {38, 19, {10, 0}}, {41, 41, {7, 3}}, {43, 43, {3, 19}},  {51, 17, {3, 3}},
     {53, 53, {8, 11}}, {57, 19, {3, 0}}, {61, 61, {18, 10}},
@@ -27,64 +64,65 @@ constexpr ChosenRoot roots_single[] = {
 struct ChosenOrder {
   int length;
   Precision precision;
-  gen::Order order;
+  Order order;
 };
 constexpr ChosenOrder orders[] = {
-    {5, Precision::binary32, gen::Order::bisection},
-    {24, Precision::binary32, gen::Order::bisection},
-    {58, Precision::binary32, gen::Order::bisection},
-    {59, Precision::binary32, gen::Order::bisection},
-    {16, Precision::binary64, gen::Order::earliest_start},
-    {17, Precision::binary64, gen::Order::earliest_start},
-    {43, Precision::binary64, gen::Order::bisection},
-    {46, Precision::binary64, gen::Order::bisection},
-    {47, Precision::binary64, gen::Order::bisection},
-    {53, Precision::binary64, gen::Order::bisection},
-    {54, Precision::binary64, gen::Order::bisection},
-    {59, Precision::binary64, gen::Order::bisection},
-    {61, Precision::binary64, gen::Order::bisection},
-    {62, Precision::binary64, gen::Order::bisection},
+    {5, binary32, Order::bisection},       {24, binary32, Order::bisection},
+    {58, binary32, Order::bisection},      {59, binary32, Order::bisection},
+    {16, binary64, Order::earliest_start}, {17, binary64, Order::earliest_start},
+    {43, binary64, Order::bisection},      {46, binary64, Order::bisection},
+    {47, binary64, Order::bisection},      {53, binary64, Order::bisection},
+    {54, binary64, Order::bisection},      {59, binary64, Order::bisection},
+    {61, binary64, Order::bisection},      {62, binary64, Order::bisection},
 };
+
+// The first row of a table that fits.
+template <class Row, std::size_t size, class Fits>
+const Row* find(const Row (&table)[size], Fits fits) {
+  const Row* const found = std::find_if(std::begin(table), std::end(table), fits);
+  return found == std::end(table) ? nullptr : found;
+}
 
 }  // namespace
 
-const char* Choices::tree(int length) const {
-  const Row& of = row(length);
-  return precision_ == Precision::binary32 ? of.binary32.tree : of.binary64.tree;
-}
-
-Five Choices::five(int index, bool real, bool transposed) const {
-  if (precision_ == Precision::binary32) {
-    if (length_ == 5) return Five::outer_first;
-    return length_ == 62 && !transposed ? Five::six_products : Five::inner_first;
-  }
-  switch (length_) {
-    case 10:
-      return Five::six_products;
-    case 35:
-      return index < 2 ? Five::five_products : Five::six_products;
-    case 41:
-    case 50:
-    case 60:
-      return real ? Five::six_products : Five::outer_first;
-    default:
-      return Five::outer_first;
-  }
-}
-
-gen::Order Choices::order() const {
-  const auto chosen = std::find_if(std::begin(orders), std::end(orders), [&](const ChosenOrder& of) {
-    return of.length == length_ && of.precision == precision_;
+gen::Tree Choices::spelled_out(const gen::Tree& tree) const {
+  return gen::spelled_out(tree, [&](int number) -> std::optional<gen::Tree> {
+    if (find(blocks, [&](int block) { return block == number; }) != nullptr) return std::nullopt;
+    const Row& inner = row(number - 1);
+    const Breakdown& breakdown = precision_ == binary32 ? inner.binary32 : inner.binary64;
+    return gen::Tree{"RS", 0, {gen::parse_tree(breakdown.tree)}};
   });
-  return chosen == std::end(orders) ? gen::Order::windowed : chosen->order;
 }
 
-gen::Root Choices::root(int prime) const {
-  const auto chosen =
-      std::find_if(std::begin(roots_single), std::end(roots_single),
-                   [&](const ChosenRoot& r) { return r.length == length_ && r.prime == prime; });
-  if (precision_ == Precision::binary32 && chosen != std::end(roots_single)) return chosen->root;
-  return {gen::smallest_primitive_root(prime), 0};
+std::optional<Rounding> Choices::scalar() const {
+  const Scalar* const found = find(scalars, [&](const Scalar& row) { return row.length == length_; });
+  return found == nullptr ? std::nullopt : std::optional(found->rounding);
+}
+
+gen::Choices Choices::open() const {
+  const int length = length_;
+  const Precision precision = precision_;
+  const auto root = [=](int prime) -> gen::Root {
+    const ChosenRoot* const found = find(roots_binary32, [&](const ChosenRoot& row) {
+      return precision == binary32 && row.length == length && row.prime == prime;
+    });
+    return found == nullptr ? gen::Root{gen::smallest_primitive_root(prime), 0} : found->root;
+  };
+  const auto five = [=](bool real, int instance, bool transposed) {
+    const ChosenFive* const found = find(fives, [&](const ChosenFive& row) {
+      return row.length == length && row.precision == precision && (real || row.of_complex_too) &&
+             (!transposed || row.of_transposed_too) && instance < row.instances;
+    });
+    return found == nullptr ? most_fives(precision) : found->form;
+  };
+  return {root, five};
+}
+
+Order Choices::order() const {
+  const ChosenOrder* const found = find(orders, [&](const ChosenOrder& row) {
+    return row.length == length_ && row.precision == precision_;
+  });
+  return found == nullptr ? Order::windowed : found->order;
 }
 
 }  // namespace xfm::dft

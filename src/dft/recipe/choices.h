@@ -1,10 +1,9 @@
-// Choices inside a kernel that its breakdown leaves open: forms of the length-5 block, primitive roots,
-// orders of operations. Data only.
+// Choices inside a kernel that its breakdown leaves open: blocks, scalar kernels, forms of the length-5 block,
+// primitive roots, orders of operations.
 #pragma once
 
-#include "gen/kernel.h"
-#include "gen/math/rader_spectrum.h"
-#include "src/dft/recipe/blocks.h"
+#include "gen/algorithms/transform.h"
+#include "gen/order/schedule.h"
 
 namespace xfm::dft {
 
@@ -13,16 +12,13 @@ class Choices {
  public:
   Choices(int length, gen::Precision precision) : length_(length), precision_(precision) {}
 
-  gen::Precision precision() const { return precision_; }
+  /// The tree with its numbers spelled out down to the blocks.
+  gen::Tree spelled_out(const gen::Tree& tree) const;
 
-  /// The breakdown of a composite length in this precision, for the inner transforms of Rader's algorithm.
-  const char* tree(int length) const;
+  /// How sums of products round in a binary32 kernel that is scalar code; nothing in a packed one.
+  std::optional<gen::Rounding> scalar() const;
 
-  /// The form of the kernel's next length-5 block, counted from 0 in the order of the recipe, on real or
-  /// complex sequences; `transposed` blocks run from outputs to inputs.
-  Five five(int index, bool real, bool transposed) const;
-
-  gen::Root root(int prime) const;
+  gen::Choices open() const;
 
   gen::Order order() const;
 

@@ -4,9 +4,9 @@
 #include <cstdint>
 #include <set>
 #include <stdexcept>
+#include <string>
 
 #include "gen/math/number.h"
-#include "gen/order/schedule.h"
 
 namespace xfm::hartley {
 namespace {
@@ -20,26 +20,26 @@ Set one(int j) { return Set{1} << static_cast<unsigned>(j); }
 
 class Structure {
  public:
-  Structure(const gen::real::Draft& draft, const Row& row)
-      : draft_(draft), row_(row), uses_(uses(draft)), supports_(uses_.size(), 0) {
-    for (NodeId id = 0; id < static_cast<NodeId>(uses_.size()); ++id) {
-      if (uses_[index(id)] == 0) continue;
+  Structure(const gen::Draft& draft, const Row& row)
+      : draft_(draft), row_(row), uses_(uses(draft)), supports_(uses_.size()) {
+    for (NodeId id = 0; id < uses_.size(); ++id) {
+      if (uses_[id] == 0) continue;
       const Node& of = node(id);
-      if (of.op == Op::load) supports_[index(id)] = one(of.lanes[0]);
-      for (const NodeId operand : operands(of)) supports_[index(id)] |= supports_[index(operand)];
-      values_.insert(supports_[index(id)]);
+      if (of.op == Op::load) supports_[id] = one(of.lanes[0]);
+      for (const NodeId operand : operands(of)) supports_[id] |= supports_[operand];
+      values_.insert(supports_[id]);
     }
   }
 
   // Nothing but x[j] + x[N-j] and x[j] - x[N-j] uses x[j].
   bool folds() const {
-    for (NodeId id = 0; id < static_cast<NodeId>(uses_.size()); ++id) {
-      if (uses_[index(id)] == 0) continue;
+    for (NodeId id = 0; id < uses_.size(); ++id) {
+      if (uses_[id] == 0) continue;
       for (const NodeId operand : operands(node(id))) {
         if (node(operand).op != Op::load) continue;
         const int j = node(operand).lanes[0];
         if (j == 0 || 2 * j == row_.length) continue;
-        if (supports_[index(id)] != (one(j) | one(row_.length - j))) return false;
+        if (supports_[id] != (one(j) | one(row_.length - j))) return false;
       }
     }
     return true;
@@ -68,7 +68,6 @@ class Structure {
   }
 
  private:
-  static std::size_t index(NodeId id) { return static_cast<std::size_t>(id); }
   const Node& node(NodeId id) const { return draft_.network->node(id); }
 
   template <class Holds>
@@ -92,8 +91,8 @@ class Structure {
 
   // The sum and the difference of the same two values.
   bool paired(int k, int l) const {
-    const Node &a = node(draft_.outputs[static_cast<std::size_t>(k)].node),
-               &b = node(draft_.outputs[static_cast<std::size_t>(l)].node);
+    const Node &a = node(draft_.outputs[k].node),
+               &b = node(draft_.outputs[l].node);
     const auto two = [](const Node& of) { return of.op == Op::add || of.op == Op::sub; };
     return two(a) && two(b) && a.op != b.op && std::set{a.in[0], a.in[1]} == std::set{b.in[0], b.in[1]};
   }
@@ -101,20 +100,20 @@ class Structure {
   // Groups of r outputs, all but one of each in pairs.
   bool ends_with_radix() const {
     const int n = row_.length, r = row_.radix;
-    std::vector<std::vector<int>> groups;
+    gen::Sequence<gen::Sequence<int>> groups;
     if (n % r == 0) {
       for (int k = 0; k < n / r; ++k) {
-        std::vector<int>& group = groups.emplace_back();
+        gen::Sequence<int>& group = groups.emplace_back();
         for (int t = 0; t < r; ++t) group.push_back(k + t * (n / r));
       }
     } else {
       const int g = gen::smallest_primitive_root(n);
       for (int k = 0; k < (n - 1) / r; ++k) {
-        std::vector<int>& group = groups.emplace_back();
+        gen::Sequence<int>& group = groups.emplace_back();
         for (int t = 0; t < r; ++t) group.push_back(gen::power_modulo(g, k + t * (n - 1) / r, n));
       }
     }
-    return std::all_of(groups.begin(), groups.end(), [&](const std::vector<int>& group) {
+    return std::all_of(groups.begin(), groups.end(), [&](const gen::Sequence<int>& group) {
       const auto in_pair = [&](int k) {
         return std::any_of(group.begin(), group.end(), [&](int l) { return l != k && paired(k, l); });
       };
@@ -122,24 +121,24 @@ class Structure {
     });
   }
 
-  const gen::real::Draft& draft_;
+  const gen::Draft& draft_;
   const Row& row_;
-  std::vector<int> uses_;
-  std::vector<Set> supports_;
+  gen::Sequence<int> uses_;
+  gen::Sequence<Set> supports_;
   std::set<Set> values_;
 };
 
 }  // namespace
 
-void check_structure(const gen::real::Draft& draft, const Row& row, const std::string& name) {
+void check_structure(const gen::Draft& draft, const Row& row) {
   const Structure structure(draft, row);
-  if (row.input == Input::fold && !structure.folds())
-    throw std::runtime_error(name + ": inputs are used outside the fold");
-  for (const int m : row.groups) {
-    if (m > 0 && !structure.closes(m))
-      throw std::runtime_error(name + ": no closed groups of " + std::to_string(m) + " inputs");
-  }
-  if (!structure.ends_with(row.output)) throw std::runtime_error(name + ": another output stage");
+  const auto check = [&](bool holds, const std::string& rule) {
+    if (!holds) throw std::runtime_error("Hartley, N=" + std::to_string(row.length) + ": " + rule);
+  };
+  check(row.input != Input::fold || structure.folds(), "inputs are used outside the fold");
+  for (const int m : row.groups)
+    check(m == 0 || structure.closes(m), "no closed groups of " + std::to_string(m) + " inputs");
+  check(structure.ends_with(row.output), "another output stage");
 }
 
 }  // namespace xfm::hartley

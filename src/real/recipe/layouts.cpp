@@ -25,7 +25,7 @@ int element(Layout layout, int length, int k, int part) {
   return 2 * k - 1 + part;
 }
 
-std::vector<int> zeros(Layout layout, int length) {
+gen::PerLane zeros(Layout layout, int length) {
   if (layout != Layout::ccs) return {};
   if (length % 2 == 0) return {1, length + 1};
   return {1};

@@ -1,7 +1,7 @@
 // The three packed layouts of a real sequence's spectrum, as address maps.
 #pragma once
 
-#include <vector>
+#include "gen/network/network.h"
 
 namespace xfm::real {
 
@@ -18,6 +18,6 @@ int size_of(Layout layout, int length);
 int element(Layout layout, int length, int k, int part);
 
 /// The stored zeros.
-std::vector<int> zeros(Layout layout, int length);
+gen::PerLane zeros(Layout layout, int length);
 
 }  // namespace xfm::real

@@ -9,11 +9,6 @@ namespace {
 using gen::parse_tree;
 using gen::Tree;
 
-bool is_block(Direction direction, int length) {
-  return length == 2 || length == 3 || length == 5 || length == 7 ||
-         (length == 11 && direction == Direction::forward);
-}
-
 const char* row_tree(Direction direction, int length) {
   return direction == Direction::forward ? row(length).forward.tree : row(length).inverse.tree;
 }
@@ -26,14 +21,14 @@ Tree rader(Direction direction, const Tree& tree) {
   const bool forward = direction == Direction::forward;
   const std::string whole = forward ? stage.there : stage.closing;
   const Tree there = plan(direction, parse_tree(whole.empty() ? row_tree(direction, l) : whole));
-  const Tree back = plan(forward ? Direction::inverse : Direction::forward, l / 2);
+  const Tree back = plan(opposite(direction), l / 2);
   Tree skew = l / 2 % 2 == 0 ? plan(Direction::inverse, l / 2) : back;
   if (forward && stage.skew[0] != '\0') skew = parse_tree(stage.skew);
   return {"R", 0, {tree.args[0], there, back, skew}};
 }
 
 // A run of stages in pairs. The transpose of a network does its stages backwards.
-Tree nested(Direction direction, const std::string& rule, std::vector<Tree> stages) {
+Tree nested(Direction direction, const std::string& rule, gen::Sequence<Tree> stages) {
   if (direction == Direction::inverse) std::reverse(stages.begin(), stages.end());
   const bool to_the_right = direction == Direction::inverse || rule == "x";
   while (stages.size() > 2) {
@@ -47,10 +42,11 @@ Tree nested(Direction direction, const std::string& rule, std::vector<Tree> stag
 }  // namespace
 
 Tree plan(Direction direction, const Tree& tree) {
-  if (tree.is_number()) return is_block(direction, tree.number) ? tree : plan(direction, tree.number);
+  const bool forward = direction == Direction::forward;
+  if (tree.is_number()) return is_block(tree.number, forward) ? tree : plan(direction, tree.number);
   if (tree.rule == "D") return tree;
-  if (tree.rule == "R") return tree.args.size() == 2 ? rader(direction, tree) : tree;
-  std::vector<Tree> stages;
+  if (tree.rule == "R") return gen::rader_arguments(tree).back == nullptr ? rader(direction, tree) : tree;
+  gen::Sequence<Tree> stages;
   for (const Tree& arg : tree.args) stages.push_back(plan(direction, arg));
   return nested(direction, tree.rule, std::move(stages));
 }

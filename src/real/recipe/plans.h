@@ -2,11 +2,12 @@
 #pragma once
 
 #include "gen/algorithms/tree.h"
+#include "gen/math/constant.h"
 #include "src/real/recipe/table.h"
 
 namespace xfm::real {
 
-enum class Direction { forward, inverse };
+using gen::Direction;
 
 /// The plan of a row's tree, or of any other tree of that length. The plan of an inverse tree is the one
 /// whose network, transposed, does the tree's stages in their order.

@@ -1,90 +1,99 @@
 #include "src/real/recipe/real.h"
 
-#include <stdexcept>
+#include <numeric>
 
-#include "gen/algorithms/real_transform.h"
-#include "gen/algorithms/transposition.h"
-#include "gen/network/check.h"
+#include "gen/algorithms/transform.h"
+#include "gen/passes/binding.h"
 #include "gen/passes/merging.h"
 #include "gen/passes/signs.h"
 
 namespace xfm::real {
 namespace {
 
-using gen::Kernel;
+using gen::Draft;
+using gen::PerLane;
+using gen::Points;
 using gen::Precision;
+using gen::Sequence;
 using gen::Tree;
 using gen::Wide;
-using gen::real::Draft;
+
+const gen::Transform transform(gen::Rounding::combination);
 
 // Bins are numbered as in CCS: 2k for the real half of bin k, 2k+1 for the imaginary one, where there is one.
 struct Half {
   int k, part;
+  int number() const { return 2 * k + part; }
 };
-std::vector<Half> halves(int length) {
-  std::vector<Half> all{{0, 0}};
-  for (int k = 1; 2 * k < length; ++k) {
-    all.push_back({k, 0});
-    all.push_back({k, 1});
-  }
+Sequence<Half> halves(int length) {
+  Sequence<Half> all{{0, 0}};
+  for (int k = 1; 2 * k < length; ++k) all.insert(all.end(), {{k, 0}, {k, 1}});
   if (length % 2 == 0) all.push_back({length / 2, 0});
   return all;
 }
+// Bins with a conjugate count twice in a sum over all of them.
+bool counts_twice(const Half& of, int length) { return of.k > 0 && 2 * of.k < length; }
 
-gen::Value half(const gen::Points& bins, Half of) {
-  const gen::Complex& bin = bins[static_cast<std::size_t>(of.k)];
-  return of.part == 0 ? bin.p : bin.q;
-}
+gen::Value half(const Points& bins, const Half& of) { return of.part == 0 ? bins[of.k].p : bins[of.k].q; }
 
 Draft forward(const Tree& plan, int length) {
   Draft draft;
-  const gen::Points bins = gen::real::transform(plan, gen::real::samples(*draft.network, length));
+  const Points bins = transform.run(plan, gen::samples(*draft.network, length));
   for (const Half& of : halves(length)) draft.outputs.push_back(half(bins, of));
   return draft;
 }
 
-// The sum over all N bins: those with a conjugate count twice.
 Draft inverse(const Tree& plan, int length) {
   gen::Network there(1, gen::Rounding::combination);
-  const gen::Points bins = gen::real::transform(plan, gen::real::samples(there, length));
+  const Points bins = transform.run(plan, gen::samples(there, length));
   Draft draft;
   gen::Transposition transposition(there);
   for (const Half& of : halves(length)) {
-    const gen::Value bin = draft.network->load(2 * of.k + of.part);
-    const bool twice = of.k > 0 && 2 * of.k < length;
-    transposition.send(half(bins, of), {twice ? draft.network->twice(bin) : bin, {}});
+    const gen::Value bin = draft.network->load(of.number());
+    transposition.send(half(bins, of), {counts_twice(of, length) ? draft.network->twice(bin) : bin, {}});
   }
   for (const gen::Complex& sample : transposition.run(length)) draft.outputs.push_back(sample.p);
   return draft;
 }
 
-gen::real::Binding binding(Direction direction, Layout layout, int length) {
-  std::vector<int> natural, packed;
-  for (int n = 0; n < length; ++n) natural.push_back(n);
+PerLane natural(int length) {
+  PerLane order(length);
+  std::iota(order.begin(), order.end(), 0);
+  return order;
+}
+
+gen::Binding binding(Direction direction, Layout layout, int length) {
+  PerLane packed;
   if (direction == Direction::forward) {
     for (const Half& of : halves(length)) packed.push_back(element(layout, length, of.k, of.part));
-    return {natural, packed, zeros(layout, length), true};
+    return {natural(length), packed, zeros(layout, length), true};
   }
-  packed.resize(static_cast<std::size_t>(length + 2));
-  for (const Half& of : halves(length))
-    packed[static_cast<std::size_t>(2 * of.k + of.part)] = element(layout, length, of.k, of.part);
-  return {packed, natural};
+  packed = PerLane(length + 2);
+  for (const Half& of : halves(length)) packed[of.number()] = element(layout, length, of.k, of.part);
+  return {packed, natural(length)};
+}
+
+// All layouts number their spectra as CCS does.
+gen::Numbering numbering(Direction direction, Layout layout, int length) {
+  PerLane numbers = natural(size_of(layout, length));
+  for (const Half& of : halves(length)) numbers[element(layout, length, of.k, of.part)] = of.number();
+  return direction == Direction::forward ? gen::Numbering{{}, numbers} : gen::Numbering{numbers, {}};
 }
 
 // X[k] = sum over j of x[j] exp(-2 pi i j k/N), and x[j] as the sum over all bins of the Hermitian spectrum.
 gen::Definition definition(Direction direction, Layout layout, int length) {
-  return [=](const std::vector<Wide>& src, std::vector<Wide>& dst) {
-    dst.assign(dst.size(), 0);
+  return [=](const Sequence<Wide>& src, Sequence<Wide>& dst) {
+    dst = Sequence<Wide>(dst.size());
     for (int j = 0; j < length; ++j) {
       for (const Half& of : halves(length)) {
-        const gen::Turn angle = gen::turn(static_cast<long long>(j) * of.k, length);
-        const Wide w = of.part == 0 ? gen::cosine(angle).value : -gen::sine(angle).value;
-        const auto bin = static_cast<std::size_t>(element(layout, length, of.k, of.part));
-        const auto sample = static_cast<std::size_t>(j);
+        const gen::ComplexConstant root =
+            gen::root_of_unity(gen::turn(static_cast<long long>(j) * of.k, length));
+        const Wide w = of.part == 0 ? root.re.value : root.im.value;
+        const int bin = element(layout, length, of.k, of.part);
         if (direction == Direction::forward) {
-          dst[bin] += w * src[sample];
+          dst[bin] += w * src[j];
         } else {
-          dst[sample] += (of.k > 0 && 2 * of.k < length ? 2 : 1) * w * src[bin];
+          dst[j] += (counts_twice(of, length) ? 2 : 1) * w * src[bin];
         }
       }
     }
@@ -102,49 +111,33 @@ Tree plan_of(const Tree& tree, Direction direction, Layout layout, int length) {
 
 }  // namespace
 
-std::vector<int> lengths() {
-  std::vector<int> all;
-  for (const Row& row : table()) all.push_back(row.length);
-  return all;
-}
-
-std::string family_name(Direction direction, Layout layout) {
-  const std::string name = name_of(layout);
-  return direction == Direction::forward ? "DFTFwd_RTo" + name : "DFTInv_" + name + "ToR";
-}
-
-Kernel make_kernel(int length, Precision precision, Direction direction, Layout layout,
+gen::Design design(int length, Precision precision, Direction direction, Layout layout,
                    const std::string& tree) {
   const bool forwards = direction == Direction::forward;
   const Breakdown& breakdown = forwards ? row(length).forward : row(length).inverse;
-  const int size = size_of(layout, length);
-  Kernel kernel{.name = "",
-                .family = family_name(direction, layout),
-                .type = {precision, false},
-                .scaling = forwards ? gen::Scaling::forward : gen::Scaling::inverse,
-                .length = length,
-                .read = forwards ? length : size,
-                .written = forwards ? size : length,
-                .tree = tree.empty() ? breakdown.tree : tree,
-                .adds = breakdown.adds,
-                .mults = breakdown.mults - length,
-                .network = nullptr,
-                .order = gen::real::order(precision)};
-  kernel.name = "xfm" + kernel.family + "_" + std::to_string(length) + "_" + kernel.type.suffix();
+  const std::string text = tree.empty() ? breakdown.tree : tree;
   const char* const chosen = tree.empty() ? plan_of_least_error(forwards, length) : nullptr;
   const Tree whole =
-      plan_of(gen::parse_tree(chosen == nullptr ? kernel.tree : chosen), direction, layout, length);
-  if (gen::real::length_of(whole) != length)
-    throw std::invalid_argument("tree " + kernel.tree + " is not one of length " + std::to_string(length));
-  const Draft draft = gen::real::merged(forwards ? forward(whole, length) : inverse(whole, length));
-  kernel.network =
-      gen::real::bind(draft, binding(direction, layout, length), gen::real::negated_values(draft));
-  gen::check_memory(*kernel.network, kernel.read, kernel.written, kernel.name,
-                    forwards ? std::vector<int>{} : zeros(layout, length));
-  gen::check_definition(*kernel.network, definition(direction, layout, length), kernel.read, kernel.written,
-                        kernel.name);
-  if (tree.empty()) gen::check_counts(gen::count(*kernel.network), kernel.adds, kernel.mults, kernel.name);
-  return kernel;
+      plan_of(gen::parse_tree(chosen == nullptr ? text : chosen), direction, layout, length);
+  gen::check_length(whole, length);
+  const Draft draft = gen::merged(forwards ? forward(whole, length) : inverse(whole, length));
+  const int size = size_of(layout, length);
+  const std::string name = name_of(layout);
+  return {.kernel = {.family = forwards ? "DFTFwd_RTo" + name : "DFTInv_" + name + "ToR",
+                     .type = {precision, false},
+                     .scaling = forwards ? gen::Scaling::forward : gen::Scaling::inverse,
+                     .length = length,
+                     .read = forwards ? length : size,
+                     .written = forwards ? size : length,
+                     .tree = text,
+                     .adds = breakdown.adds,
+                     .mults = breakdown.mults,
+                     .network = gen::bind(draft, binding(direction, layout, length), gen::negated_values(draft)),
+                     .order = gen::scalar_order(precision),
+                     .numbering = numbering(direction, layout, length)},
+          .definition = definition(direction, layout, length),
+          .by_row = tree.empty(),
+          .unread = forwards ? PerLane{} : zeros(layout, length)};
 }
 
 }  // namespace xfm::real

@@ -9,7 +9,7 @@ namespace xfm::real {
 
 struct Breakdown {
   const char* tree;
-  int adds, mults;  ///< real operations, the N multiplications by the factor among them
+  int adds, mults;  ///< real operations without the factor: a kernel costs that much or less
 };
 
 /// Forward trees read from the samples to the bins, inverse ones from the bins to the samples. A number is a
@@ -23,6 +23,9 @@ std::span<const Row> table();
 
 /// The row of a length; throws std::out_of_range if there is none.
 const Row& row(int length);
+
+/// Whether numbers of this length stand for a block.
+bool is_block(int length, bool forward);
 
 /// The stages of length L = N-1 of a Rader transform, where they are not the rows of L, and the skew stage of
 /// a forward one, where it is not that of the half length.

@@ -9,7 +9,6 @@ namespace {
 
 int log2(int power) { return std::countr_zero(static_cast<unsigned>(power)); }
 
-/// "64 x 8 x 16": block, middle radix, last radix.
 std::string text(const Passes& p) {
   std::string result = std::to_string(p.block);
   for (const int radix : {p.middle, p.last}) {
@@ -18,44 +17,30 @@ std::string text(const Passes& p) {
   return result;
 }
 
-/// Additions and subtractions in the straight-line bodies of all passes.
+// Additions and subtractions in the straight-line bodies of all passes.
 int additions(const Passes& p, int lanes) {
   return p.block / lanes * log2(p.block) + p.middle * log2(p.middle) + p.last * log2(p.last);
 }
 
-}  // namespace
-
-std::vector<int> orders() {
-  std::vector<int> all;
-  for (int order = lowest_order; order <= highest_order; ++order) all.push_back(order);
-  return all;
-}
-
-gen::Row row(int order, gen::Precision precision) {
-  const bool single = precision == gen::Precision::binary32;
-  const Passes p = single ? passes<float>(order) : passes<double>(order);
-  const gen::ElementType type{precision, false};
-  const int n = p.length(), width = single ? lanes<float>(p.block) : lanes<double>(p.block);
-  const bool twin = width > 1 && (single || order > 3);  // one kernel holds both of its bodies itself
-  return {.name = "xfmWHT_" + std::to_string(order) + "_" + type.suffix(),
-          .family = "WHT",
-          .type = type,
-          .scaling = gen::Scaling::symmetric,
-          .length = order,
-          .points = n,
-          .read = n,
-          .written = n,
-          .exchanges = -1,
-          .packed = twin,
-          .packed_math = width > 1,
-          .straight = p.is_block(),
+template <class T>
+Facts facts(int order) {
+  const Passes& p = passes<T>(order);
+  const int n = p.length(), width = lanes<T>(p.block);
+  return {.points = n,
           .tree = text(p),
           .adds = n * order,
-          .mults = 0,
           .add_instructions = additions(p, width),
           .mult_instructions = p.is_block() ? n / width : p.last,
-          .takes_buffer = true,
-          .buffer_bytes = static_cast<int>(single ? p.buffer_bytes<float>() : p.buffer_bytes<double>())};
+          .vector_code = width > 1,
+          .two_variants = width > 1 && !(sizeof(T) == 8 && order == 3),  // one kernel holds both itself
+          .straight = p.is_block(),
+          .buffer_bytes = static_cast<int>(p.template buffer_bytes<T>())};
+}
+
+}  // namespace
+
+Facts facts(int order, gen::Precision precision) {
+  return precision == gen::Precision::binary32 ? facts<float>(order) : facts<double>(order);
 }
 
 }  // namespace xfm::wht

@@ -1,14 +1,24 @@
-// The kernels of the family as rows of the catalogue: all of it follows from the table of passes.
+// What the catalogue has to know of a kernel that is written by hand: all of it follows from the table of
+// passes.
 #pragma once
 
-#include <vector>
+#include <string>
 
-#include "gen/kernel.h"
+#include "gen/math/precision.h"
 
 namespace xfm::wht {
 
-std::vector<int> orders();
+struct Facts {
+  int points;         ///< N
+  std::string tree;   ///< "64 x 8 x 16": block, middle radix, last radix
+  int adds;           ///< real operations
+  int add_instructions, mult_instructions;
+  bool vector_code;   ///< packed arithmetic
+  bool two_variants;  ///< an aligned and an unaligned one, as functions of their own
+  bool straight;      ///< no loop and no call
+  int buffer_bytes;
+};
 
-gen::Row row(int order, gen::Precision precision);
+Facts facts(int order, gen::Precision precision);
 
 }  // namespace xfm::wht

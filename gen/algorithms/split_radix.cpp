@@ -2,26 +2,19 @@
 // of half the length of the sums a_j = x_j + x_(j+N/2); the differences d_j feed two transforms of a quarter
 // of the length,
 //   X[4k+1] = DFT((d_j - i d_(j+N/4)) W_N^j),  X[4k+3] = DFT((d_j + i d_(j+N/4)) W_N^(3j)).
-#include "src/dft/recipe/lane_real.h"
+#include "gen/algorithms/transform.h"
 
-namespace xfm::dft {
-
-using gen::root_of_unity;
-using gen::times_i;
-using gen::turn;
-
+namespace xfm::gen {
 namespace {
 
-Points split_radix(const Points& x, bool open) {
+Points split(const Points& x, bool open) {
   if (x.size() == 1) return x;
   if (x.size() == 2) return open ? x : dft2(x);
   if (x.size() == 4 && !open) return dft4(x);
-  const std::size_t n = x.size(), half = n / 2, quarter = n / 4;
+  const int n = x.size(), half = n / 2, quarter = n / 4;
   Points sums(half), first, third;
-  for (std::size_t j = 0; j < quarter; ++j) {
-    const auto w = [&](std::size_t power) {
-      return root_of_unity(turn(static_cast<long long>(power * j), static_cast<long long>(n)));
-    };
+  for (int j = 0; j < quarter; ++j) {
+    const auto w = [&](int power) { return root_of_unity(turn(power * j, n)); };
     sums[j] = x[j] + x[j + half];
     sums[j + quarter] = x[j + quarter] + x[j + quarter + half];
     const Complex difference = x[j] - x[j + half];
@@ -30,10 +23,9 @@ Points split_radix(const Points& x, bool open) {
     third.push_back(w(3) * (difference + turned));
   }
   Points out(n);
-  const Points even = split_radix(sums, open), odd1 = split_radix(first, false),
-               odd3 = split_radix(third, false);
-  for (std::size_t k = 0; k < half; ++k) out[2 * k] = even[k];
-  for (std::size_t k = 0; k < quarter; ++k) {
+  const Points even = split(sums, open), odd1 = split(first, false), odd3 = split(third, false);
+  for (int k = 0; k < half; ++k) out[2 * k] = even[k];
+  for (int k = 0; k < quarter; ++k) {
     out[4 * k + 1] = odd1[k];
     out[4 * k + 3] = odd3[k];
   }
@@ -42,8 +34,10 @@ Points split_radix(const Points& x, bool open) {
 
 }  // namespace
 
-Points split_radix(const Points& x) { return split_radix(x, false); }
+Points Transform::split_radix(const Tree& /*tree*/, const Points& x, int /*instance*/) const {
+  return split(x, false);
+}
 
-Points open_split_radix(const Points& x) { return split_radix(x, true); }
+Points open_split_radix(const Points& x) { return split(x, true); }
 
-}  // namespace xfm::dft
+}  // namespace xfm::gen

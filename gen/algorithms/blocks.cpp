@@ -1,0 +1,83 @@
+#include "gen/algorithms/blocks.h"
+
+#include <ranges>
+
+namespace xfm::gen {
+
+Points dft2(const Points& x) { return {x[0] + x[1], x[0] - x[1]}; }
+
+Points dft4(const Points& x) {
+  const Complex a = x[0] + x[2], b = x[0] - x[2];
+  const Complex c = x[1] + x[3], d = x[1] - x[3];
+  return {a + c, b - times_i(d), a - c, b + times_i(d)};
+}
+
+namespace {
+
+// The cosines by their sum and their difference. (u1, u2) is (b1, b2) rotated and stretched; a rotation takes
+// three products where an addition more is cheaper.
+Points dft5_by_halves(const Points& x, bool three_products) {
+  const Constant s1 = sine(turn(1, 5)), s2 = sine(turn(2, 5));
+  const Constant quarter = constant("0.25", Wide(1) / 4), root = constant("sqrt(5)/4", wide_sqrt(5) / 4);
+  const Complex a1 = x[1] + x[4], a2 = x[2] + x[3];
+  const Complex b1 = x[1] - x[4], b2 = x[2] - x[3];
+  const Complex s = a1 + a2;
+  const Complex t = x[0] - Complex(quarter * s), w = root * (a1 - a2);
+  const Complex t1 = t + w, t2 = t - w;
+  Complex u1 = sum({s1 * b1, s2 * b2}), u2 = sum({s1 * b2, -(s2 * b1)});
+  if (three_products) {
+    const Complex m = s2 * (b1 + b2);
+    u1 = Complex(constant("sin 1/5 minus sin 2/5", s1.value - s2.value) * b1) + m;
+    u2 = Complex(constant("sin 1/5 plus sin 2/5", s1.value + s2.value) * b2) - m;
+  }
+  return {x[0] + s, t1 - times_i(u1), t2 + times_i(u2), t2 - times_i(u2), t1 + times_i(u1)};
+}
+
+}  // namespace
+
+Points dft5(const Points& x, Five form) {
+  if (form == Five::six_products || form == Five::five_products)
+    return dft5_by_halves(x, form == Five::five_products);
+  return direct(x, form == Five::outer_first ? Centre::outer : Centre::inner);
+}
+
+Points direct(const Points& x, Centre centre) {
+  const int h = (x.size() - 1) / 2;
+  Sequence<int> order;
+  for (int k = 1; k <= h; ++k) order.push_back(centre == Centre::last ? k : h + 1 - k);
+  order.push_back(0);
+  return direct(x, centre, order);
+}
+
+Points direct(const Points& x, Centre centre, const Sequence<int>& order) {
+  const int n = x.size(), h = (n - 1) / 2;
+  const bool last = centre == Centre::last;
+  Points a(h + 1), b(h + 1), out(n);
+  for (int j = 1; j <= h; ++j) {
+    a[j] = x[j] + x[n - j];
+    b[j] = x[j] - x[n - j];
+  }
+  Complex total;
+  if (centre == Centre::outer) total = x[0];
+  for (int j = 1; j <= h; ++j) total = centre == Centre::inner ? a[h + 1 - j] + total : total + a[j];
+  for (const int k : order | std::views::reverse) {
+    if (k == 0) {
+      out[0] = centre == Centre::outer ? total : x[0] + total;
+      continue;
+    }
+    Sequence<ScaledComplex> t, u;
+    for (int j = 1; j <= h; ++j) {
+      const Turn angle = turn(static_cast<long long>(j) * k, n);
+      t.push_back(cosine(angle) * a[j]);
+      u.push_back((last ? -sine(angle) : sine(angle)) * b[j]);
+    }
+    t.insert(last ? t.end() : t.begin(), ScaledComplex(x[0]));
+    const Complex cosines = last ? combination(t) : sum(t),
+                  sines = last ? -times_i(combination(u)) : times_i(sum(u));
+    out[k] = cosines - sines;
+    out[n - k] = cosines + sines;
+  }
+  return out;
+}
+
+}  // namespace xfm::gen

@@ -1,0 +1,90 @@
+#include "gen/algorithms/lines.h"
+
+#include <map>
+
+#include "gen/algorithms/rules.h"
+#include "gen/math/number.h"
+
+namespace xfm::gen {
+
+Lines LineTransform::run(const Tree& tree, const Lines& x, Direction direction) {
+  if (const auto rule = rule_of(tree).on_lines; rule != nullptr) return (this->*rule)(tree, x, direction);
+  return each(
+      x, [&](const Points& z) { return blocks_.run(tree, z); }, direction);
+}
+
+// The block on all instances, as many at a time as there are lanes. Instances whose inputs are zero at the
+// same places go together, so that a block computes nothing with zeros. The blocks are forward; an inverse
+// one is the exchange of real and imaginary parts around it, or the conjugate of its points in the interleaved
+// form.
+Lines LineTransform::each(const Lines& x, const Block& block, Direction direction) {
+  Lines out(x.size());
+  for (const Sequence<int>& group : groups(x)) {
+    const bool exchange = direction == Direction::inverse && form_ == Form::planar;
+    Points inputs;
+    for (int j = 0; j < x[group[0]].size(); ++j) {
+      Elements elements;
+      for (const int i : group) elements.push_back(x[i][j]);
+      const Complex z = elements[0].absent() ? Complex{} : lanes_.gather(elements, form_);
+      inputs.push_back(exchange ? exchanged(z) : z);
+    }
+    for (const Complex& z : block(inputs)) {
+      const Complex directed = exchange ? exchanged(z) : direction == Direction::inverse ? conjugate(z) : z;
+      const Elements elements = lanes_.scatter(directed, group.size(), form_);
+      for (int l = 0; l < group.size(); ++l) out[group[l]].push_back(elements[l]);
+    }
+  }
+  return out;
+}
+
+// Instances of the same pattern of zeros, in groups that fill the lanes.
+Sequence<Sequence<int>> LineTransform::groups(const Lines& x) const {
+  Sequence<Sequence<int>> groups;
+  std::map<Sequence<bool>, int> open;
+  for (int i = 0; i < x.size(); ++i) {
+    Sequence<bool> pattern;
+    for (const Element& e : x[i]) pattern.push_back(e.absent());
+    const auto found = open.find(pattern);
+    if (found != open.end() && groups[found->second].size() < lanes_.instances(form_)) {
+      groups[found->second].push_back(i);
+    } else {
+      open[pattern] = groups.size();
+      groups.push_back({i});
+    }
+  }
+  return groups;
+}
+
+// Columns and rows as in two_stages.cpp.
+Lines LineTransform::two_stages(const Tree& tree, const Lines& x, Direction direction) {
+  const Tree first = first_of(tree), rest = rest_of(tree);
+  const TwoStages map{length_of(first), length_of(rest), tree.rule == "PFA"};
+  const int n = map.a * map.b;
+  Lines columns;
+  for (int c = 0; c < map.b; ++c) {
+    for (const Line& line : x) {
+      Line& column = columns.emplace_back();
+      for (int m = 0; m < map.a; ++m) column.push_back(line[map.input(m, c)]);
+    }
+  }
+  columns = run(first, columns, direction);
+  Lines rows;
+  for (int k1 = 0; k1 < map.a; ++k1) {
+    for (int i = 0; i < x.size(); ++i) {
+      Line& row = rows.emplace_back();
+      for (int c = 0; c < map.b; ++c)
+        row.push_back(
+            weighted(columns[c * x.size() + i][k1], root_of_unity(turn(map.twiddle(c, k1), n), direction)));
+    }
+  }
+  rows = run(rest, rows, direction);
+  Lines out(x.size(), Line(n));
+  for (int k1 = 0; k1 < map.a; ++k1) {
+    for (int i = 0; i < x.size(); ++i) {
+      for (int k2 = 0; k2 < map.b; ++k2) out[i][map.output(k1, k2)] = rows[k1 * x.size() + i][k2];
+    }
+  }
+  return out;
+}
+
+}  // namespace xfm::gen

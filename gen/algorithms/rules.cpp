@@ -1,0 +1,215 @@
+#include "gen/algorithms/rules.h"
+
+#include <algorithm>
+#include <bit>
+#include <stdexcept>
+
+#include "gen/math/number.h"
+
+namespace xfm::gen {
+namespace {
+
+bool all_numbers(const Tree& tree) {
+  return std::all_of(tree.args.begin(), tree.args.end(), [](const Tree& arg) { return arg.is_number(); });
+}
+bool one_number(const Tree& tree) { return tree.args.size() == 1 && all_numbers(tree); }
+int first_number(const Tree& tree) { return tree.args[0].number; }
+
+int product(const Tree& tree) {
+  int product = 1;
+  for (const Tree& arg : tree.args) product *= length_of(arg);
+  return product;
+}
+
+bool stages(const Tree& tree) { return tree.args.size() >= 2; }
+bool coprime_stages(const Tree& tree) {
+  for (int a = 0; a < tree.args.size(); ++a) {
+    for (int b = 0; b < a; ++b) {
+      if (gcd(length_of(tree.args[a]), length_of(tree.args[b])) != 1) return false;
+    }
+  }
+  return stages(tree);
+}
+bool two_twos(const Tree& tree) { return all_numbers(tree) && tree.args.size() == 2 && product(tree) == 4; }
+bool power_of_two(const Tree& tree) {
+  return one_number(tree) && first_number(tree) >= 4 && std::has_single_bit(static_cast<unsigned>(first_number(tree)));
+}
+bool odd_block(const Tree& tree) {
+  return !tree.args.empty() && all_numbers(tree) && first_number(tree) % 2 == 1 &&
+         (tree.args.size() == 1 || tree.args.size() == first_number(tree) / 2 + 2);
+}
+bool halves(const Tree& tree) {
+  return tree.args.size() == 2 && length_of(tree.args[0]) == length_of(tree.args[1]);
+}
+int twice_half(const Tree& tree) { return 2 * length_of(tree.args[0]); }
+bool one_tree(const Tree& tree) { return tree.args.size() == 1; }
+int one_more(const Tree& tree) { return length_of(tree.args.back()) + 1; }
+int rader_length(const Tree& tree) { return length_of(*rader_arguments(tree).there) + 1; }
+bool rader_shape(const Tree& tree) {
+  return tree.args.size() >= 1 && tree.args.size() <= 4 && is_prime(rader_length(tree)) &&
+         (tree.args.size() == 1 || tree.args[0].is_number());
+}
+// The longest odd length whose chirp a convolution of that many points serves.
+int chirp_length(const Tree& tree) { return (length_of(tree.args[0]) + 1) / 2; }
+
+const Rule table[] = {
+    {.name = "",
+     .children = "a number",
+     .applicable = [](const Tree& tree) { return tree.args.empty() && tree.number > 0; },
+     .length = [](const Tree& tree) { return tree.number; },
+     .on_points = &Transform::block,
+     .formula = "the block of that length",
+     .source = "Winograd 1978"},
+    {.name = "D",
+     .children = "(n[, order of the bins])",
+     .applicable = odd_block,
+     .length = first_number,
+     .on_points = &Transform::block,
+     .formula = "X[k], X[n-k] = sum of cos (x[j] + x[n-j]) -+ i sum of sin (x[j] - x[n-j])",
+     .source = "Singleton 1969"},
+    {.name = ",",
+     .children = "2,2",
+     .applicable = two_twos,
+     .length = product,
+     .on_points = &Transform::block,
+     .formula = "two stages of two",
+     .source = "Cooley and Tukey 1965"},
+    {.name = "PFA",
+     .children = "(a,b,..) coprime",
+     .applicable = coprime_stages,
+     .length = product,
+     .on_points = &Transform::two_stages,
+     .on_lines = &LineTransform::two_stages,
+     .formula = "columns of length a, rows of length b, no twiddles",
+     .source = "Good 1958, Thomas 1963"},
+    {.name = "PFA*",
+     .children = "(a,b) coprime",
+     .applicable = coprime_stages,
+     .length = product,
+     .on_points = &Transform::two_stages,
+     .formula = "the same, with the last stage of two of a split radix a behind the rows",
+     .source = "Good 1958, Thomas 1963"},
+    {.name = "x",
+     .children = "a x b coprime",
+     .applicable = coprime_stages,
+     .length = product,
+     .on_points = &Transform::two_stages,
+     .by_halves = true,
+     .on_skew = &Transform::skew_good_thomas,
+     .formula = "columns of length a, rows of length b, no twiddles",
+     .source = "Good 1958, Thomas 1963"},
+    {.name = "CT",
+     .children = "(a,b,..)",
+     .applicable = stages,
+     .length = product,
+     .on_points = &Transform::two_stages,
+     .by_halves = true,
+     .on_lines = &LineTransform::two_stages,
+     .formula = "columns of length a, twiddles, rows of length b",
+     .source = "Cooley and Tukey 1965"},
+    {.name = "*",
+     .children = "a * b",
+     .applicable = stages,
+     .length = product,
+     .on_points = &Transform::two_stages,
+     .by_halves = true,
+     .on_skew = &Transform::skew_cooley_tukey,
+     .formula = "columns of length a, twiddles, rows of length b; the middle row of an even a is skew",
+     .source = "Cooley and Tukey 1965; Sorensen, Jones, Heideman and Burrus 1987"},
+    {.name = "SR",
+     .children = "(2^k)",
+     .applicable = power_of_two,
+     .length = first_number,
+     .on_points = &Transform::split_radix,
+     .formula = "even outputs by half the length, odd ones by two quarters",
+     .source = "Yavne 1968; Duhamel and Hollmann 1984"},
+    {.name = "F",
+     .children = "(even bins, odd bins)",
+     .applicable = halves,
+     .length = twice_half,
+     .on_points = &Transform::fork,
+     .by_halves = true,
+     .formula = "sums to the even bins, differences to the odd ones by a skew transform",
+     .source = "Gentleman and Sande 1966"},
+    {.name = "R",
+     .children = "([root,] there[, back[, skew]])",
+     .applicable = rader_shape,
+     .length = rader_length,
+     .on_points = &Transform::rader_by_halves,
+     .by_halves = true,
+     .on_lines = &LineTransform::rader,
+     .formula = "a prime length as a cyclic convolution of one less",
+     .source = "Rader 1968"},
+    {.name = "RS",
+     .children = "(tree)",
+     .applicable = one_tree,
+     .length = one_more,
+     .on_points = &Transform::rader_transposed,
+     .by_halves = true,
+     .formula = "the same on real sequences, the way back being the way there transposed",
+     .source = "Rader 1968"},
+    {.name = "B",
+     .children = "(there, back)",
+     .applicable = halves,
+     .length = chirp_length,
+     .shorter = true,
+     .on_lines = &LineTransform::bluestein,
+     .formula = "an odd length as a convolution with a chirp, by two transforms of a longer one",
+     .source = "Bluestein 1970"},
+};
+
+}  // namespace
+
+std::span<const Rule> rules() { return table; }
+
+const Rule& rule_of(const Tree& tree) {
+  const auto found = std::find_if(std::begin(table), std::end(table),
+                                  [&](const Rule& rule) { return rule.name == tree.rule; });
+  if (found == std::end(table)) throw std::invalid_argument("no rule " + tree.rule);
+  if (!found->applicable(tree)) {
+    throw std::invalid_argument(to_string(tree) + " is not " + std::string(found->name) +
+                                std::string(found->children));
+  }
+  return *found;
+}
+
+int length_of(const Tree& tree) { return rule_of(tree).length(tree); }
+
+void check_length(const Tree& tree, int length) {
+  const int own = length_of(tree);
+  if (own != length && !(rule_of(tree).shorter && length < own && length % 2 == 1))
+    throw std::invalid_argument("tree " + to_string(tree) + " is not one of length " + std::to_string(length));
+}
+
+Tree first_of(const Tree& tree) { return tree.args.front(); }
+
+Tree rest_of(const Tree& tree) {
+  if (tree.args.size() == 2) return tree.args.back();
+  return {tree.rule, 0, {tree.args.begin() + 1, tree.args.end()}};
+}
+
+RaderArguments rader_arguments(const Tree& tree) {
+  const auto& args = tree.args;
+  if (args.size() == 1) return {{}, &args[0], nullptr, nullptr};
+  const bool back = args.size() > 2;
+  return {args[0].number, &args[1], back ? &args[2] : nullptr, back ? &args.back() : nullptr};
+}
+
+Tree spelled_out(const Tree& tree, const std::function<std::optional<Tree>(int)>& expand) {
+  if (tree.is_number()) {
+    const std::optional<Tree> plan = expand(tree.number);
+    return plan ? spelled_out(*plan, expand) : tree;
+  }
+  const bool block = tree.rule == "D" || tree.rule == "SR" || tree.rule == ",";
+  Tree plan = tree;
+  for (int a = tree.rule == "R" && tree.args.size() > 1 ? 1 : 0; a < plan.args.size() && !block; ++a)
+    plan.args[a] = spelled_out(plan.args[a], expand);
+  return plan;
+}
+
+bool uses_rule(const Tree& tree, std::string_view rule) {
+  return tree.rule == rule || std::any_of(tree.args.begin(), tree.args.end(),
+                                          [&](const Tree& arg) { return uses_rule(arg, rule); });
+}
+
+}  // namespace xfm::gen

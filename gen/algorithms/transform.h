@@ -1,0 +1,96 @@
+// Discrete Fourier transforms of sequences of values, as networks.
+//
+// Points are p + i*q; a sequence whose q are all absent is real, its spectrum is Hermitian, and only half of
+// each stage is computed: the other bins are conjugates, which cost nothing. A complex sequence is either
+// carried through the stages as it is, or taken as two real ones that join at the end, as the rule says.
+// Where a value is a whole complex number in two lanes and all coefficients are real, its complex sequences are
+// "real" in this sense too.
+//
+// A transform run from its bins to its samples is its network transposed (transposition.h).
+#pragma once
+
+#include <functional>
+
+#include "gen/algorithms/blocks.h"
+#include "gen/algorithms/transposition.h"
+#include "gen/algorithms/tree.h"
+#include "gen/math/rader_spectrum.h"
+
+namespace xfm::gen {
+
+/// What a tree leaves open.
+struct Choices {
+  std::function<Root(int prime)> root;
+  /// The form of a length-5 block, on real or complex sequences, in the given column of the stage that it
+  /// belongs to; `transposed` blocks run from outputs to inputs.
+  std::function<Five(bool real, int instance, bool transposed)> five;
+};
+
+class Transform {
+ public:
+  /// Sums of products round once, as linear combinations, or each operation by itself.
+  explicit Transform(Rounding rounding, const Choices& choices = {}, bool transposed = false)
+      : rounding_(rounding), choices_(choices), transposed_(transposed) {}
+
+  /// The bins X[k] = sum over n of x[n] exp(-2 pi i n k/N), k = 0..N-1; the sequence is number `instance`
+  /// among its like.
+  Points run(const Tree& tree, const Points& x, int instance = 0) const;
+
+  /// The bins halfway between, Z[f] = sum over n of y[n] exp(-2 pi i n (f + 1/2)/N), f = 0..N-1, of a real
+  /// sequence: the transform of the sequence continued with its negative.
+  Points skew(const Tree& tree, const Points& y) const;
+
+  /// @name The rules (rules.h)
+  /// @{
+  Points block(const Tree& tree, const Points& x, int instance) const;
+  Points two_stages(const Tree& tree, const Points& x, int instance) const;
+  Points split_radix(const Tree& tree, const Points& x, int instance) const;
+  Points fork(const Tree& tree, const Points& x, int instance) const;
+  Points rader_by_halves(const Tree& tree, const Points& x, int instance) const;
+  Points rader_transposed(const Tree& tree, const Points& x, int instance) const;
+  Points skew_good_thomas(const Tree& tree, const Points& y) const;
+  Points skew_cooley_tukey(const Tree& tree, const Points& y) const;
+  /// @}
+
+ private:
+  Points by_halves(const Tree& tree, const Points& x) const;
+  Points skew_of_even_length(const Tree& rest, const Points& y) const;
+  Complex rotated(const Complex& z, Turn t) const;
+  bool combines() const { return rounding_ == Rounding::combination; }
+
+  Rounding rounding_;
+  Choices choices_;
+  bool transposed_;
+};
+
+/// Inputs 0..length-1.
+Points samples(Network& network, int length);
+
+bool is_real(const Points& x);
+
+/// One of the two halves of each point, as a real sequence.
+Points halves(const Points& x, Value Complex::*half);
+
+/// Split radix whose last stage of two is left open for outputs 0 and N/2: their operands stand in their
+/// places.
+Points open_split_radix(const Points& x);
+
+/// The bins of a real sequence, or those halfway between: each is put with its mirror image, the conjugate, and
+/// what is there already stays.
+class Spectrum {
+ public:
+  /// Bin k mirrors bin -k of a plain spectrum, -k - 1 of a skew one.
+  enum class Kind { plain, skew };
+  explicit Spectrum(int length, Kind kind = Kind::plain)
+      : kind_(kind), bins_(length), known_(length) {}
+
+  void put(int k, const Complex& z);
+  const Points& bins() const { return bins_; }
+
+ private:
+  Kind kind_;
+  Points bins_;
+  Sequence<bool> known_;
+};
+
+}  // namespace xfm::gen

@@ -1,0 +1,20 @@
+// What of a network is live: how often each node is used, and which of its lanes some output depends on.
+#pragma once
+
+#include "gen/network/network.h"
+
+namespace xfm::gen {
+
+/// For each node the number of live nodes and outputs that use it; 0 for a dead one.
+Sequence<int> uses(const Network& network);
+
+/// The same of a network whose outputs are these values, before it is bound to memory.
+Sequence<int> uses(const Network& network, const Sequence<Value>& outputs);
+
+/// Live nodes and stores: what a processor has to issue, but for register copies and spills.
+int instructions(const Network& network);
+
+/// For each node the lanes that some store depends on.
+Sequence<Sequence<bool>> live_lanes(const Network& network);
+
+}  // namespace xfm::gen

@@ -1,0 +1,244 @@
+#include "gen/network/program.h"
+
+#include <fmt/format.h>
+
+#include <bit>
+#include <optional>
+#include <stdexcept>
+#include <utility>
+
+namespace xfm::gen {
+
+// Values of a network's lanes, each read once.
+class ProgramReader {
+ public:
+  ProgramReader(Programs& programs, const Network& network, Precision precision, const Numbering& numbering)
+      : programs_(programs),
+        network_(network),
+        precision_(precision),
+        numbering_(numbering),
+        known_(network.nodes().size(), Sequence<std::optional<Result>>(network.width())) {}
+
+  Program run() {
+    Program program;
+    for (const Store& store : network_.stores()) {
+      for (int l = 0; store.node >= 0 && l < store.lanes.size(); ++l) {
+        if (store.lanes[l] < 0) continue;
+        const int output = number(numbering_.outputs, store.lanes[l]);
+        if (output >= program.size()) program.resize(static_cast<std::size_t>(output) + 1);
+        program[output] = lane(store.node, l);
+      }
+    }
+    return program;
+  }
+
+ private:
+  using Kind = Programs::Kind;
+
+  static int number(const PerLane& numbers, int place) {
+    return place < numbers.size() ? numbers[place] : place;
+  }
+
+  Result lane(NodeId id, int l) {
+    if (!known_[id][l]) known_[id][l] = compute(network_.node(id), l);
+    return *known_[id][l];
+  }
+
+  Result compute(const Node& node, int l) {
+    const auto in = [&](std::size_t operand) { return lane(node.in[operand], l); };
+    switch (node.op) {
+      case Op::load:
+        if (node.lanes[l] < 0) return programs_.zero(precision_);
+        return programs_.make({.kind = Kind::input,
+                               .precision = precision_,
+                               .input = number(numbering_.inputs, node.lanes[l])});
+      case Op::permute:
+        return lane(node.in[node.lanes[l] < network_.width() ? 0 : 1], node.lanes[l] % network_.width());
+      case Op::sign_flip:
+        return node.lanes[l] == 1 ? -in(0) : in(0);
+      case Op::add: {
+        const Result a = in(0), b = in(1);
+        return programs_.add(a, b, precision_);
+      }
+      case Op::sub: {
+        const Result a = in(0), b = in(1);
+        return programs_.add(a, -b, precision_);
+      }
+      case Op::mul:
+        return programs_.mul(rounded(node.constant(l).value, precision_), in(0), precision_);
+      case Op::twice:
+        return programs_.add(in(0), in(0), precision_);
+      case Op::factor:
+        return scale(in(0), precision_);
+      case Op::minus:
+        return minus(in(0), precision_);
+      case Op::combination:
+        break;
+    }
+    return combination(node);
+  }
+
+  Result scale(Result v, Precision precision) {
+    const Result plain = programs_.make({.kind = Kind::scale, .precision = precision, .a = {v.operation}});
+    return v.negative ? -plain : plain;
+  }
+  // In the values' sense 0 - v is -v.
+  Result minus(Result v, Precision precision) { return programs_.add(programs_.zero(precision), -v, precision); }
+
+  // Products and sums in binary64, and a rounding where the kernel's precision is less.
+  Result combination(const Node& node) {
+    constexpr Precision inner = Precision::binary64;
+    std::optional<Result> total;
+    for (const Term& term : node.terms) {
+      const Result product =
+          programs_.mul(rounded(term.coefficient.value, inner), lane(term.node, 0), inner);
+      total = total ? programs_.add(*total, product, inner) : product;
+    }
+    Result result = *total;
+    if (scales(node.finish)) result = scale(result, inner);
+    if (node.finish == Finish::negated) result = minus(result, inner);
+    if (node.finish == Finish::unrounded || precision_ == inner) return result;
+    const Result narrow =
+        programs_.make({.kind = Kind::narrow, .precision = precision_, .a = {result.operation}});
+    return result.negative ? -narrow : narrow;
+  }
+
+  Programs& programs_;
+  const Network& network_;
+  Precision precision_;
+  const Numbering& numbering_;
+  Sequence<Sequence<std::optional<Result>>> known_;
+};
+
+Program Programs::read(const Network& network, Precision precision, const Numbering& numbering) {
+  return ProgramReader(*this, network, precision, numbering).run();
+}
+
+Result Programs::make(Operation operation) {
+  const auto [place, fresh] = known_.try_emplace(operation, operations_.size());
+  if (fresh) {
+    hashes_.push_back(hash(operation));
+    operations_.push_back(operation);
+  }
+  return {place->second, false};
+}
+
+// Operands stand in the order of their hashes, which does not depend on what was read before.
+Result Programs::add(Result a, Result b, Precision precision) {
+  const auto order = [&](Result r) { return std::pair(hashes_[r.operation], r.negative); };
+  if (order(b) < order(a)) std::swap(a, b);
+  bool negative = false;
+  if (equality_ == Equality::values) {
+    if (is_zero(a)) return b;
+    if (is_zero(b)) return a;
+    negative = a.negative;
+    if (negative) a = -a, b = -b;
+  }
+  const Result sum = make({.kind = Kind::add, .precision = precision, .a = a, .b = b});
+  return negative ? -sum : sum;
+}
+
+Result Programs::mul(double constant, Result a, Precision precision) {
+  if (constant < 0) return -mul(-constant, a, precision);
+  if (constant == 1) return a;
+  if (equality_ == Equality::values && (constant == 0 || is_zero(a))) return zero(precision);
+  const Result product =
+      make({.kind = Kind::mul, .precision = precision, .constant = constant, .a = {a.operation}});
+  return a.negative ? -product : product;
+}
+
+namespace {
+
+/// FNV-1a of 64-bit words, each stirred.
+class Hash {
+ public:
+  Hash& add(std::uint64_t word) {
+    word = (word ^ word >> 33U) * 0xff51afd7ed558ccd;
+    value_ = (value_ ^ word ^ word >> 29U) * 0x100000001b3;
+    return *this;
+  }
+  std::uint64_t value() const { return value_; }
+
+ private:
+  std::uint64_t value_ = 0xcbf29ce484222325;
+};
+
+}  // namespace
+
+std::uint64_t Programs::hash(const Operation& operation) const {
+  Hash hash;
+  hash.add(static_cast<std::uint64_t>(operation.kind)).add(static_cast<std::uint64_t>(operation.precision));
+  hash.add(static_cast<std::uint64_t>(operation.input)).add(std::bit_cast<std::uint64_t>(operation.constant));
+  for (const Result r : {operation.a, operation.b}) {
+    if (r.operation >= 0) hash.add(hashes_[r.operation]).add(r.negative ? 1 : 0);
+  }
+  return hash.value();
+}
+
+std::uint64_t Programs::digest(const Program& program) const {
+  Hash hash;
+  for (const Result r : program) {
+    hash.add(r.operation < 0 ? 0 : hashes_[r.operation]).add(r.negative ? 1 : 0);
+  }
+  return hash.value();
+}
+
+std::string Programs::line(const Operation& operation, const Sequence<int>& names) const {
+  const auto operand = [&](Result r) {
+    const Operation& of = operations_[r.operation];
+    const std::string name = of.kind == Kind::input  ? fmt::format("x{}", of.input)
+                             : of.kind == Kind::zero ? "0"
+                                                     : fmt::format("t{}", names[r.operation]);
+    return (r.negative ? "-" : "") + name;
+  };
+  switch (operation.kind) {
+    case Kind::add: {
+      // A plain operand first, so that a difference reads as one.
+      const bool exchanged = operation.a.negative && !operation.b.negative;
+      const Result a = exchanged ? operation.b : operation.a, b = exchanged ? operation.a : operation.b;
+      return fmt::format("{} {} {}", operand(a), b.negative ? "-" : "+", operand({b.operation}));
+    }
+    case Kind::mul:
+      return fmt::format("{:a} * {}", operation.constant, operand(operation.a));
+    case Kind::scale:
+      return "s * " + operand(operation.a);
+    default:
+      return "round " + operand(operation.a);
+  }
+}
+
+std::string Programs::text(const Program& program) const {
+  Sequence<int> names(operations_.size(), -1);
+  int next = 0;
+  std::string text;
+  const auto write = [&](const auto& self, int id) -> void {
+    const Operation& operation = operations_[id];
+    if (operation.kind == Kind::input || operation.kind == Kind::zero || names[id] >= 0) return;
+    for (const Result r : {operation.a, operation.b}) {
+      if (r.operation >= 0) self(self, r.operation);
+    }
+    names[id] = next++;
+    text += fmt::format("t{} = {}{}\n", names[id], line(operation, names),
+                        operation.precision == Precision::binary64 ? "" : "  (binary32)");
+  };
+  for (int k = 0; k < program.size(); ++k) {
+    const Result r = program[k];
+    if (r.operation < 0) continue;
+    write(write, r.operation);
+    const bool zero = is_zero(r);
+    text += fmt::format("y{} = {}{}\n", k, r.negative ? "-" : "", zero ? "0" : fmt::format("t{}", names[r.operation]));
+  }
+  return text;
+}
+
+void check_same(const Program& one, const std::string& name, const Program& other,
+                const std::string& other_name) {
+  if (one.size() != other.size())
+    throw std::runtime_error(fmt::format("{}: another number of outputs than {}", name, other_name));
+  for (int k = 0; k < one.size(); ++k) {
+    if (one[k] != other[k])
+      throw std::runtime_error(fmt::format("{}: output {} is not computed as in {}", name, k, other_name));
+  }
+}
+
+}  // namespace xfm::gen

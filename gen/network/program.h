@@ -1,0 +1,88 @@
+// Scalar programs: what a network promises, whatever its form.
+//
+// Read lane by lane, a network of any width is a graph of rounded scalar operations between numbered inputs
+// and outputs. Permutations are only names of lanes and vanish, sign flips become signs, and a product by 1 is
+// its operand. Two networks give the same bits exactly if their graphs are equal, given that addition
+// commutes, c*(-v) is -(c*v) and a - b is a + (-b); the sign and payload of NaN excepted. An equal value has
+// an equal number however it was written (hash-consing over all programs of a collection), so that comparing
+// two programs is comparing the numbers of their outputs.
+#pragma once
+
+#include <compare>
+#include <cstdint>
+#include <map>
+#include <string>
+
+#include "gen/math/precision.h"
+#include "gen/network/network.h"
+
+namespace xfm::gen {
+
+/// A result of a program: an operation's number in its collection, and a sign.
+struct Result {
+  int operation = -1;
+  bool negative = false;
+
+  Result operator-() const { return {operation, !negative}; }
+  auto operator<=>(const Result&) const = default;
+};
+
+/// The results in the order of the outputs, without an operation where nothing is stored but zeros.
+using Program = Sequence<Result>;
+
+/// How inputs and outputs are numbered in a program, by the scalar's place in memory; places that are not
+/// listed keep their number. Kernels that are to be equal number what they share alike.
+struct Numbering {
+  PerLane inputs{}, outputs{};
+};
+
+/// Where two programs may differ.
+enum class Equality {
+  bits,    ///< nowhere
+  values,  ///< in products by 0 and in the signs of zeros: equal bits of finite data, but for zeros' signs
+};
+
+/// A collection of programs that can be compared.
+class Programs {
+ public:
+  explicit Programs(Equality equality) : equality_(equality) {}
+
+  Program read(const Network& network, Precision precision, const Numbering& numbering = {});
+
+  /// 64 bits that depend on the program alone.
+  std::uint64_t digest(const Program& program) const;
+
+  /// The program as text, an operation a line.
+  std::string text(const Program& program) const;
+
+ private:
+  friend class ProgramReader;
+  enum class Kind { input, zero, add, mul, scale, narrow };
+
+  struct Operation {
+    Kind kind;
+    Precision precision;  ///< of the result
+    int input = -1;
+    double constant = 0;
+    Result a{}, b{};
+    auto operator<=>(const Operation&) const = default;
+  };
+
+  Result make(Operation operation);
+  Result zero(Precision precision) { return make({.kind = Kind::zero, .precision = precision}); }
+  bool is_zero(Result r) const { return operations_[r.operation].kind == Kind::zero; }
+  Result add(Result a, Result b, Precision precision);
+  Result mul(double constant, Result a, Precision precision);
+  std::uint64_t hash(const Operation& operation) const;
+  std::string line(const Operation& operation, const Sequence<int>& names) const;
+
+  Equality equality_;
+  Sequence<Operation> operations_;
+  Sequence<std::uint64_t> hashes_;
+  std::map<Operation, int> known_;
+};
+
+/// Throws, by the names of the two and of the first output that differs, if the programs are not equal.
+void check_same(const Program& one, const std::string& name, const Program& other, const std::string& other_name);
+
+}  // namespace xfm::gen

@@ -1,0 +1,48 @@
+// Lanes brought together: which registers hold what, and how a wanted one is made of them by the permutations
+// that the target has.
+#pragma once
+
+#include "gen/targets/target.h"
+
+namespace xfm::gen {
+
+/// A lane of a node.
+struct Place {
+  NodeId node = -1;
+  int lane = 0;
+
+  bool idle() const { return node < 0; }
+  bool operator==(const Place&) const = default;
+};
+
+class Permuter {
+ public:
+  Permuter(Network& network, const Target& target) : network_(network), target_(target) {}
+
+  /// A node that has in each lane what stands at its place; idle places may hold anything.
+  NodeId bring(const Sequence<Place>& wanted);
+
+  /// These lanes of a and b, which one instruction has to bring.
+  NodeId permuted(NodeId a, NodeId b, PerLane picks);
+
+  /// Where the content of a lane was computed: through permutations to the arithmetic node behind them.
+  Place content(Place place) const;
+
+ private:
+  using Places = Sequence<Place>;
+
+  int width() const { return network_.width(); }
+  NodeId make(NodeId a, NodeId b, PerLane picks);
+  NodeId find(const Places& wanted) const;
+  NodeId by_one(const Places& wanted);
+  NodeId by_one(const Permutation& permutation, const Places& wanted, NodeId a, NodeId b);
+  Places within(NodeId node, const Place& a, const Place& b) const;
+  Places beside(const Place& a, const Place& b);
+  PerLane side_by_side(const Place& a, const Place& b) const;
+
+  Network& network_;
+  const Target& target_;
+  Sequence<NodeId> made_;  // permutations, in the order in which they came to be
+};
+
+}  // namespace xfm::gen

@@ -1,0 +1,46 @@
+// A target: a kind of processor that a library is built for, as data. What is not said here or in the target's
+// vocabulary of registers is the same for all.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+#include "gen/math/precision.h"
+#include "gen/network/network.h"
+
+namespace xfm::gen {
+
+/// Picks of lanes from two registers that take one instruction. Lanes are numbered over both registers.
+struct Permutation {
+  std::string_view name;
+  int cost;                         ///< in additions
+  Sequence<std::uint64_t> sources;  ///< for each lane the set of lanes that it can come from, as bits
+  PerLane idle;                     ///< the picks of lanes that nobody asks for
+
+  bool allows(int lane, int pick) const { return (sources[lane] >> static_cast<unsigned>(pick) & 1U) != 0; }
+  /// Whether it leaves no choice.
+  bool fixed() const;
+};
+
+struct Target {
+  std::string_view name;           ///< as compilers call it: "x86-64"
+  std::string_view folder;         ///< where the loader looks for the library, below that of the baseline's
+  std::string_view compile_flags;  ///< what makes a compiler use these instructions and no others
+  std::string_view vocabulary;     ///< the header that kernels are written in
+  int register_bytes;
+  int registers;
+  std::span<const Permutation> permutations;  ///< the cheapest first
+
+  /// Numbers of a precision in a register.
+  int lanes(Precision precision) const { return register_bytes / (precision == Precision::binary32 ? 4 : 8); }
+};
+
+/// All targets that can be built, the baseline first.
+std::span<const Target> targets();
+inline const Target& baseline() { return targets().front(); }
+
+/// The target of a name; throws std::out_of_range if there is none.
+const Target& target(std::string_view name);
+
+}  // namespace xfm::gen
