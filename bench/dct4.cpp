@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <deque>
 #include <numbers>
 #include <stdexcept>
@@ -24,46 +25,55 @@ constexpr int kLongest = 20;
 /// A patient plan of a long length takes minutes, so these are measured ones.
 unsigned effort(int length) { return length <= 1 << 14 ? FFTW_PATIENT : FFTW_MEASURE; }
 
-// ---- One set of names for the two precisions.
-
 template <class Real>
 struct Names;
 
 template <>
 struct Names<float> {
   using State = xfmDCT4State_32f;
-  static constexpr auto init = xfmDCT4InitAlloc_32f;
-  static constexpr auto run = xfmDCT4_32f;
-  static constexpr auto free = xfmDCT4Free_32f;
+  static constexpr const char* suffix = "_32f";
 };
 
 template <>
 struct Names<double> {
   using State = xfmDCT4State_64f;
-  static constexpr auto init = xfmDCT4InitAlloc_64f;
-  static constexpr auto run = xfmDCT4_64f;
-  static constexpr auto free = xfmDCT4Free_64f;
+  static constexpr const char* suffix = "_64f";
 };
 
 template <class Real>
-class Own final : public Contestant {
+class Dct4 final : public Contestant {
  public:
-  Own(int length, Arrays& arrays)
-      : src_(static_cast<const Real*>(arrays.src())), dst_(static_cast<Real*>(arrays.dst())) {
-    if (Names<Real>::init(&state_, length) != xfmStsOk) throw std::runtime_error("no state of the DCT-IV");
+  Dct4(const Library& library, int length, Arrays& arrays)
+      : run_(function<Run>(library, "xfmDCT4")),
+        free_(function<Free>(library, "xfmDCT4Free")),
+        src_(static_cast<const Real*>(arrays.src())),
+        dst_(static_cast<Real*>(arrays.dst())) {
+    if (function<Init>(library, "xfmDCT4InitAlloc")(&state_, length) != xfmStsOk)
+      throw std::runtime_error("no state of the DCT-IV");
   }
-  Own(const Own&) = delete;
-  Own& operator=(const Own&) = delete;
-  ~Own() override { Names<Real>::free(state_); }
+  Dct4(const Dct4&) = delete;
+  Dct4& operator=(const Dct4&) = delete;
+  ~Dct4() override { free_(state_); }
 
   void run(int calls) override {
-    for (int i = 0; i < calls; ++i) Names<Real>::run(src_, dst_, state_);
+    for (int i = 0; i < calls; ++i) run_(src_, dst_, state_);
   }
 
  private:
+  using State = typename Names<Real>::State;
+  using Init = xfmStatus (*)(State** state, std::int32_t length);
+  using Run = xfmStatus (*)(const Real* src, Real* dst, State* state);
+  using Free = xfmStatus (*)(State* state);
+  template <class Function>
+  static Function function(const Library& library, const std::string& name) {
+    return library.function<Function>(name + Names<Real>::suffix);
+  }
+
+  Run run_;
+  Free free_;
   const Real* src_;
   Real* dst_;
-  typename Names<Real>::State* state_ = nullptr;
+  State* state_ = nullptr;
 };
 
 template <class Real>
@@ -190,9 +200,10 @@ std::span<const catalogue::Kernel> dct4_kernels() {
   return rows;
 }
 
-ContestantPtr make_dct4(const catalogue::Kernel& kernel, Arrays& arrays) {
-  if (kernel.precision == Precision::binary32) return std::make_unique<Own<float>>(kernel.length, arrays);
-  return std::make_unique<Own<double>>(kernel.length, arrays);
+ContestantPtr make_dct4(const Library& library, const catalogue::Kernel& kernel, Arrays& arrays) {
+  if (kernel.precision == Precision::binary32)
+    return std::make_unique<Dct4<float>>(library, kernel.length, arrays);
+  return std::make_unique<Dct4<double>>(library, kernel.length, arrays);
 }
 
 template <class Real>
