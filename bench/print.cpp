@@ -52,7 +52,7 @@ void print_means(const Group& group) {
   const auto ratios = group.ratios();
   const Result& weakest = group.weakest();
   const auto behind = group.lengths_behind();
-  fmt::print("{:<14} {:<5} {:7} {:8.2f}x {:7.2f}x {:7.2f}x at {:<7}  {}\n", group.family, group.type,
+  fmt::print("{:<14} {:<5} {:7} {:8.3f}x {:7.3f}x {:7.3f}x at {:<7}  {}\n", group.family, group.type,
              ratios.size(), geometric_mean(ratios), geometric_mean(group.ratios_of_medians()),
              weakest.ratio(), weakest.kernel->length,
              behind.empty() ? "none" : fmt::format("{}", fmt::join(behind, " ")));
