@@ -3,43 +3,54 @@
 #include <dlfcn.h>
 #include <fmt/format.h>
 
+#include <cstdlib>
 #include <filesystem>
 #include <stdexcept>
-#include <string_view>
 
 namespace xfm::bench {
 
 namespace {
 
-void* loaded(const std::string& file) {
-  // A bare name would find the library that is loaded already, as any library of that name.
-  void* const handle = dlopen(std::filesystem::absolute(file).c_str(), RTLD_NOW | RTLD_LOCAL);
-  if (handle == nullptr) throw std::runtime_error(dlerror());
-  return handle;
-}
+namespace fs = std::filesystem;
 
-std::string_view file_of(const void* function) {
+std::string file_of(const void* function) {
   Dl_info info{};
   return dladdr(function, &info) != 0 ? info.dli_fname : "";
 }
 
+std::string temporary_folder() {
+  std::string folder = fs::temp_directory_path() / "xfmbench-XXXXXX";
+  if (mkdtemp(folder.data()) == nullptr) throw std::runtime_error(fmt::format("{}: cannot be made", folder));
+  return folder;
+}
+
 }  // namespace
 
-Library::Library(const std::string& file) : handle_(loaded(file)) {}
+Library::Library(const std::string& file) {
+  const std::string folder = temporary_folder();
+  file_ = fs::path(folder) / "libxfm.so";
+  std::error_code failure;
+  fs::copy_file(file, file_, failure);
+  if (!failure) handle_.reset(dlopen(file_.c_str(), RTLD_NOW | RTLD_LOCAL));
+  fs::remove_all(folder);
+  if (failure) throw std::runtime_error(fmt::format("{}: {}", file, failure.message()));
+  if (!handle_) throw std::runtime_error(fmt::format("{}: {}", file, dlerror()));
+}
 
 void Library::Close::operator()(void* handle) const { dlclose(handle); }
 
+std::string Library::file() const { return file_of(address("xfmGetLibVersion")); }
+
 void* Library::address(const std::string& name) const {
-  void* const linked = dlsym(RTLD_DEFAULT, name.c_str());
-  if (!handle_) {
-    if (linked == nullptr) throw std::runtime_error(fmt::format("{}: not exported", name));
-    return linked;
-  }
-  void* const other = dlsym(handle_.get(), name.c_str());
-  if (other == nullptr) throw std::runtime_error(fmt::format("{}: not exported by the other library", name));
-  if (file_of(other) == file_of(linked))
-    throw std::runtime_error(fmt::format("{}: both functions are in {}", name, file_of(other)));
-  return other;
+  void* const function = dlsym(handle_ ? handle_.get() : RTLD_DEFAULT, name.c_str());
+  if (function == nullptr || (handle_ && file_of(function) != file_))
+    throw std::runtime_error(fmt::format("{}: not exported{}", name, handle_ ? " by both libraries" : ""));
+  return function;
+}
+
+Builds loaded_builds(const std::string& other_file) {
+  if (other_file.empty()) return {};
+  return {Library(Library().file()), Library(other_file)};
 }
 
 }  // namespace xfm::bench

@@ -1,8 +1,9 @@
-// A build of libxfm as a source of functions: the one that this program is linked to, or another one beside
-// it.
+// A build of libxfm as a source of functions: the one that this program is linked to, or a private copy of a
+// file.
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 
 namespace xfm::bench {
@@ -11,15 +12,19 @@ class Library {
  public:
   /// The one that this program is linked to.
   Library() = default;
-  /// Another build, loaded from its file; throws if that cannot be loaded.
+  /// A fresh copy of the file, loaded; throws if that fails. A kernel's time can depend by half on the
+  /// physical pages that hold its code, and those stay as they are for as long as the system caches the file.
+  /// Two copies made alike, and anew for each run, get their pages alike.
   explicit Library(const std::string& file);
 
-  /// An exported function, good as long as the library. Throws if there is no such function, or if another
-  /// build yields the function of this one: a kernel would race itself.
+  /// An exported function, valid as long as the library is. Throws if the library has no such function of its
+  /// own.
   template <class Function>
   Function function(const std::string& name) const {
     return reinterpret_cast<Function>(address(name));
   }
+  /// Where it was loaded from.
+  std::string file() const;
 
  private:
   void* address(const std::string& name) const;
@@ -27,7 +32,17 @@ class Library {
   struct Close {
     void operator()(void* handle) const;
   };
+  std::string file_;
   std::unique_ptr<void, Close> handle_;  // null for the one linked
 };
+
+/// What races: this build, and another one or none.
+struct Builds {
+  Library ours;
+  std::optional<Library> other;
+};
+
+/// This build and the one in a file, each as a copy; or just this build, as it is linked, without a file.
+Builds loaded_builds(const std::string& other_file);
 
 }  // namespace xfm::bench

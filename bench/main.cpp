@@ -85,11 +85,11 @@ void show_progress(const char* work, std::size_t done, std::size_t all) {
 }
 
 std::vector<std::unique_ptr<Race>> planned(const Kernels& kernels, Placement placement,
-                                           const Library* other_build) {
+                                           const Builds& builds) {
   std::vector<std::unique_ptr<Race>> races;
   races.reserve(kernels.size());
   for (const catalogue::Kernel* kernel : kernels) {
-    races.push_back(std::make_unique<Race>(*kernel, placement, other_build));
+    races.push_back(std::make_unique<Race>(*kernel, placement, builds));
     show_progress("planning", races.size(), kernels.size());
   }
   return races;
@@ -128,13 +128,12 @@ void measure(const Options& options) {
   if (const std::string reason = objection(); !reason.empty())
     throw std::runtime_error("refusing to measure: " + reason);
   const File json = opened(options.json), markdown = opened(options.markdown);
-  const std::unique_ptr<Library> other_build =
-      options.against.empty() ? nullptr : std::make_unique<Library>(options.against);
-  const std::string rival = other_build ? "libxfm, " + options.against : rival_version();
+  const Builds builds = loaded_builds(options.against);
+  const std::string rival = builds.other ? "libxfm, " + options.against : rival_version();
   const Conditions conditions{this_build(), rival, options.placement, options.rounds, load()};
   print_heading(conditions);
   std::fflush(stdout);
-  const auto groups = grouped(raced(planned(kernels, options.placement, other_build.get()), options.rounds));
+  const auto groups = grouped(raced(planned(kernels, options.placement, builds), options.rounds));
   print_tables(groups);
   print_summary(groups);
   if (json) write_json(json.get(), conditions, groups);

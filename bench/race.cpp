@@ -4,8 +4,6 @@
 
 #include <cmath>
 #include <memory>
-#include <ranges>
-#include <span>
 #include <stdexcept>
 #include <utility>
 
@@ -104,12 +102,11 @@ void Race::Lane::warm_up() { time_batch(*contestant, calls); }
 
 void Race::Lane::sample() { samples.push_back(time_batch(*contestant, calls)); }
 
-Race::Race(const catalogue::Kernel& kernel, Placement placement, const Library* other_build)
+Race::Race(const catalogue::Kernel& kernel, Placement placement, const Builds& builds)
     : kernel_(&kernel), arrays_(kernel, placement) {
-  auto rival =
-      other_build != nullptr ? make_kernel(*other_build, kernel, arrays_) : make_rival(kernel, arrays_);
-  auto ours = make_kernel(Library(), kernel, arrays_);
-  auto others = other_build != nullptr ? std::vector<NamedContestant>() : further_rivals(kernel, arrays_);
+  auto rival = builds.other ? make_kernel(*builds.other, kernel, arrays_) : make_rival(kernel, arrays_);
+  auto ours = make_kernel(builds.ours, kernel, arrays_);
+  auto others = builds.other ? std::vector<NamedContestant>() : further_rivals(kernel, arrays_);
   if (rival) check_agreement(kernel, *ours, *rival, arrays_);
   for (auto& other : others) check_agreement(kernel, *ours, *other.contestant, arrays_);
   arrays_.fill();
@@ -125,13 +122,10 @@ Race::Race(const catalogue::Kernel& kernel, Placement placement, const Library* 
 
 void Race::run(int rounds) {
   for (Lane& lane : lanes_) lane.warm_up();
-  const auto contestants = std::span(lanes_).subspan(kOurs);
+  const std::size_t end = lanes_.size();
   for (int round = 0; round < rounds; ++round) {
     lanes_[kChain].sample();
-    if (round % 2 == 0)
-      for (Lane& lane : contestants) lane.sample();
-    else
-      for (Lane& lane : contestants | std::views::reverse) lane.sample();
+    for (std::size_t i = kOurs; i < end; ++i) lanes_[round % 2 == 0 ? i : end - i].sample();
   }
 }
 
