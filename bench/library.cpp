@@ -49,8 +49,17 @@ void* Library::address(const std::string& name) const {
 }
 
 Builds loaded_builds(const std::string& other_file) {
-  if (other_file.empty()) return {};
-  return {Library(Library().file()), Library(other_file)};
+  constexpr int kCopies = 3;
+  Builds builds;
+  if (other_file.empty()) {
+    builds.ours.emplace_back();
+    return builds;
+  }
+  for (int i = 0; i < kCopies; ++i) {
+    builds.ours.emplace_back(Library().file());
+    builds.other.emplace_back(other_file);
+  }
+  return builds;
 }
 
 }  // namespace xfm::bench

@@ -3,8 +3,8 @@
 #pragma once
 
 #include <memory>
-#include <optional>
 #include <string>
+#include <vector>
 
 namespace xfm::bench {
 
@@ -12,9 +12,7 @@ class Library {
  public:
   /// The one that this program is linked to.
   Library() = default;
-  /// A fresh copy of the file, loaded; throws if that fails. A kernel's time can depend by half on the
-  /// physical pages that hold its code, and those stay as they are for as long as the system caches the file.
-  /// Two copies made alike, and anew for each run, get their pages alike.
+  /// A fresh copy of the file, loaded; throws if that fails.
   explicit Library(const std::string& file);
 
   /// An exported function, valid as long as the library is. Throws if the library has no such function of its
@@ -36,13 +34,15 @@ class Library {
   std::unique_ptr<void, Close> handle_;  // null for the one linked
 };
 
-/// What races: this build, and another one or none.
+/// What races: this build, and another one or none. Several copies of each, of which every kernel runs in the
+/// fastest: its time can depend by half on the physical pages that hold its code, and those are a matter of
+/// luck, which lasts as long as the system caches the file.
 struct Builds {
-  Library ours;
-  std::optional<Library> other;
+  std::vector<Library> ours;
+  std::vector<Library> other;
 };
 
-/// This build and the one in a file, each as a copy; or just this build, as it is linked, without a file.
+/// This build as it is linked; or, if a file is named, copies of it and of the build in the file.
 Builds loaded_builds(const std::string& other_file);
 
 }  // namespace xfm::bench

@@ -129,7 +129,7 @@ void measure(const Options& options) {
     throw std::runtime_error("refusing to measure: " + reason);
   const File json = opened(options.json), markdown = opened(options.markdown);
   const Builds builds = loaded_builds(options.against);
-  const std::string rival = builds.other ? "libxfm, " + options.against : rival_version();
+  const std::string rival = builds.other.empty() ? rival_version() : "libxfm, " + options.against;
   const Conditions conditions{this_build(), rival, options.placement, options.rounds, load()};
   print_heading(conditions);
   std::fflush(stdout);

@@ -54,11 +54,19 @@ class BufferedKernel final : public Contestant {
   void* buffer_;
 };
 
-/// One contestant for every build of libxfm, so that two of them are called in the same way.
 ContestantPtr make_kernel(const Library& library, const catalogue::Kernel& kernel, Arrays& arrays) {
   if (kernel.call == nullptr) return make_dct4(library, kernel, arrays);
   if (kernel.call_with_buffer == nullptr) return std::make_unique<PlainKernel>(library, kernel, arrays);
   return std::make_unique<BufferedKernel>(library, kernel, arrays);
+}
+
+/// The kernel in the fastest copy of a build. Every build has the same contestant, so that two are called in
+/// the same way.
+ContestantPtr make_kernel(const std::vector<Library>& copies, const catalogue::Kernel& kernel,
+                          Arrays& arrays) {
+  std::vector<ContestantPtr> candidates;
+  for (const Library& library : copies) candidates.push_back(make_kernel(library, kernel, arrays));
+  return fastest(std::move(candidates));
 }
 
 std::vector<double> output_of(Contestant& contestant, Arrays& arrays) {
@@ -104,9 +112,10 @@ void Race::Lane::sample() { samples.push_back(time_batch(*contestant, calls)); }
 
 Race::Race(const catalogue::Kernel& kernel, Placement placement, const Builds& builds)
     : kernel_(&kernel), arrays_(kernel, placement) {
-  auto rival = builds.other ? make_kernel(*builds.other, kernel, arrays_) : make_rival(kernel, arrays_);
+  const bool beside_fftw = builds.other.empty();
+  auto rival = beside_fftw ? make_rival(kernel, arrays_) : make_kernel(builds.other, kernel, arrays_);
   auto ours = make_kernel(builds.ours, kernel, arrays_);
-  auto others = builds.other ? std::vector<NamedContestant>() : further_rivals(kernel, arrays_);
+  auto others = beside_fftw ? further_rivals(kernel, arrays_) : std::vector<NamedContestant>();
   if (rival) check_agreement(kernel, *ours, *rival, arrays_);
   for (auto& other : others) check_agreement(kernel, *ours, *other.contestant, arrays_);
   arrays_.fill();
