@@ -109,7 +109,7 @@ factor N, so both 1/N flags mean the same here. The number in a kernel's name is
 | XFM_SCALE_BY_SQRT_N   | 1/sqrt(N) |
 | XFM_SCALE_NONE        | 1         |
 
-The stages run in ascending order, additions and subtractions are in the precision of the elements, and every output is
+Stages run in ascending order, additions and subtractions are in the precision of the elements, and every output is
 multiplied by s as its last operation, even by 1: the bits are those of a plain loop nest over strides 1, 2, 4, ...
 1/sqrt(N) is a stored constant: a power of two at even orders. At odd orders it is the nearest value in binary32; in
 binary64 it is 1 divided by the rounded root of N, which is one unit in the last place below the nearest value.
