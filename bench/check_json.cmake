@@ -6,7 +6,7 @@ if(groups LESS 1)
 endif()
 math(EXPR last "${groups} - 1")
 foreach(group RANGE ${last})
-  foreach(path "ratio" "ratio_median" "kernels;0;ratio" "kernels;0;limit" "kernels;0;ours;cycles"
+  foreach(path "ratio" "ratio_median" "least;ratio" "kernels;0;ratio" "kernels;0;limit" "kernels;0;ours;cycles"
       "kernels;0;rival;cycles_median" "kernels;0;rival;ns")
     string(JSON figure GET ${report} groups ${group} ${path})
     if(NOT figure GREATER 0)

@@ -4,7 +4,11 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
+#include <cstdint>
 #include <deque>
+#include <memory>
+#include <new>
 #include <numbers>
 #include <stdexcept>
 #include <string>
@@ -24,46 +28,61 @@ constexpr int kLongest = 20;
 /// A patient plan of a long length takes minutes, so these are measured ones.
 unsigned effort(int length) { return length <= 1 << 14 ? FFTW_PATIENT : FFTW_MEASURE; }
 
-// ---- One set of names for the two precisions.
-
 template <class Real>
 struct Names;
 
 template <>
 struct Names<float> {
   using State = xfmDCT4State_32f;
-  static constexpr auto init = xfmDCT4InitAlloc_32f;
-  static constexpr auto run = xfmDCT4_32f;
-  static constexpr auto free = xfmDCT4Free_32f;
+  static constexpr const char* suffix = "_32f";
 };
 
 template <>
 struct Names<double> {
   using State = xfmDCT4State_64f;
-  static constexpr auto init = xfmDCT4InitAlloc_64f;
-  static constexpr auto run = xfmDCT4_64f;
-  static constexpr auto free = xfmDCT4Free_64f;
+  static constexpr const char* suffix = "_64f";
 };
 
 template <class Real>
-class Own final : public Contestant {
+class Dct4 final : public Contestant {
  public:
-  Own(int length, Arrays& arrays)
-      : src_(static_cast<const Real*>(arrays.src())), dst_(static_cast<Real*>(arrays.dst())) {
-    if (Names<Real>::init(&state_, length) != xfmStsOk) throw std::runtime_error("no state of the DCT-IV");
+  Dct4(const Library& library, int length, Arrays& arrays)
+      : run_(function<Run>(library, "xfmDCT4")),
+        src_(static_cast<const Real*>(arrays.src())),
+        dst_(static_cast<Real*>(arrays.dst())) {
+    std::int32_t size = 0;
+    function<GetSize>(library, "xfmDCT4GetSize")(length, &size);
+    memory_.reset(static_cast<std::byte*>(operator new(static_cast<std::size_t>(size), kPage)));
+    if (function<Init>(library, "xfmDCT4Init")(&state_, length, memory_.get()) != xfmStsOk)
+      throw std::runtime_error("no state of the DCT-IV");
   }
-  Own(const Own&) = delete;
-  Own& operator=(const Own&) = delete;
-  ~Own() override { Names<Real>::free(state_); }
 
   void run(int calls) override {
-    for (int i = 0; i < calls; ++i) Names<Real>::run(src_, dst_, state_);
+    for (int i = 0; i < calls; ++i) run_(src_, dst_, state_);
   }
 
  private:
+  using State = typename Names<Real>::State;
+  using GetSize = xfmStatus (*)(std::int32_t length, std::int32_t* size);
+  using Init = xfmStatus (*)(State** state, std::int32_t length, void* block);
+  using Run = xfmStatus (*)(const Real* src, Real* dst, State* state);
+  template <class Function>
+  static Function function(const Library& library, const std::string& name) {
+    return library.function<Function>(name + Names<Real>::suffix);
+  }
+
+  /// All states start at the same address modulo a page: their place sways the time of a call by some
+  /// percent.
+  static constexpr std::align_val_t kPage{4096};
+  struct Free {
+    void operator()(std::byte* memory) const { operator delete(memory, kPage); }
+  };
+
+  Run run_;
   const Real* src_;
   Real* dst_;
-  typename Names<Real>::State* state_ = nullptr;
+  std::unique_ptr<std::byte, Free> memory_;
+  State* state_ = nullptr;
 };
 
 template <class Real>
@@ -190,9 +209,10 @@ std::span<const catalogue::Kernel> dct4_kernels() {
   return rows;
 }
 
-ContestantPtr make_dct4(const catalogue::Kernel& kernel, Arrays& arrays) {
-  if (kernel.precision == Precision::binary32) return std::make_unique<Own<float>>(kernel.length, arrays);
-  return std::make_unique<Own<double>>(kernel.length, arrays);
+ContestantPtr make_dct4(const Library& library, const catalogue::Kernel& kernel, Arrays& arrays) {
+  if (kernel.precision == Precision::binary32)
+    return std::make_unique<Dct4<float>>(library, kernel.length, arrays);
+  return std::make_unique<Dct4<double>>(library, kernel.length, arrays);
 }
 
 template <class Real>

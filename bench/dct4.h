@@ -6,6 +6,7 @@
 
 #include "bench/arrays.h"
 #include "bench/contestant.h"
+#include "bench/library.h"
 #include "tools/catalogue.h"
 
 namespace xfm::bench {
@@ -14,8 +15,8 @@ namespace xfm::bench {
 /// operations are what the best algorithms known take.
 std::span<const catalogue::Kernel> dct4_kernels();
 
-/// A state of the row's length.
-ContestantPtr make_dct4(const catalogue::Kernel& kernel, Arrays& arrays);
+/// A state of the row's length, which the library itself initialises.
+ContestantPtr make_dct4(const Library& library, const catalogue::Kernel& kernel, Arrays& arrays);
 
 /// The fastest of FFTW's own DCT-IV and of two ways to make one from its complex transform of half the
 /// length: with a twist by exp(-i pi (8 n + 1) / (8 N)) before and after, the transform in place or from one

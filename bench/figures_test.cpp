@@ -81,6 +81,7 @@ TEST(Groups, ByFamilyAndTypeWithLengthsBehind) {
   EXPECT_EQ(groups[0].ratios(), (std::vector{2.0, 0.9}));
   EXPECT_EQ(groups[0].ratios_of_medians(), (std::vector{1.5, 1.25}));
   EXPECT_EQ(groups[0].lengths_behind(), std::vector{7});
+  EXPECT_EQ(groups[0].weakest().kernel, &c);
   EXPECT_FALSE(groups[1].has_rival());
 }
 

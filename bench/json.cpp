@@ -46,9 +46,10 @@ std::string object(const Group& group) {
   for (const Result& result : group.results) kernels.push_back(object(result));
   std::string text = fmt::format(R"({{"family": {}, "type": {}, )", quoted(group.family), quoted(group.type));
   if (group.has_rival())
-    text += fmt::format(R"("ratio": {:.4f}, "ratio_median": {:.4f}, "lengths_behind": [{}], )",
-                        geometric_mean(group.ratios()), geometric_mean(group.ratios_of_medians()),
-                        fmt::join(group.lengths_behind(), ", "));
+    text += fmt::format(
+        R"("ratio": {:.4f}, "ratio_median": {:.4f}, "least": {{"ratio": {:.4f}, "name": {}}}, "lengths_behind": [{}], )",
+        geometric_mean(group.ratios()), geometric_mean(group.ratios_of_medians()), group.weakest().ratio(),
+        quoted(group.weakest().kernel->name), fmt::join(group.lengths_behind(), ", "));
   return text + fmt::format("\"kernels\": [\n      {}\n    ]}}", fmt::join(kernels, ",\n      "));
 }
 

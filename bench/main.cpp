@@ -28,6 +28,7 @@ using Kernels = std::vector<const catalogue::Kernel*>;
 
 struct Options {
   std::vector<std::string> only;
+  std::string against;
   int rounds = 1000;
   std::string json;
   std::string markdown;
@@ -40,6 +41,9 @@ void define(CLI::App& app, Options& options) {
                  "Only kernels with TEXT in their name, which ends in the type; repeatable")
       ->type_name("TEXT")
       ->allow_extra_args(false);
+  app.add_option("--against", options.against,
+                 "Race another build of libxfm, its shared library FILE, not FFTW")
+      ->type_name("FILE");
   app.add_option("--rounds", options.rounds, "Rounds a kernel")
       ->check(CLI::Range(1, 1000000))
       ->capture_default_str();
@@ -51,7 +55,7 @@ void define(CLI::App& app, Options& options) {
   app.add_flag("--in-place", options.placement.in_place, "dst is src");
 }
 
-/// Pack and Perm are the arithmetic of CCS with other addresses: they run if they are asked for.
+/// Pack and Perm are the arithmetic of CCS with other addresses: beside FFTW they run only on request.
 bool runs_unasked(const catalogue::Kernel& kernel) {
   const std::string name = kernel.name;
   return name.find("Pack") == std::string::npos && name.find("Perm") == std::string::npos;
@@ -65,7 +69,7 @@ Kernels chosen(const Options& options) {
         return std::string(kernel.name).find(text) != std::string::npos;
       };
       const auto& only = options.only;
-      const bool wanted = only.empty() ? options.list || runs_unasked(kernel)
+      const bool wanted = only.empty() ? options.list || !options.against.empty() || runs_unasked(kernel)
                                        : std::any_of(only.begin(), only.end(), matches);
       if (wanted) kernels.push_back(&kernel);
     }
@@ -80,11 +84,12 @@ void show_progress(const char* work, std::size_t done, std::size_t all) {
   std::fflush(stderr);
 }
 
-std::vector<std::unique_ptr<Race>> planned(const Kernels& kernels, Placement placement) {
+std::vector<std::unique_ptr<Race>> planned(const Kernels& kernels, Placement placement,
+                                           const Builds& builds) {
   std::vector<std::unique_ptr<Race>> races;
   races.reserve(kernels.size());
   for (const catalogue::Kernel* kernel : kernels) {
-    races.push_back(std::make_unique<Race>(*kernel, placement));
+    races.push_back(std::make_unique<Race>(*kernel, placement, builds));
     show_progress("planning", races.size(), kernels.size());
   }
   return races;
@@ -123,10 +128,12 @@ void measure(const Options& options) {
   if (const std::string reason = objection(); !reason.empty())
     throw std::runtime_error("refusing to measure: " + reason);
   const File json = opened(options.json), markdown = opened(options.markdown);
-  const Conditions conditions{this_build(), rival_version(), options.placement, options.rounds, load()};
+  const Builds builds = loaded_builds(options.against);
+  const std::string rival = builds.other.empty() ? rival_version() : "libxfm, " + options.against;
+  const Conditions conditions{this_build(), rival, options.placement, options.rounds, load()};
   print_heading(conditions);
   std::fflush(stdout);
-  const auto groups = grouped(raced(planned(kernels, options.placement), options.rounds));
+  const auto groups = grouped(raced(planned(kernels, options.placement, builds), options.rounds));
   print_tables(groups);
   print_summary(groups);
   if (json) write_json(json.get(), conditions, groups);
@@ -137,7 +144,7 @@ void measure(const Options& options) {
 
 int main(int argc, char** argv) try {
   Options options;
-  CLI::App app("Times every kernel beside a rival, in turns, and tells the ratio.");
+  CLI::App app("Times every kernel beside a rival, in turns, and prints the ratio of their times.");
   define(app, options);
   CLI11_PARSE(app, argc, argv);
   measure(options);

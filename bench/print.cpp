@@ -50,12 +50,12 @@ void print_others(const Group& group) {
 
 void print_means(const Group& group) {
   const auto ratios = group.ratios();
-  const auto least = std::min_element(ratios.begin(), ratios.end());
-  const int weakest = group.results[static_cast<std::size_t>(least - ratios.begin())].kernel->length;
+  const Result& weakest = group.weakest();
   const auto behind = group.lengths_behind();
-  fmt::print("{:<14} {:<5} {:7} {:8.2f}x {:7.2f}x {:7.2f}x at {:<7}  {}\n", group.family, group.type,
-             ratios.size(), geometric_mean(ratios), geometric_mean(group.ratios_of_medians()), *least,
-             weakest, behind.empty() ? "none" : fmt::format("{}", fmt::join(behind, " ")));
+  fmt::print("{:<14} {:<5} {:7} {:8.3f}x {:7.3f}x {:7.3f}x at {:<7}  {}\n", group.family, group.type,
+             ratios.size(), geometric_mean(ratios), geometric_mean(group.ratios_of_medians()),
+             weakest.ratio(), weakest.kernel->length,
+             behind.empty() ? "none" : fmt::format("{}", fmt::join(behind, " ")));
 }
 
 }  // namespace
@@ -66,7 +66,7 @@ void print_heading(const Conditions& conditions) {
   fmt::print("flags      {}\n", build.flags);
   fmt::print("kernels    {}\n", build.kernel_flags);
   fmt::print("processor  {}\n", build.processor);
-  fmt::print("rival      {}, patient plans\n", conditions.rival);
+  fmt::print("rival      {}\n", conditions.rival);
   fmt::print("data       {}, {}, in the first-level cache where they fit; one transform a call\n",
              conditions.placement.unaligned ? "unaligned" : "aligned",
              conditions.placement.in_place ? "in place" : "out of place");

@@ -1,6 +1,5 @@
 #include "bench/race.h"
 
-#include <dlfcn.h>
 #include <fmt/format.h>
 
 #include <cmath>
@@ -18,20 +17,13 @@ namespace {
 
 enum Index : std::size_t { kChain, kOurs, kRival };
 
-/// The exported function itself: the catalogue's call goes through a function of its own that casts the
-/// pointers, which costs three cycles, a quarter of the shortest kernels' time. The rival has no such thing
-/// between.
-template <class Call>
-Call exported(const catalogue::Kernel& kernel) {
-  void* const address = dlsym(RTLD_DEFAULT, kernel.name);
-  if (address == nullptr) throw std::runtime_error(fmt::format("{}: not exported", kernel.name));
-  return reinterpret_cast<Call>(address);
-}
-
-class OwnKernel final : public Contestant {
+/// Calls the exported function itself: the catalogue's call goes through a function of its own that casts the
+/// pointers, which costs three cycles, a quarter of the shortest kernels' time. FFTW's call has no such
+/// detour.
+class PlainKernel final : public Contestant {
  public:
-  OwnKernel(const catalogue::Kernel& kernel, Arrays& arrays)
-      : call_(exported<catalogue::Call>(kernel)), src_(arrays.src()), dst_(arrays.dst()) {}
+  PlainKernel(const Library& library, const catalogue::Kernel& kernel, Arrays& arrays)
+      : call_(library.function<catalogue::Call>(kernel.name)), src_(arrays.src()), dst_(arrays.dst()) {}
 
   void run(int calls) override {
     for (int i = 0; i < calls; ++i) call_(src_, dst_, XFM_SCALE_NONE);
@@ -43,10 +35,10 @@ class OwnKernel final : public Contestant {
   void* dst_;
 };
 
-class OwnBufferedKernel final : public Contestant {
+class BufferedKernel final : public Contestant {
  public:
-  OwnBufferedKernel(const catalogue::Kernel& kernel, Arrays& arrays)
-      : call_(exported<catalogue::BufferedCall>(kernel)),
+  BufferedKernel(const Library& library, const catalogue::Kernel& kernel, Arrays& arrays)
+      : call_(library.function<catalogue::BufferedCall>(kernel.name)),
         src_(arrays.src()),
         dst_(arrays.dst()),
         buffer_(arrays.buffer()) {}
@@ -62,10 +54,19 @@ class OwnBufferedKernel final : public Contestant {
   void* buffer_;
 };
 
-ContestantPtr own_kernel(const catalogue::Kernel& kernel, Arrays& arrays) {
-  if (kernel.call == nullptr) return make_dct4(kernel, arrays);
-  if (kernel.call_with_buffer == nullptr) return std::make_unique<OwnKernel>(kernel, arrays);
-  return std::make_unique<OwnBufferedKernel>(kernel, arrays);
+ContestantPtr make_kernel(const Library& library, const catalogue::Kernel& kernel, Arrays& arrays) {
+  if (kernel.call == nullptr) return make_dct4(library, kernel, arrays);
+  if (kernel.call_with_buffer == nullptr) return std::make_unique<PlainKernel>(library, kernel, arrays);
+  return std::make_unique<BufferedKernel>(library, kernel, arrays);
+}
+
+/// The kernel in the fastest copy of a build. Every build has the same contestant, so that two are called in
+/// the same way.
+ContestantPtr make_kernel(const std::vector<Library>& copies, const catalogue::Kernel& kernel,
+                          Arrays& arrays) {
+  std::vector<ContestantPtr> candidates;
+  for (const Library& library : copies) candidates.push_back(make_kernel(library, kernel, arrays));
+  return fastest(std::move(candidates));
 }
 
 std::vector<double> output_of(Contestant& contestant, Arrays& arrays) {
@@ -109,11 +110,12 @@ void Race::Lane::warm_up() { time_batch(*contestant, calls); }
 
 void Race::Lane::sample() { samples.push_back(time_batch(*contestant, calls)); }
 
-Race::Race(const catalogue::Kernel& kernel, Placement placement)
+Race::Race(const catalogue::Kernel& kernel, Placement placement, const Builds& builds)
     : kernel_(&kernel), arrays_(kernel, placement) {
-  auto rival = make_rival(kernel, arrays_);
-  auto ours = own_kernel(kernel, arrays_);
-  auto others = further_rivals(kernel, arrays_);
+  const bool beside_fftw = builds.other.empty();
+  auto rival = beside_fftw ? make_rival(kernel, arrays_) : make_kernel(builds.other, kernel, arrays_);
+  auto ours = make_kernel(builds.ours, kernel, arrays_);
+  auto others = beside_fftw ? further_rivals(kernel, arrays_) : std::vector<NamedContestant>();
   if (rival) check_agreement(kernel, *ours, *rival, arrays_);
   for (auto& other : others) check_agreement(kernel, *ours, *other.contestant, arrays_);
   arrays_.fill();
@@ -129,11 +131,10 @@ Race::Race(const catalogue::Kernel& kernel, Placement placement)
 
 void Race::run(int rounds) {
   for (Lane& lane : lanes_) lane.warm_up();
+  const std::size_t end = lanes_.size();
   for (int round = 0; round < rounds; ++round) {
-    if (round % 2 == 0)
-      for (auto lane = lanes_.begin(); lane != lanes_.end(); ++lane) lane->sample();
-    else
-      for (auto lane = lanes_.rbegin(); lane != lanes_.rend(); ++lane) lane->sample();
+    lanes_[kChain].sample();
+    for (std::size_t i = kOurs; i < end; ++i) lanes_[round % 2 == 0 ? i : end - i].sample();
   }
 }
 

@@ -13,6 +13,7 @@
 
 #include "bench/arrays.h"
 #include "bench/contestant.h"
+#include "bench/library.h"
 #include "bench/statistics.h"
 #include "bench/timing.h"
 #include "tools/catalogue.h"
@@ -41,9 +42,9 @@ struct Result {
 
 class Race {
  public:
-  /// Plans the rival, and checks that it and the kernel give the same output for the same input: throws if
-  /// not.
-  Race(const catalogue::Kernel& kernel, Placement placement);
+  /// Makes the rival, the same function of the other build if there is one, and checks that it and the kernel
+  /// give the same output for the same input: throws if not.
+  Race(const catalogue::Kernel& kernel, Placement placement, const Builds& builds);
 
   /// Some more rounds, each a batch of the kernel, of the rival and of the cycle chain.
   void run(int rounds);

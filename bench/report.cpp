@@ -22,6 +22,8 @@ std::vector<double> Group::ratios_of_medians() const {
   return all;
 }
 
+const Result& Group::weakest() const { return *std::ranges::min_element(results, {}, &Result::ratio); }
+
 std::vector<int> Group::lengths_behind() const {
   std::vector<int> lengths;
   for (const Result& result : results)

@@ -21,6 +21,8 @@ struct Group {
   /// To further rival number i.
   std::vector<double> ratios_to_other(std::size_t i) const;
   std::vector<double> ratios_of_medians() const;
+  /// The one with the least ratio.
+  const Result& weakest() const;
   /// The lengths at which the rival is ahead, by least time.
   std::vector<int> lengths_behind() const;
 };

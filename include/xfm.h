@@ -3,16 +3,19 @@
  * @file xfm.h
  * @brief xfm: short, very fast discrete transforms for x86-64.
  *
- * Plain functions, no planning, no state, no run-time tables: every length and precision of every family has a
- * straight-line kernel of its own. Only the DCT-IV, which goes up to 2^26, has a state that is made beforehand. A family of kernels is written below with the letter N in place of the length; the
- * name without a number is the family's generic function, which takes the length as an argument and accepts every
- * length that the family serves.
+ * Plain functions, no planning, no state, no tables computed at run time: every length and precision of every family
+ * has a straight-line kernel of its own. Only the DCT-IV, which goes up to 2^26, has a state that is made beforehand.
+ * Below, a family of kernels is described with the letter N in place of the length; the name without a number is the
+ * family's generic function, which takes the length as an argument and accepts every length of the family.
  *
  * Arrays are contiguous; the caller owns them, and no function keeps a pointer. All functions may be called from any
- * number of threads at once, but a state of the DCT-IV serves one at a time. NaN and infinity flow through the arithmetic; no function changes the floating-point
- * control state. Results do not depend on alignment, and src == dst gives the same bits as separate arrays.
+ * number of threads at once, but a state of the DCT-IV serves one thread at a time. NaN and infinity propagate through
+ * the arithmetic; no function changes the floating-point control state. Results do not depend on alignment, and
+ * src == dst gives the same bits as separate arrays. Wherever bits are promised, the floating-point environment is the
+ * default one: rounding to nearest, neither flush-to-zero (FTZ) nor denormals-are-zero (DAZ). The sign and payload of a
+ * NaN are not specified.
  */
-/* The declarations below are written by xfmgen from the list of families: build the target "door" to renew them. */
+/* The declarations below are written by xfmgen from the list of families: build the target "header" to renew them. */
 #ifndef XFM_H
 #define XFM_H
 
@@ -38,18 +41,18 @@ typedef struct {
   xfm64f re, im;
 } xfm64fc;
 
-/** Result of every function: xfmStsOk or a negative value, one of those below. */
+/** Result of a function: xfmStsOk or one of the negative values below. */
 typedef int32_t xfmStatus;
 
 enum {
   xfmStsOk = 0,        /**< success */
-  xfmStsBadState = -5, /**< a DCT-IV plan node of an unknown kind was met */
-  xfmStsBadSize = -6,  /**< length or order not served */
+  xfmStsBadState = -5, /**< a DCT-IV plan contains a node of unknown kind */
+  xfmStsBadSize = -6,  /**< unsupported length or order */
   xfmStsNullPtr = -8,  /**< a required pointer is null */
   xfmStsBadScale = -16 /**< the scale flag is not one of the four values */
 };
 
-/** Scale flags: exactly one of these values, they do not combine. Each family tells the factor of each flag. */
+/** Scale flags: exactly one of these values; they do not combine. Each family lists the factor of each flag. */
 enum {
   XFM_SCALE_FWD_BY_N = 1,  /**< the forward direction carries 1/N */
   XFM_SCALE_INV_BY_N = 2,  /**< the inverse direction carries 1/N */
@@ -57,7 +60,7 @@ enum {
   XFM_SCALE_NONE = 8       /**< no factor in either direction */
 };
 
-/** What build of the library this is. */
+/** Version and build of the library. */
 typedef struct {
   int32_t major;         /**< major version */
   int32_t minor;         /**< minor version */
@@ -69,7 +72,7 @@ typedef struct {
   const char* buildDate; /**< date of the build */
 } xfmLibraryVersion;
 
-/** The version record, constant data that the caller neither changes nor frees. Cannot fail. */
+/** The version record: constant data, which the caller must neither change nor free. Cannot fail. */
 const xfmLibraryVersion* xfmGetLibVersion(void);
 
 /** @name DFTFwd_CToC
@@ -89,11 +92,11 @@ const xfmLibraryVersion* xfmGetLibVersion(void);
  * | XFM_SCALE_BY_SQRT_N   | 1/sqrt(N) |
  * | XFM_SCALE_NONE        | 1         |
  *
- * Every output is multiplied by s as its last step, also by 1. Both arrays may have any alignment; multiples of 16 are
- * fastest, and the bits do not depend on it. src and dst may overlap in any way: all input is read before the first
+ * Every output is multiplied by s as its last operation, even by 1. Both arrays may have any alignment; multiples of 16
+ * are fastest, and the bits do not depend on it. src and dst may overlap in any way: all input is read before the first
  * output is written, and dst is never read.
- * Errors, in the order of the tests: a generic function gives xfmStsBadSize for a length that is not served; then
- * xfmStsNullPtr (src or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
+ * Errors, in the order of the tests: xfmStsBadSize (unsupported length, generic functions only), xfmStsNullPtr (src
+ * or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
  * Sources: Cooley and Tukey 1965; Good 1958; Rader 1968; Yavne 1968; Bluestein 1970.
  */
 xfmStatus xfmDFTFwd_CToC_32fc(const xfm32fc* src, xfm32fc* dst, int32_t length, int32_t flag);
@@ -243,11 +246,11 @@ xfmStatus xfmDFTFwd_CToC_64_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag)
  * | XFM_SCALE_BY_SQRT_N   | 1/sqrt(N) |
  * | XFM_SCALE_NONE        | 1         |
  *
- * Every output is multiplied by s as its last step, also by 1. Both arrays may have any alignment; multiples of 16 are
- * fastest, and the bits do not depend on it. src and dst may overlap in any way: all input is read before the first
+ * Every output is multiplied by s as its last operation, even by 1. Both arrays may have any alignment; multiples of 16
+ * are fastest, and the bits do not depend on it. src and dst may overlap in any way: all input is read before the first
  * output is written, and dst is never read.
- * Errors, in the order of the tests: a generic function gives xfmStsBadSize for a length that is not served; then
- * xfmStsNullPtr (src or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
+ * Errors, in the order of the tests: xfmStsBadSize (unsupported length, generic functions only), xfmStsNullPtr (src
+ * or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
  * Sources: Cooley and Tukey 1965; Good 1958; Rader 1968; Yavne 1968; Bluestein 1970.
  */
 xfmStatus xfmDFTInv_CToC_32fc(const xfm32fc* src, xfm32fc* dst, int32_t length, int32_t flag);
@@ -390,7 +393,7 @@ xfmStatus xfmDFTInv_CToC_64_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag)
  *
  * Reads N elements of src; writes the half spectrum, 2*(N/2 + 1) elements of dst:
  * Re X[k] in dst[2k] and Im X[k] in dst[2k+1]; the imaginary parts of bin 0 and, for even N, of bin N/2
- * are stored as +0 whatever the data.
+ * are stored as +0, whatever the data.
  *
  * | flag                  | factor s  |
  * |-----------------------|-----------|
@@ -400,11 +403,14 @@ xfmStatus xfmDFTInv_CToC_64_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag)
  * | XFM_SCALE_NONE        | 1         |
  *
  * Scalar code: the arrays may have any alignment. They may overlap in any way: all input is read before the first
- * output is written. Every output is multiplied by s as its last step, also by 1. In single precision sums are
- * rounded to binary32, and linear combinations with constants are evaluated in binary64 and rounded once.
+ * output is written. In single precision sums are rounded to binary32, and linear combinations with constants are
+ * evaluated in binary64 and rounded once.
+ * Every output except the zeros that CCS stores is multiplied by s as its last operation, even by 1. Two exceptions: in
+ * single precision an output that is itself a linear combination is multiplied in binary64, before it is rounded; and a
+ * few outputs are subtracted from zero afterwards, to correct their sign.
  * The three layouts hold the same bits for the same input.
- * Errors, in the order of the tests: a generic function gives xfmStsBadSize for a length that is not served; then
- * xfmStsNullPtr (src or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
+ * Errors, in the order of the tests: xfmStsBadSize (unsupported length, generic functions only), xfmStsNullPtr (src
+ * or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
  * Sources: Sorensen, Jones, Heideman and Burrus 1987; Good 1958; Cooley and Tukey 1965; Rader 1968.
  */
 xfmStatus xfmDFTFwd_RToCCS_32f(const xfm32f* src, xfm32f* dst, int32_t length, int32_t flag);
@@ -546,7 +552,7 @@ xfmStatus xfmDFTFwd_RToCCS_64_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
  *     X[k] = s * sum over j of src[j] * exp(-2 pi i j k / N),   j = 0 .. N-1,   k = 0 .. N/2
  *
  * Reads N elements of src; writes the half spectrum, N elements of dst:
- * Re X[0], Re X[1], Im X[1], Re X[2], Im X[2], ..., and for even N at last Re X[N/2].
+ * Re X[0], Re X[1], Im X[1], Re X[2], Im X[2], ..., and, for even N, Re X[N/2] at the end.
  *
  * | flag                  | factor s  |
  * |-----------------------|-----------|
@@ -556,11 +562,14 @@ xfmStatus xfmDFTFwd_RToCCS_64_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
  * | XFM_SCALE_NONE        | 1         |
  *
  * Scalar code: the arrays may have any alignment. They may overlap in any way: all input is read before the first
- * output is written. Every output is multiplied by s as its last step, also by 1. In single precision sums are
- * rounded to binary32, and linear combinations with constants are evaluated in binary64 and rounded once.
+ * output is written. In single precision sums are rounded to binary32, and linear combinations with constants are
+ * evaluated in binary64 and rounded once.
+ * Every output except the zeros that CCS stores is multiplied by s as its last operation, even by 1. Two exceptions: in
+ * single precision an output that is itself a linear combination is multiplied in binary64, before it is rounded; and a
+ * few outputs are subtracted from zero afterwards, to correct their sign.
  * The three layouts hold the same bits for the same input.
- * Errors, in the order of the tests: a generic function gives xfmStsBadSize for a length that is not served; then
- * xfmStsNullPtr (src or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
+ * Errors, in the order of the tests: xfmStsBadSize (unsupported length, generic functions only), xfmStsNullPtr (src
+ * or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
  * Sources: Sorensen, Jones, Heideman and Burrus 1987; Good 1958; Cooley and Tukey 1965; Rader 1968.
  */
 xfmStatus xfmDFTFwd_RToPack_32f(const xfm32f* src, xfm32f* dst, int32_t length, int32_t flag);
@@ -712,11 +721,14 @@ xfmStatus xfmDFTFwd_RToPack_64_64f(const xfm64f* src, xfm64f* dst, int32_t flag)
  * | XFM_SCALE_NONE        | 1         |
  *
  * Scalar code: the arrays may have any alignment. They may overlap in any way: all input is read before the first
- * output is written. Every output is multiplied by s as its last step, also by 1. In single precision sums are
- * rounded to binary32, and linear combinations with constants are evaluated in binary64 and rounded once.
+ * output is written. In single precision sums are rounded to binary32, and linear combinations with constants are
+ * evaluated in binary64 and rounded once.
+ * Every output except the zeros that CCS stores is multiplied by s as its last operation, even by 1. Two exceptions: in
+ * single precision an output that is itself a linear combination is multiplied in binary64, before it is rounded; and a
+ * few outputs are subtracted from zero afterwards, to correct their sign.
  * The three layouts hold the same bits for the same input.
- * Errors, in the order of the tests: a generic function gives xfmStsBadSize for a length that is not served; then
- * xfmStsNullPtr (src or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
+ * Errors, in the order of the tests: xfmStsBadSize (unsupported length, generic functions only), xfmStsNullPtr (src
+ * or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
  * Sources: Sorensen, Jones, Heideman and Burrus 1987; Good 1958; Cooley and Tukey 1965; Rader 1968.
  */
 xfmStatus xfmDFTFwd_RToPerm_32f(const xfm32f* src, xfm32f* dst, int32_t length, int32_t flag);
@@ -869,12 +881,13 @@ xfmStatus xfmDFTFwd_RToPerm_64_64f(const xfm64f* src, xfm64f* dst, int32_t flag)
  * | XFM_SCALE_NONE        | 1         |
  *
  * Scalar code: the arrays may have any alignment. They may overlap in any way: all input is read before the first
- * output is written. Every output is multiplied by s as its last step, also by 1. In single precision sums are
- * rounded to binary32, and linear combinations with constants are evaluated in binary64 and rounded once.
- * The three layouts give the same bits, but for the last one at N = 7, 20, 40, 49 and 50.
- * Errors, in the order of the tests: a generic function gives xfmStsBadSize for a length that is not served; then
- * xfmStsNullPtr (src or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
- * Sources: as the forward transforms, whose networks run transposed here (Bernstein 2006).
+ * output is written. In single precision sums are rounded to binary32, and linear combinations with constants are
+ * evaluated in binary64 and rounded once.
+ * Every output is multiplied by s as its last operation, even by 1.
+ * The three layouts give the same bits, except for the last bit at N = 7, 20, 40, 49 and 50.
+ * Errors, in the order of the tests: xfmStsBadSize (unsupported length, generic functions only), xfmStsNullPtr (src
+ * or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
+ * Sources: those of the forward transforms, whose networks run transposed here (Bernstein 2006).
  */
 xfmStatus xfmDFTInv_CCSToR_32f(const xfm32f* src, xfm32f* dst, int32_t length, int32_t flag);
 xfmStatus xfmDFTInv_CCSToR_2_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
@@ -1015,7 +1028,7 @@ xfmStatus xfmDFTInv_CCSToR_64_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
  *     dst[j] = s * sum over k of X[k] * exp(+2 pi i j k / N),   j, k = 0 .. N-1,   X[N-k] = conj(X[k])
  *
  * Writes N elements of dst; src holds the bins 0 .. N/2 in N elements:
- * Re X[0], Re X[1], Im X[1], Re X[2], Im X[2], ..., and for even N at last Re X[N/2].
+ * Re X[0], Re X[1], Im X[1], Re X[2], Im X[2], ..., and, for even N, Re X[N/2] at the end.
  *
  * | flag                  | factor s  |
  * |-----------------------|-----------|
@@ -1025,12 +1038,13 @@ xfmStatus xfmDFTInv_CCSToR_64_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
  * | XFM_SCALE_NONE        | 1         |
  *
  * Scalar code: the arrays may have any alignment. They may overlap in any way: all input is read before the first
- * output is written. Every output is multiplied by s as its last step, also by 1. In single precision sums are
- * rounded to binary32, and linear combinations with constants are evaluated in binary64 and rounded once.
- * The three layouts give the same bits, but for the last one at N = 7, 20, 40, 49 and 50.
- * Errors, in the order of the tests: a generic function gives xfmStsBadSize for a length that is not served; then
- * xfmStsNullPtr (src or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
- * Sources: as the forward transforms, whose networks run transposed here (Bernstein 2006).
+ * output is written. In single precision sums are rounded to binary32, and linear combinations with constants are
+ * evaluated in binary64 and rounded once.
+ * Every output is multiplied by s as its last operation, even by 1.
+ * The three layouts give the same bits, except for the last bit at N = 7, 20, 40, 49 and 50.
+ * Errors, in the order of the tests: xfmStsBadSize (unsupported length, generic functions only), xfmStsNullPtr (src
+ * or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
+ * Sources: those of the forward transforms, whose networks run transposed here (Bernstein 2006).
  */
 xfmStatus xfmDFTInv_PackToR_32f(const xfm32f* src, xfm32f* dst, int32_t length, int32_t flag);
 xfmStatus xfmDFTInv_PackToR_2_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
@@ -1181,12 +1195,13 @@ xfmStatus xfmDFTInv_PackToR_64_64f(const xfm64f* src, xfm64f* dst, int32_t flag)
  * | XFM_SCALE_NONE        | 1         |
  *
  * Scalar code: the arrays may have any alignment. They may overlap in any way: all input is read before the first
- * output is written. Every output is multiplied by s as its last step, also by 1. In single precision sums are
- * rounded to binary32, and linear combinations with constants are evaluated in binary64 and rounded once.
- * The three layouts give the same bits, but for the last one at N = 7, 20, 40, 49 and 50.
- * Errors, in the order of the tests: a generic function gives xfmStsBadSize for a length that is not served; then
- * xfmStsNullPtr (src or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
- * Sources: as the forward transforms, whose networks run transposed here (Bernstein 2006).
+ * output is written. In single precision sums are rounded to binary32, and linear combinations with constants are
+ * evaluated in binary64 and rounded once.
+ * Every output is multiplied by s as its last operation, even by 1.
+ * The three layouts give the same bits, except for the last bit at N = 7, 20, 40, 49 and 50.
+ * Errors, in the order of the tests: xfmStsBadSize (unsupported length, generic functions only), xfmStsNullPtr (src
+ * or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
+ * Sources: those of the forward transforms, whose networks run transposed here (Bernstein 2006).
  */
 xfmStatus xfmDFTInv_PermToR_32f(const xfm32f* src, xfm32f* dst, int32_t length, int32_t flag);
 xfmStatus xfmDFTInv_PermToR_2_32f(const xfm32f* src, xfm32f* dst, int32_t flag);
@@ -1326,8 +1341,8 @@ xfmStatus xfmDFTInv_PermToR_64_64f(const xfm64f* src, xfm64f* dst, int32_t flag)
  *
  *     dst[k] = s * sum over j of src[j] * (cos(2 pi j k / N) + sin(2 pi j k / N)),   j, k = 0 .. N-1
  *
- * Reads N elements of src, writes N elements of dst, in natural order. The transform is its own inverse but for a
- * factor N, and the flags have no direction:
+ * Reads N elements of src, writes N elements of dst, in natural order. The transform is its own inverse up to a
+ * factor N, so the flags have no direction:
  *
  * | flag                  | factor s  |
  * |-----------------------|-----------|
@@ -1337,10 +1352,11 @@ xfmStatus xfmDFTInv_PermToR_64_64f(const xfm64f* src, xfm64f* dst, int32_t flag)
  * | XFM_SCALE_NONE        | 1         |
  *
  * Scalar code: the arrays may have any alignment. They may overlap in any way: all input is read before the first
- * output is written. Every output is multiplied by s as its last step, also by 1. In single precision sums are
- * rounded to binary32, and linear combinations with constants are evaluated in binary64 and rounded once.
- * Errors, in the order of the tests: a generic function gives xfmStsBadSize for a length that is not served; then
- * xfmStsNullPtr (src or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
+ * output is written. In single precision sums are rounded to binary32, and linear combinations with constants are
+ * evaluated in binary64 and rounded once.
+ * Every output is multiplied by s as its last operation, even by 1.
+ * Errors, in the order of the tests: xfmStsBadSize (unsupported length, generic functions only), xfmStsNullPtr (src
+ * or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
  * Sources: Hartley 1942; Bracewell 1983; Sorensen, Jones, Burrus and Heideman 1985; Rader 1968.
  */
 xfmStatus xfmHartley_32f(const xfm32f* src, xfm32f* dst, int32_t length, int32_t flag);
@@ -1481,8 +1497,8 @@ xfmStatus xfmHartley_64_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
  *
  *     dst[k] = s * sum over j of (-1)^popcount(j AND k) * src[j],   j, k = 0 .. N-1
  *
- * Reads N elements of src, writes N elements of dst. The transform has no direction: it is its own inverse up to N,
- * so the two flags of 1/N mean the same here. The number in a kernel's name is the order.
+ * Reads N elements of src, writes N elements of dst. The transform has no direction: it is its own inverse up to a
+ * factor N, so both 1/N flags mean the same here. The number in a kernel's name is the order.
  *
  * | flag                  | factor s  |
  * |-----------------------|-----------|
@@ -1491,24 +1507,23 @@ xfmStatus xfmHartley_64_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
  * | XFM_SCALE_BY_SQRT_N   | 1/sqrt(N) |
  * | XFM_SCALE_NONE        | 1         |
  *
- * The stages run in ascending order, additions and subtractions are those of the element type, and every output is
- * multiplied by s as its last step, also by 1: the bits are those of a plain loop nest over strides 1, 2, 4, ...
- * 1/sqrt(N) is a stored constant: a power of two at even orders. At odd orders the one in binary32 is the nearest
- * value, the one in binary64 the quotient of 1 by the rounded root of N, which lies one unit in the last place below.
+ * Stages run in ascending order, additions and subtractions are in the precision of the elements, and every output is
+ * multiplied by s as its last operation, even by 1: the bits are those of a plain loop nest over strides 1, 2, 4, ...
+ * 1/sqrt(N) is a stored constant: a power of two at even orders. At odd orders it is the nearest value in binary32; in
+ * binary64 it is 1 divided by the rounded root of N, which is one unit in the last place below the nearest value.
  *
  * Both arrays may have any alignment; multiples of 16 are fastest, and the bits do not depend on it. src and dst may
  * overlap in any way: all input is read before the first output is written, and dst is never read.
  *
- * buffer: orders 1 to 7 never look at it, whatever it is. From order 8 on it is work space of the bytes that
- * xfmWHTGetBufferSize_TYPE tells, aligned to 16. What it holds before does not matter; afterwards it holds nothing of
- * use. It belongs to one call at a time. A null buffer is served too, by one xfmMalloc and one xfmFree in every call;
- * the bits are the same.
- * Hazards: the call does not test whether xfmMalloc gave anything: a program whose memory is exhausted ends there. A
- * buffer that is not a multiple of 16 ends the program as well. A buffer that is too small is written past its end.
+ * buffer: ignored for the orders 1 to 7. From order 8 on it is work space of at least the size that
+ * xfmWHTGetBufferSize_TYPE returns, aligned to 16. Its contents before the call do not matter, and are of no use
+ * afterwards. It serves one call at a time. If buffer is null, each call does one xfmMalloc and one xfmFree; the bits
+ * are the same.
+ * Hazards: the call does not check the result of xfmMalloc, so a program that is out of memory crashes there. A buffer
+ * that is not aligned to 16 crashes the program as well. A buffer that is too small is written past its end.
  *
- * Errors, in the order of the tests: a generic function gives xfmStsBadSize for an order that is not served; then
- * xfmStsNullPtr (src or dst is null), xfmStsBadScale (flag). A failed call writes nothing and allocates nothing.
- * Re-entrant.
+ * Errors, in the order of the tests: xfmStsBadSize (unsupported order, generic functions only), xfmStsNullPtr (src or
+ * dst is null), xfmStsBadScale (flag). A failed call writes nothing and allocates nothing. Re-entrant.
  * Sources: Good 1958; Fino and Algazi 1976; for the cut into passes Johnson and Pueschel 2000.
  */
 xfmStatus xfmWHT_32f(const xfm32f* src, xfm32f* dst, int32_t order, int32_t flag, void* buffer);
@@ -1545,9 +1560,9 @@ xfmStatus xfmWHT_13_64f(const xfm64f* src, xfm64f* dst, int32_t flag, void* buff
  * xfmWHTGetBufferSize_TYPE
  * @{ */
 /**
- * Bytes of the work buffer of the Walsh-Hadamard kernel of this order, stored through size: 0 for the orders 1 to 7.
- * The order is the only thing tested: size must not be null.
- * Errors: xfmStsBadSize for an order that is not 1 to 13; size stays as it was. Re-entrant; no allocation.
+ * Stores the size in bytes of the work buffer of the Walsh-Hadamard kernel of this order in *size: 0 for the orders 1
+ * to 7. Only the order is tested; size must not be null.
+ * Errors: xfmStsBadSize for an order outside 1 to 13; *size is then unchanged. Re-entrant; no allocation.
  */
 xfmStatus xfmWHTGetBufferSize_32f(int32_t order, uint32_t* size);
 xfmStatus xfmWHTGetBufferSize_64f(int32_t order, uint32_t* size);
@@ -1564,40 +1579,42 @@ typedef struct xfmDCT4State_32f xfmDCT4State_32f;
 typedef struct xfmDCT4State_64f xfmDCT4State_64f;
 
 /**
- * Bytes that a state of this length takes, among them what aligning the block costs: a block of any address will do.
+ * Stores the size in bytes of a state of this length in *size. It includes what aligning the block costs, so the
+ * block may have any address.
  *
- * Accepted lengths: N = 2^k with 1 <= k <= 26, in double precision k <= 25. That is the DCT-IV.
- * Hazards: some more lengths pass and are NO DCT-IV of any length. They are kept as they are; do not use them.
- * - N = 2^k + 1 with 5 <= k <= 26, in double precision 3 <= k <= 25. Such a state runs the plan of 2^k over a wrong map
+ * Accepted lengths: N = 2^k with 1 <= k <= 26, in double precision k <= 25. At these the result is the DCT-IV.
+ * Hazards: some other lengths are accepted and are NOT a DCT-IV of any length. They stay as they are; do not use them.
+ * - N = 2^k + 1 with 5 <= k <= 26, in double precision 3 <= k <= 25. Such a state runs the plan of 2^k with a wrong map
  *   of the indices, leaves elements of dst unwritten, and reads and writes src[N] and dst[N], one past the end.
- * - N = 2^30 and 2^30 + 1, in double precision 2^29 and 2^29 + 1 too: the sum of bytes wraps around in 32 bits, and
- *   the state would be written far beyond a block of the size told.
+ * - N = 2^30 and 2^30 + 1, in double precision 2^29 and 2^29 + 1 too: the number of bytes wraps around in 32 bits, and
+ *   the state would be written far beyond a block of the size returned.
  *
- * Errors: xfmStsBadSize for every other length; size stays as it was. size is not tested for null. Re-entrant.
+ * Errors: xfmStsBadSize for every other length; *size is then unchanged. size is not tested for null. Re-entrant.
  */
 xfmStatus xfmDCT4GetSize_32f(int32_t length, int32_t* size);
 xfmStatus xfmDCT4GetSize_64f(int32_t length, int32_t* size);
 
 /**
- * Builds a state in memory of the caller: block has at least the bytes told by the size query, at any address.
+ * Builds a state in memory of the caller: block has at least the size returned by xfmDCT4GetSize_TYPE, at any address.
  *
- * The state lies in the block and holds addresses: the block must not move, and ends the state when it is given up. A
- * state needs no other end; the block may be used again, by another init too. What state receives is not the block's
- * address. All cosines and sines are worked out here, none when the state runs.
- * In the last 2 GiB of each 4 GiB of addresses (bit 31 set) a block that is no multiple of 32 wastes up to 31 bytes
- * more, and a state of N = 2 .. 32 there may take up to 23 bytes more than told. Blocks aligned to 32 are free of this.
+ * The state lies in the block and holds addresses: the block must not move, and giving it up ends the state. A state
+ * needs no other end; the block may be used again, for another state too. The pointer stored in *state is not the
+ * address of the block. All cosines and sines are computed here, none when the state runs.
+ * In the last 2 GiB of each 4 GiB of addresses (bit 31 set) a block that is not aligned to 32 wastes up to 31 bytes
+ * more, and a state of N = 2 .. 32 there may take up to 23 bytes more than the size returned. Blocks aligned to 32 are
+ * not affected.
  *
  * Errors, in the order of the tests: xfmStsNullPtr (state or block is null), xfmStsBadSize (the length cannot be broken
- * down); the pointer at state is then as it was. The size of the block is not tested. One thread a block.
+ * down); *state is then unchanged. The size of the block is not tested. One thread per block.
  */
 xfmStatus xfmDCT4Init_32f(xfmDCT4State_32f** state, int32_t length, void* block);
 xfmStatus xfmDCT4Init_64f(xfmDCT4State_64f** state, int32_t length, void* block);
 
 /**
- * Builds a state in memory of xfmMalloc, which xfmDCT4Free releases.
+ * Builds a state in memory from xfmMalloc, which xfmDCT4Free_TYPE releases.
  *
- * Errors, in the order of the tests: xfmStsNullPtr (state is null), xfmStsBadSize (the length is refused by the size
- * query; nothing was allocated), xfmStsNullPtr (no memory). The pointer at state is then as it was. Any thread.
+ * Errors, in the order of the tests: xfmStsNullPtr (state is null), xfmStsBadSize (xfmDCT4GetSize_TYPE rejects the
+ * length; nothing was allocated), xfmStsNullPtr (out of memory). *state is then unchanged. Any thread.
  */
 xfmStatus xfmDCT4InitAlloc_32f(xfmDCT4State_32f** state, int32_t length);
 xfmStatus xfmDCT4InitAlloc_64f(xfmDCT4State_64f** state, int32_t length);
@@ -1607,13 +1624,13 @@ xfmStatus xfmDCT4InitAlloc_64f(xfmDCT4State_64f** state, int32_t length);
  *
  *     dst[k] = sum over j of src[j] * cos(pi/N * (j + 1/2) * (k + 1/2)),   j, k = 0 .. N-1
  *
- * Reads N real elements of src, writes N real elements of dst, in natural order, without a factor: the transform twice
- * over gives the input times N/2. Any alignment; src == dst gives the same bits as separate arrays; other overlaps are
- * not served. No allocation; nothing is carried over from run to run.
- * A run of N > 32 overwrites the work areas in the state, so such a state serves one thread at a time; for threads at
- * once make a state each. A state of N <= 32 is only read.
+ * Reads N real elements of src, writes N real elements of dst, in natural order, without a factor: applied twice, the
+ * transform gives the input times N/2. Any alignment; src == dst gives the same bits as separate arrays; the arrays
+ * must not overlap in any other way. No allocation; nothing carries over from one run to the next.
+ * A run of N > 32 overwrites the work areas in the state, so such a state serves one thread at a time; threads that run
+ * at once need a state each. A state of N <= 32 is only read.
  *
- * Errors: xfmStsNullPtr (state, src or dst is null), xfmStsBadState (what state points to is no state). Nothing is
+ * Errors: xfmStsNullPtr (state, src or dst is null), xfmStsBadState (state does not point to a state). Nothing is
  * written then.
  * Sources: Britanak, Yip and Rao 2007; split radix: Duhamel and Hollmann 1984; lifting for N = 4: Daubechies and
  * Sweldens 1998.
@@ -1622,8 +1639,8 @@ xfmStatus xfmDCT4_32f(const xfm32f* src, xfm32f* dst, xfmDCT4State_32f* state);
 xfmStatus xfmDCT4_64f(const xfm64f* src, xfm64f* dst, xfmDCT4State_64f* state);
 
 /**
- * Ends a state of xfmDCT4InitAlloc and releases its memory with xfmFree, or one that xfmDCT4Init built in memory of
- * xfmMalloc. Not for a state in other memory: that one ends with its block. The state must not be running.
+ * Ends a state made by xfmDCT4InitAlloc_TYPE, or by xfmDCT4Init_TYPE in memory from xfmMalloc, and releases its memory
+ * with xfmFree. Not for a state in other memory: that one ends with its block. The state must not be running.
  *
  * Errors: xfmStsNullPtr (state is null).
  */
