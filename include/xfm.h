@@ -12,7 +12,7 @@
  * number of threads at once, but a state of the DCT-IV serves one at a time. NaN and infinity flow through the arithmetic; no function changes the floating-point
  * control state. Results do not depend on alignment, and src == dst gives the same bits as separate arrays.
  */
-/* The declarations below are written by xfmgen from the list of families: build the target "door" to renew them. */
+/* The declarations below are written by xfmgen from the list of families: build the target "header" to renew them. */
 #ifndef XFM_H
 #define XFM_H
 
