@@ -7,6 +7,7 @@
 
 #include "paths.h"
 #include "tests/binary/tools.h"
+#include "tests/support/library.h"
 
 namespace xfm::test {
 namespace {
@@ -23,7 +24,7 @@ const std::set<std::string> protected_after_loading = {".data.rel.ro", ".dynamic
 
 TEST(Data, NothingWritableOfItsOwn) {
   const auto of_toolchain = writable_sections(paths::empty_library);
-  for (const auto& [name, section] : writable_sections(paths::library)) {
+  for (const auto& [name, section] : writable_sections(library_file())) {
     if (protected_after_loading.contains(name)) continue;
     const auto usual = of_toolchain.find(name);
     if (usual == of_toolchain.end()) {
@@ -38,8 +39,8 @@ TEST(Data, NothingWritableOfItsOwn) {
 TEST(Data, NoWritableObjectOfItsOwn) {
   std::set<std::string> of_toolchain;
   for (const Symbol& symbol : symbols(paths::empty_library)) of_toolchain.insert(symbol.name);
-  const auto writable = writable_sections(paths::library);
-  for (const Symbol& symbol : symbols(paths::library)) {
+  const auto writable = writable_sections(library_file());
+  for (const Symbol& symbol : symbols(library_file())) {
     for (const auto& [name, section] : writable) {
       if (protected_after_loading.contains(name) || !section.holds(symbol.address)) continue;
       EXPECT_TRUE(of_toolchain.contains(symbol.name)) << symbol.name << " is writable, in " << name;
@@ -50,7 +51,7 @@ TEST(Data, NoWritableObjectOfItsOwn) {
 TEST(Data, ConstantsWithAddressesAreProtected) {
   bool protects = false, at_once = false;
   std::uint64_t start = 0, end = 0;
-  for (const std::string& line : lines_of(std::string(paths::readelf) + " -ldW '" + paths::library + "'")) {
+  for (const std::string& line : lines_of(std::string(paths::readelf) + " -ldW '" + library_file() + "'")) {
     const auto words = words_of(line);
     if (!words.empty() && words[0] == "GNU_RELRO") {
       protects = true;
@@ -63,7 +64,7 @@ TEST(Data, ConstantsWithAddressesAreProtected) {
   }
   EXPECT_TRUE(protects);
   EXPECT_TRUE(at_once);
-  for (const auto& [name, section] : writable_sections(paths::library)) {
+  for (const auto& [name, section] : writable_sections(library_file())) {
     if (!protected_after_loading.contains(name)) continue;
     EXPECT_GE(section.address, start) << name;
     EXPECT_LE(section.address + section.size, end) << name;
@@ -74,7 +75,7 @@ TEST(Data, ConstantsWithAddressesAreProtected) {
 TEST(Data, ImportsCoreServicesAndSinesOnly) {
   const std::set<std::string> allowed = {"xfmMalloc", "xfmFree", "ownGetFeature", "cos",    "cosf",
                                          "sin",       "sinf",    "sincos",        "sincosf"};
-  for (const Symbol& symbol : dynamic_symbols(paths::library)) {
+  for (const Symbol& symbol : dynamic_symbols(library_file())) {
     if (symbol.kind != 'U') continue;
     EXPECT_TRUE(allowed.contains(symbol.name.substr(0, symbol.name.find('@'))))
         << symbol.name << " is imported";

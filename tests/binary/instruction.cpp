@@ -57,7 +57,7 @@ bool is_half_in_stack(const std::string& mnemonic, const std::string& operands) 
 Sort sort_of(const std::string& mnemonic, const std::string& operands) {
   static const Names names = make_names();
   const auto found = names.find(mnemonic);
-  if (found == names.end()) return Sort::stranger;
+  if (found == names.end()) return Sort::unexpected;
   if (is_half_in_stack(mnemonic, operands)) return Sort::between_lanes;
   if (found->second == Sort::scalar_add && doubles(mnemonic, operands)) return Sort::scalar_mult;
   if (found->second == Sort::packed_add && doubles(mnemonic, operands)) return Sort::packed_mult;

@@ -7,10 +7,10 @@
 
 namespace xfm::test {
 
-/// What an instruction does, as far as it matters to a kernel. Whatever is no other sort is a stranger:
-/// beyond the baseline of x86-64, or nothing that a kernel has a use for, like a division.
+/// What an instruction does, as far as it matters to a kernel. Everything else is unexpected: beyond the
+/// baseline of x86-64, or of no use to a kernel, such as a division.
 enum class Sort {
-  stranger,
+  unexpected,
   control,        ///< jumps, calls, returns
   integer,        ///< addresses, pointers, the flag, padding
   move,           ///< of a whole register or of a part that stays in its place

@@ -5,7 +5,8 @@ add_test(NAME package.core.exports
 
 # The reports, by a program that defines ownGetFeature itself; once with each form of the library.
 add_executable(package_version version_test.cpp)
-target_link_libraries(package_version PRIVATE xfm::xfm xfm::xfmcore)
+target_link_libraries(package_version PRIVATE xfm::xfm xfm::xfmcore xfm_test_main xfm_options)
+xfm_run_on_targets(package.version package_version --gtest_brief=1)
 add_executable(package_version_static version_test.cpp)
 target_link_libraries(package_version_static PRIVATE xfm::xfm_static)
 
@@ -14,7 +15,7 @@ target_link_libraries(package_memory PRIVATE xfm::xfmcore)
 add_executable(package_memory_static memory_test.cpp)
 target_link_libraries(package_memory_static PRIVATE xfm::xfmcore_static)
 
-foreach(program package_version package_version_static package_memory package_memory_static)
+foreach(program package_version_static package_memory package_memory_static)
   target_link_libraries(${program} PRIVATE xfm_options GTest::gtest_main)
   string(REGEX REPLACE "^package_[a-z]+_?" "" form ${program})
   # A request that cannot be met is a null pointer under the address sanitizer too.
