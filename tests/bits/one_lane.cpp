@@ -67,7 +67,7 @@ std::vector<Kernel> packed_complex_kernels() {
 TEST_P(OneLane, GivesTheSameBits) {
   constexpr int rounds = 4;
   const bool forward = std::string(kernel().family) == "DFTFwd_CToC";
-  const gen::Kernel made = generated(kernel());
+  const gen::Kernel& made = generated(kernel());
   const Scalar scalar = on_one_lane(gen::parse_tree(kernel().tree), kernel().length,
                                     forward ? dft::Direction::forward : dft::Direction::inverse);
   ASSERT_EQ(made.network->width(), gen::max_lanes);
