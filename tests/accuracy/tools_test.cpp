@@ -26,7 +26,7 @@ TEST(RoundedUp, ThreeDigitsAndNeverLess) {
   EXPECT_EQ(rounded_up(std::numeric_limits<double>::infinity()), "inf");
 }
 
-/// A definition that is off by a given amount at one entry.
+/// A definition that is off at one entry by a given amount.
 class Displaced : public Definition {
  public:
   Displaced(const Kernel& kernel, double by) : exact_(definition(kernel)), by_(by) {}

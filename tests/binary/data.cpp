@@ -1,5 +1,5 @@
-// The library holds no writable data of its own and starts nothing: its constants are read-only, and what can
-// be written is what the toolchain puts into any shared library.
+// The library has no writable data and no start-up code of its own: its constants are read-only, and what is
+// writable is what the toolchain puts into any shared library.
 #include <gtest/gtest.h>
 
 #include <map>
@@ -30,12 +30,12 @@ TEST(Data, NothingWritableOfItsOwn) {
     if (usual == of_toolchain.end()) {
       EXPECT_EQ(section.size, 0U) << name << " is writable";
     } else {
-      EXPECT_LE(section.size, usual->second.size) << name << " holds more than start-up code";
+      EXPECT_LE(section.size, usual->second.size) << name << " holds more than the toolchain's start-up code";
     }
   }
 }
 
-// A small object can hide where sections are padded; its name cannot.
+// A small object can hide in the padding of a section, but its name cannot.
 TEST(Data, NoWritableObjectOfItsOwn) {
   std::set<std::string> of_toolchain;
   for (const Symbol& symbol : symbols(paths::empty_library)) of_toolchain.insert(symbol.name);
@@ -60,7 +60,7 @@ TEST(Data, ConstantsWithAddressesAreProtected) {
     }
     if (line.find("BIND_NOW") != std::string::npos || line.find("Flags: NOW") != std::string::npos)
       at_once = true;
-    EXPECT_EQ(line.find("(TEXTREL)"), std::string::npos) << "code is rewritten when the library is loaded";
+    EXPECT_EQ(line.find("(TEXTREL)"), std::string::npos) << "the loader patches code";
   }
   EXPECT_TRUE(protects);
   EXPECT_TRUE(at_once);
@@ -71,7 +71,7 @@ TEST(Data, ConstantsWithAddressesAreProtected) {
   }
 }
 
-// Everything else that a kernel needs it carries itself. Sines and cosines are for the tables of the DCT-IV.
+// Kernels need nothing from outside but the core. Sines and cosines are for the tables of the DCT-IV.
 TEST(Data, ImportsCoreServicesAndSinesOnly) {
   const std::set<std::string> allowed = {"xfmMalloc", "xfmFree", "ownGetFeature", "cos",    "cosf",
                                          "sin",       "sinf",    "sincos",        "sincosf"};

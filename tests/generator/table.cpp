@@ -1,4 +1,4 @@
-// The rows of the tables, and the constants that all kernels together name.
+// The rows of the tables, and the constants of all kernels together.
 #include "src/dft/recipe/table.h"
 
 #include <gtest/gtest.h>
@@ -21,7 +21,7 @@ TEST(ComplexTable, EveryTreeHasTheLengthOfItsRow) {
     for (const dft::Breakdown& breakdown : {row.binary32, row.binary64}) {
       const gen::Tree tree = gen::parse_tree(breakdown.tree);
       EXPECT_EQ(gen::to_string(tree), breakdown.tree);
-      // A chirp has trees of greater length, there and back.
+      // A chirp has trees of greater length, one for each direction.
       if (tree.rule == "B") {
         for (const gen::Tree& inner : tree.args)
           EXPECT_GE(dft::length_of(inner), 2 * row.length - 1) << breakdown.tree;

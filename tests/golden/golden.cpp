@@ -49,7 +49,7 @@ TEST(Golden, KernelsAreAsRecorded) {
   }
   if (std::getenv("XFM_GOLDEN_UPDATE") != nullptr) write_table(XFM_GOLDEN_TABLE, headings, built);
   const std::string changed = difference(read_table(XFM_GOLDEN_TABLE), built);
-  EXPECT_TRUE(changed.empty()) << "Not as on record; if that is meant, build the target \"golden\":\n"
+  EXPECT_TRUE(changed.empty()) << "Not as recorded; if this is intended, build the target \"golden\":\n"
                                << changed;
 }
 
