@@ -16,8 +16,7 @@ class Factor : public KernelTest {
   /// Whether output i can be the unscaled one times the factor.
   static bool is_scaled(int i, double scaled, double unscaled, double factor);
 
-  /// A chirp takes an impulse through rounded constants: the unscaled output 0 of these kernels for an
-  /// impulse.
+  /// Output 0 of an impulse, unscaled, in kernels whose chirp takes it through rounded constants.
   static std::optional<double> impulse_of_chirp() {
     if (std::string(kernel().type) != "32fc") return std::nullopt;
     if (kernel().length == 47) return 0x1.fffffep-1;
@@ -33,8 +32,7 @@ bool Factor::is_scaled(int i, double scaled, double unscaled, double factor) {
   const auto product = [&](double value) { return rounded(kernel().precision, value * factor); };
   if (!may_scale_before_narrowing(kernel(), i)) {
     const double expected = product(unscaled);
-    // Where an output is negated after the factor, as 0 minus the product, a product that underflows gives
-    // +0.
+    // An output that is negated after the factor is 0 minus the product: +0 if the product underflows.
     return scaled == expected && (std::signbit(scaled) == std::signbit(expected) || real_family(kernel()));
   }
   const auto narrow = static_cast<float>(unscaled);

@@ -13,8 +13,7 @@ struct Errors {
 };
 
 /// Over the matrix that the unit vectors yield, one for each real scalar of src. An entry that is NaN is
-/// infinitely wrong. The mean is taken over scalars that are read and computed: zeros of a layout are
-/// neither.
+/// infinitely wrong. The mean is over scalars that are read and computed, so not over zeros of a layout.
 Errors errors_of_matrix(const catalogue::Kernel& kernel, const Definition& definition);
 
 struct Measured {

@@ -94,8 +94,7 @@ TEST_P(Code, NoLoop) {
   for (const auto& [name, body] : bodies()) EXPECT_EQ(body.has_loop, !kernel().straight) << name;
 }
 
-// The entry tests and the choice of the factor come first; after them every operation runs, whatever the
-// flag.
+// The entry tests and the choice of the factor come first; after them every operation runs, for any flag.
 TEST_P(Code, NoBranchAfterTheEntryTests) {
   if (!kernel().straight) return;
   for (const auto& [name, body] : bodies())
@@ -177,8 +176,7 @@ TEST_P(Code, RealTransformsNegateNothing) {
           << name << ": " << instruction->text();
 }
 
-// Constants are binary64 in either precision; only the factor, and the 2 of a doubling, multiply binary32
-// values.
+// Constants are binary64 in either precision; binary32 values meet only the factor and the 2 of a doubling.
 TEST_P(Code, RealTransformsMultiplyConstantsInBinary64) {
   if (real_family(kernel()) == nullptr) return;
   for (const auto& [name, body] : bodies()) {

@@ -82,8 +82,7 @@ std::string_view next_word(std::string_view& text) {
 
 }  // namespace
 
-// "  270a:\tmovss  0x4bde(%rip),%xmm5        # 72f0 <factors+0x50>": the address of a constant follows
-// the mark.
+// "  270a:\tmovss  0x4bde(%rip),%xmm5        # 72f0 <factors+0x50>": the constant's address follows #.
 std::optional<Instruction> parse_instruction(const std::string& line) {
   const auto colon = line.find(":\t");
   if (line.empty() || line[0] != ' ' || colon == std::string::npos) return std::nullopt;

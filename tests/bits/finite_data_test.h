@@ -1,5 +1,4 @@
-// Kernels on all kinds of data whose sums stay finite: infinity minus infinity is NaN, whose bits are not
-// fixed.
+// Kernels on all kinds of data whose sums stay finite, since the bits of infinity minus infinity are open.
 #pragma once
 
 #include "tests/bits/data.h"

@@ -1,5 +1,4 @@
-// The life of a state. This program replaces libxfmcore by a core that counts, records requests, and can
-// fail.
+// The life of a state. This program replaces the core by one that counts, records requests, and can fail.
 #include <gtest/gtest.h>
 
 #include <cstring>

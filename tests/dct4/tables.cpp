@@ -62,8 +62,7 @@ void expect_value(T got, T x, bool sine) {
       << "angle " << angle;
 }
 
-/// Near the value at the exact angle, 2 pi turn / whole: roundings move the angle by a few of its last
-/// places.
+/// Near the value at the exact angle, 2 pi turn / whole, which roundings move by a few last places.
 template <class T>
 void expect_near(T got, std::int64_t turn, std::int64_t whole, bool sine) {
   const Wide exact = sine ? cosine_of_turn(4 * turn - whole, static_cast<unsigned long>(4 * whole))

@@ -1,5 +1,4 @@
-// Eight threads, each with a state of its own, or all with one state of a base length, under the thread
-// sanitizer.
+// Eight threads under the thread sanitizer: with a state each, or with one state of a base length for all.
 #include <gtest/gtest.h>
 
 #include <thread>

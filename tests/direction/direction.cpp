@@ -153,8 +153,7 @@ TEST_P(ComplexDirection, InverseIsForwardWithPartsExchanged) {
 }
 
 // In binary64 real and imaginary parts go through a network of real coefficients and meet only in its last
-// step, where the direction is the sign of a term: the same bits again. In binary32 twiddles round on the
-// way.
+// step, where the direction is the sign of a term: the same bits again. Binary32 twiddles round earlier.
 TEST_P(ComplexDirection, InverseIsForwardReflected) {
   const bool exact = kernel().precision == Precision::binary64;
   for (int round = 0; round < 4; ++round) {

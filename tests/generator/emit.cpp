@@ -25,8 +25,7 @@ TEST(Literal, KeepsEveryBit) {
   }
 }
 
-// 1 + 2^-24 + 2^-60 lies just above the midpoint of two binary32 numbers; rounded to binary64 it is that
-// midpoint.
+// 1 + 2^-24 + 2^-60 lies just above the midpoint of two binary32 numbers, and rounds to it in binary64.
 TEST(Literal, IsRoundedOnce) {
   const Wide value = Wide(1) + Wide(0x1p-24) + Wide(0x1p-60);
   EXPECT_EQ(std::strtof(literal(value, Precision::binary32).c_str(), nullptr), 1 + 0x1p-23F);

@@ -10,8 +10,7 @@
 namespace xfm::test {
 
 /// The values allowed. The order in which a linear combination adds its terms is left open, since in binary32
-/// it hardly ever shows: any value that some order gives is allowed. Everything else has one order and one
-/// value.
+/// it hardly ever shows: any value that some order gives is allowed. Everything else has a single value.
 template <class T>
 class OneOf {
  public:

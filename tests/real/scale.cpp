@@ -50,8 +50,7 @@ TEST_P(ScaleFollowsTheValue, IntoTheLinearCombination) {
   EXPECT_EQ(!wide.empty(), possible);
 }
 
-// A direct block as the only stage, or as the last one after a butterfly: every bin except those that are
-// sums.
+// A direct block as the only stage, or the last one after a butterfly: every bin that is not a plain sum.
 TEST_P(ScaleFollowsTheValue, InAllBinsOfADirectBlock) {
   const int n = kernel().length;
   std::set<int> sums = {0};

@@ -6,8 +6,7 @@
 namespace xfm::test {
 namespace {
 
-// Orders 1, 3, ... 13. In binary64 it is the quotient of 1 by the rounded root, one step below the nearest
-// value.
+// Orders 1, 3, ... 13. In binary64 1 divided by the rounded root, one step below the nearest value.
 constexpr std::uint32_t odd_roots_binary32[] = {0x3F3504F3, 0x3EB504F3, 0x3E3504F3, 0x3DB504F3,
                                                 0x3D3504F3, 0x3CB504F3, 0x3C3504F3};
 constexpr std::uint64_t odd_roots_binary64[] = {0x3FE6A09E667F3BCC, 0x3FD6A09E667F3BCC, 0x3FC6A09E667F3BCC,
