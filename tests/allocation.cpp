@@ -1,9 +1,10 @@
-// Kernels allocate nothing, where those that need a work buffer are given one. The allocation functions of
-// the C library and of the core library are replaced here by ones that count.
+// Kernels allocate nothing if the caller provides the work buffer of those that need one. This program
+// replaces the allocation functions of the C library, which the core library calls, by ones that count.
 #include <cstdlib>
 
 #include "tests/support/kernel_test.h"
 #include "tests/support/reference.h"
+#include "xfmcore.h"
 
 // The address sanitizer replaces the same functions.
 #if defined(__SANITIZE_ADDRESS__)
@@ -58,7 +59,7 @@ int posix_memalign(void** block, std::size_t alignment, std::size_t size) {
 namespace xfm::test {
 namespace {
 
-/// The count of one call, taken next to it: all that a test does around it may allocate.
+/// Counted right around the call, since the rest of a test may allocate.
 long allocations_of(const Kernel& kernel, const void* src, void* dst, std::int32_t flag, void* buffer) {
   long count = 0;
   attempt([&] {
@@ -92,13 +93,15 @@ TEST_P(Allocation, None) {
 
 XFM_FOR_ALL_KERNELS(Allocation);
 
-// The counter sees what the core library does, so that a zero above means something.
+// The counter sees an allocation of the core library, so that a zero above means something.
 TEST(AllocationCounter, SeesTheCoreLibrary) {
   if (!XFM_COUNT_ALLOCATIONS) GTEST_SKIP() << "the address sanitizer owns malloc";
   const long before = allocations;
-  void* volatile block = std::malloc(10);
-  EXPECT_EQ(allocations, before + 1);
-  std::free(block);
+  void* const block = xfmMalloc(10);
+  const long after = allocations;
+  xfmFree(block);
+  ASSERT_NE(block, nullptr);
+  EXPECT_EQ(after, before + 1);
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// What the arithmetic does with unusual values and with the caller's control bits.
+// How kernels treat unusual values and the control bits of the caller.
 #include <xmmintrin.h>
 
 #include <cmath>
@@ -12,7 +12,7 @@ namespace {
 
 constexpr unsigned exception_flags = 0x3f, flush_bits = 0x8040, all_masked = 0x1f80;
 
-/// Puts the control register back, also when a test stops early.
+/// Restores the control register, even if a test stops early.
 class ControlRegister {
  public:
   explicit ControlRegister(unsigned value) : before_(_mm_getcsr()) { _mm_setcsr(value); }
@@ -27,7 +27,7 @@ class ControlRegister {
 
 class Arithmetic : public KernelTest {
  protected:
-  /// Outputs that depend on the input scalar are not finite, whatever the others are.
+  /// Outputs that depend on the input scalar must not be finite, whatever the other inputs are.
   void expect_flow(double poisonous, bool nan);
   static double least_subnormal() { return kernel().precision == Precision::binary32 ? 0x1p-149 : 0x1p-1074; }
 };
@@ -50,7 +50,7 @@ TEST_P(Arithmetic, KeepsTheControlBits) {
 
 void Arithmetic::expect_flow(double poisonous, bool nan) {
   const auto reference = definition(kernel());
-  const int apart = kernel().read > 1000 ? 7 : 1;  // a prime: every lane, block and column has its turn
+  const int apart = kernel().read > 1000 ? 7 : 1;  // a prime: every lane, block and column is hit
   for (int in = 0; in < kernel().read; in += apart) {
     Array src = random_input();
     src.set(in, poisonous);
@@ -58,7 +58,7 @@ void Arithmetic::expect_flow(double poisonous, bool nan) {
     for (int out = 0; out < kernel().written; ++out) {
       if (reference->entry(out, in) == 0) continue;
       ASSERT_FALSE(nan ? !std::isnan(dst[out]) : std::isfinite(dst[out]))
-          << "output scalar " << out << " is " << dst[out] << " of " << poisonous << " at input scalar "
+          << "output scalar " << out << " is " << dst[out] << " for " << poisonous << " at input scalar "
           << in;
     }
   }
@@ -91,7 +91,7 @@ TEST_P(Arithmetic, ZeroGivesZero) {
   }
 }
 
-// Nothing is flushed: sums of subnormal numbers are exact, and a product is off by half of the least one.
+// Nothing is flushed: sums of subnormal numbers are exact, and a product is off by half the least one.
 TEST_P(Arithmetic, SubnormalNumbersCount) {
   const auto reference = definition(kernel());
   const Array src = random_input(Kind::subnormal);

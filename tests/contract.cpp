@@ -1,4 +1,4 @@
-// Kernels: statuses and their order, and what a call leaves alone.
+// Kernels: statuses and their order, and what a call must not change.
 #include "tests/support/bad_flags.h"
 #include "tests/support/kernel_test.h"
 #include "tests/support/reference.h"
@@ -8,8 +8,7 @@ namespace {
 
 class Contract : public KernelTest {
  protected:
-  /// One call must give the status, and leave src and dst as they are. Either pointer may be replaced by
-  /// null.
+  /// One call must return the status and leave src and dst unchanged. Either pointer may be replaced by null.
   static void expect_refusal(xfmStatus expected, Array& src, Array& dst, std::int32_t flag,
                              bool src_null = false, bool dst_null = false);
 };
@@ -18,8 +17,8 @@ void Contract::expect_refusal(xfmStatus expected, Array& src, Array& dst, std::i
                               bool dst_null) {
   const Array src_before(src), dst_before(dst);
   ASSERT_EQ(run(kernel(), src_null ? nullptr : src.data(), dst_null ? nullptr : dst.data(), flag), expected)
-      << "flag " << flag << ", src " << (src_null ? "null" : "given") << ", dst "
-      << (dst_null ? "null" : "given");
+      << "flag " << flag << ", src " << (src_null ? "null" : "valid") << ", dst "
+      << (dst_null ? "null" : "valid");
   ASSERT_TRUE(same_bits(src, src_before)) << "src was written, flag " << flag;
   ASSERT_TRUE(same_bits(dst, dst_before)) << "dst was written, flag " << flag;
 }
@@ -47,7 +46,7 @@ TEST_P(Contract, RefusesEveryOtherFlag) {
   }
 }
 
-// Whatever the flag says, and whether or not the other pointer is a multiple of 16.
+// Whatever the flag, and whether or not the other pointer is a multiple of 16.
 TEST_P(Contract, NullPointersComeFirst) {
   for (int offset = 0; offset < 16; offset += step()) {
     Array src(kernel().precision, kernel().read, offset), dst(kernel().precision, kernel().written, offset);
@@ -63,7 +62,7 @@ TEST_P(Contract, NullPointersComeFirst) {
   }
 }
 
-// Equal results over unlike contents: every output was written, and none was read.
+// Equal results over different contents: every output is written and none is read.
 TEST_P(Contract, WritesEveryOutputAndReadsNone) {
   const Array src = random_input();
   for (int offset = 0; offset < 16; offset += step()) {

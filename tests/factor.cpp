@@ -1,4 +1,4 @@
-// The factor: which one a flag selects, to the bit, and that it is the last multiplication of every output.
+// The factor: which one a flag selects, to the bit, and that it multiplies every output last.
 #include <cmath>
 #include <limits>
 #include <optional>
@@ -13,11 +13,10 @@ namespace {
 
 class Factor : public KernelTest {
  protected:
-  /// Whether output i under a flag can be the unscaled one times the factor.
+  /// Whether output i can be the unscaled one times the factor.
   static bool is_scaled(int i, double scaled, double unscaled, double factor);
 
-  /// A chirp carries an impulse through rounded constants; what the unscaled output 0 of these kernels is
-  /// then.
+  /// Output 0 of an impulse, unscaled, in kernels whose chirp takes it through rounded constants.
   static std::optional<double> impulse_of_chirp() {
     if (std::string(kernel().type) != "32fc") return std::nullopt;
     if (kernel().length == 47) return 0x1.fffffep-1;
@@ -26,14 +25,14 @@ class Factor : public KernelTest {
   }
 };
 
-/// Two binary32 factors have an exact product in binary64, so that this rounds once in either precision.
-/// Where the value is still a binary64 one when the factor comes to it, nothing but the result is rounded to
-/// binary32: then it is some value that rounds to the unscaled output.
+/// The product of two binary32 numbers is exact in binary64, so this rounds once in either precision. Where
+/// the factor multiplies a value that is still binary64, only the result is rounded to binary32: the value
+/// may then be any that rounds to the unscaled output.
 bool Factor::is_scaled(int i, double scaled, double unscaled, double factor) {
   const auto product = [&](double value) { return rounded(kernel().precision, value * factor); };
   if (!may_scale_before_narrowing(kernel(), i)) {
     const double expected = product(unscaled);
-    // Where a sign is turned behind the factor, by a subtraction from zero, what underflows is +0.
+    // An output that is negated after the factor is 0 minus the product: +0 if the product underflows.
     return scaled == expected && (std::signbit(scaled) == std::signbit(expected) || real_family(kernel()));
   }
   const auto narrow = static_cast<float>(unscaled);
@@ -51,7 +50,7 @@ TEST_P(Factor, IsTheLastProduct) {
       const Array scaled = separate(src, flag);
       for (int i = 0; i < scaled.count(); ++i)
         ASSERT_TRUE(is_scaled(i, scaled[i], unscaled[i], factor(kernel(), flag)))
-            << to_string(kind) << " data, flag " << flag << ", scalar " << i << " is " << scaled[i] << " of "
+            << to_string(kind) << " data, flag " << flag << ", scalar " << i << " is " << scaled[i] << " for "
             << unscaled[i];
     }
   }
@@ -67,7 +66,7 @@ TEST_P(Factor, FlagsOfTheSameFactorAgree) {
   }
 }
 
-// The first column of the matrix holds zeros and ones in most families: the factor comes through by itself.
+// The first column of the matrix is zeros and ones in most families: the outputs are 0 and the factor itself.
 TEST_P(Factor, IsTheOutputOfAnImpulse) {
   Array src(kernel().precision, kernel().read);
   src.fill(0.0);

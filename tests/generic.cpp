@@ -1,4 +1,4 @@
-// Generic functions: the length is looked at first and alone, and chooses the kernel.
+// Generic functions: the length is checked before anything else, and chooses the kernel.
 #include <set>
 
 #include "tests/support/bad_flags.h"
@@ -13,9 +13,9 @@ constexpr std::int32_t greatest = std::numeric_limits<std::int32_t>::max();
 
 class GenericContract : public GenericTest {
  protected:
-  /// Every length that no kernel of the family serves, near the served ones and far away.
+  /// Lengths without a kernel in the family, near those that have one and far away.
   static std::set<std::int32_t> bad_lengths();
-  /// -6 whatever the other arguments are, and nothing is written.
+  /// The status must be -6 whatever the other arguments are, and nothing is written.
   void expect_bad_size(std::int32_t length);
 };
 
@@ -23,7 +23,7 @@ std::set<std::int32_t> GenericContract::bad_lengths() {
   std::set<std::int32_t> lengths = {
       least, least + 1, greatest, greatest - 1, -1, 0, generic().lowest - 1, generic().highest + 1};
   for (std::int32_t length = -300; length <= 300; ++length) lengths.insert(length);
-  // What is left of these in 8 or 16 bits, or without the sign, is a good length.
+  // Cut to 8 or 16 bits, or without the sign, these are valid lengths.
   for (int length = generic().lowest; length <= generic().highest; ++length) {
     for (const std::int32_t beyond : {1 << 8, 1 << 16, 1 << 24, 1 << 30, least})
       lengths.insert(length + beyond);
@@ -108,13 +108,13 @@ TEST_P(GenericEqualsDirect, SameRefusals) {
 
 XFM_FOR_ALL_KERNELS(GenericEqualsDirect);
 
-// The catalogue itself: what walks it must see every kernel once and under its right name.
+// The catalogue itself has every kernel once and under its right name.
 TEST(Catalogue, NamesAndShapes) {
   std::set<std::string> names;
   for (const Kernel& kernel : catalogue::kernels()) {
     EXPECT_EQ(kernel.name,
               "xfm" + std::string(kernel.family) + "_" + std::to_string(kernel.length) + "_" + kernel.type);
-    EXPECT_TRUE(names.insert(kernel.name).second) << kernel.name << " stands twice";
+    EXPECT_TRUE(names.insert(kernel.name).second) << kernel.name << " is listed twice";
     EXPECT_EQ(kernel.precision == Precision::binary32, std::string(kernel.type).starts_with("32"))
         << kernel.name;
     EXPECT_GT(kernel.read, 0) << kernel.name;
@@ -122,7 +122,7 @@ TEST(Catalogue, NamesAndShapes) {
   }
   for (const Generic& generic : catalogue::generics()) {
     EXPECT_EQ(generic.name, "xfm" + std::string(generic.family) + "_" + generic.type);
-    EXPECT_TRUE(names.insert(generic.name).second) << generic.name << " stands twice";
+    EXPECT_TRUE(names.insert(generic.name).second) << generic.name << " is listed twice";
   }
   EXPECT_FALSE(names.empty());
 }

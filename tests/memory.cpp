@@ -1,4 +1,4 @@
-// Which memory a call touches: the arrays, inside their ends, src for reading only.
+// Which memory a call touches: only the two arrays, and src only to read.
 #include <algorithm>
 #include <memory>
 
@@ -9,8 +9,8 @@
 namespace xfm::test {
 namespace {
 
-/// An array's place between two guard pages: touching either, or one scalar away from it, which is what makes
-/// a packed kernel go through its unaligned body.
+/// The place of an array between two guard pages: next to either, or one scalar away, where a packed kernel
+/// takes its unaligned variant.
 enum class Place { first, after_first, before_last, last };
 constexpr Place places[] = {Place::first, Place::after_first, Place::before_last, Place::last};
 
@@ -30,7 +30,7 @@ class Memory : public KernelTest {
     }
   }
   static std::size_t room(int count) { return static_cast<std::size_t>((count + 1) * step()); }
-  /// Between guard pages, src write-protected, what lies around dst unchanged.
+  /// With src write-protected, both between guard pages: what surrounds dst must stay unchanged.
   void expect_inside(Guarded& from, Guarded& to, Place src_place, Place dst_place);
 };
 
@@ -47,9 +47,9 @@ void Memory::expect_inside(Guarded& from, Guarded& to, Place src_place, Place ds
     ASSERT_EQ(run(kernel(), src, dst, flag), xfmStsOk);
     ASSERT_TRUE(same_bits(dst, separate(data, flag).data(), kernel().precision, kernel().written));
     const auto untouched = [](std::byte b) { return b == std::byte{0xAA}; };
-    ASSERT_TRUE(std::all_of(to.begin(), dst, untouched)) << "written in front of dst";
+    ASSERT_TRUE(std::all_of(to.begin(), dst, untouched)) << "wrote before dst";
     ASSERT_TRUE(std::all_of(dst + std::ptrdiff_t{kernel().written} * step(), to.end(), untouched))
-        << "written behind dst";
+        << "wrote after dst";
   }
 }
 
@@ -70,8 +70,8 @@ TEST_P(Memory, RefusalsTouchNeitherArray) {
     EXPECT_EQ(run(kernel(), inside_guard + offset, inside_guard + 64, 3), xfmStsBadScale);
 }
 
-// Aligned arrays that end within the last 16 bytes of a register: no page ends there, but the address
-// sanitizer watches the heap to the byte. Without it this is an ordinary call.
+// Aligned arrays whose last register they fill only in part. No page ends there, but the address sanitizer
+// watches the heap to the byte; without it this is an ordinary call.
 TEST_P(Memory, StaysInsideExactHeapBlocks) {
   const auto aligned_new = [&](int count) {
     return std::unique_ptr<std::byte[], void (*)(std::byte*)>(

@@ -1,4 +1,4 @@
-// The tools of the tests must themselves be able to say no.
+// The tools of the tests must themselves be able to fail.
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -51,7 +51,7 @@ TEST(Arrays, UlpDistance) {
   EXPECT_GT(ulp_distance(Precision::binary32, NAN, 1), 1U << 31);
 }
 
-TEST(RandomData, OneStreamAName) {
+TEST(RandomData, EachNameHasAStream) {
   Random one("name"), same("name"), other("another");
   const double first = one.even();
   EXPECT_EQ(first, same.even());
@@ -80,9 +80,9 @@ TEST(Reference, KnownEntries) {
   };
   const auto near = [](Wide a, Wide b) { return (a < b ? b - a : a - b) < Wide{1e-31}; };
   EXPECT_TRUE(entry(8, 0, 0) == 1);
-  EXPECT_TRUE(entry(8, 4, 4) == -1);  // half a turn
+  EXPECT_TRUE(entry(8, 4, 4) == -1);  // half the circle
   EXPECT_TRUE(entry(8, 5, 4) == 0);
-  EXPECT_TRUE(entry(8, 3, 4) == -1);  // a quarter of a turn, clockwise
+  EXPECT_TRUE(entry(8, 3, 4) == -1);  // a quarter of the circle, clockwise
   const Wide half_root = entry(8, 2, 2);
   EXPECT_TRUE(near(half_root * half_root * 2, 1));
   EXPECT_TRUE(near(entry(6, 2, 2) * 2, 1));
@@ -90,7 +90,7 @@ TEST(Reference, KnownEntries) {
   EXPECT_TRUE(near(golden * golden, 5));
 }
 
-// Of four points: X(1) = (x0 - x2) - i (x1 - x3), and the inverse with the bin between counted twice.
+// Four points: X(1) = (x0 - x2) - i (x1 - x3), and the inverse with the inner bin counted twice.
 TEST(Reference, RealTransforms) {
   const auto row = [](const char* family, int out) {
     catalogue::Kernel kernel = {};
@@ -111,7 +111,7 @@ TEST(Reference, RealTransforms) {
   EXPECT_EQ(row("DFTInv_PermToR", 3), (Row{1, -1, 0, 2}));
 }
 
-TEST(Reference, NoEntryPassesTheGreatestOfItsColumn) {
+TEST(Reference, NoEntryExceedsTheGreatestOfItsColumn) {
   for (const RealFamily& family : real_families) {
     for (int length = 2; length <= 64; ++length) {
       catalogue::Kernel kernel = {};
@@ -131,7 +131,7 @@ TEST(Reference, NoEntryPassesTheGreatestOfItsColumn) {
   }
 }
 
-// Spectra have bins that count twice: two inputs that are not read and one of each weight.
+// Inner bins of a spectrum count twice: two inputs are not read, and there is one of each weight.
 TEST(Reference, Magnitude) {
   catalogue::Kernel kernel = {};
   kernel.family = "DFTInv_CCSToR";

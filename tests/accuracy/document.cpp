@@ -71,7 +71,7 @@ std::string figures(const std::vector<Measured>& measured) {
   std::map<std::string, std::map<int, Line>> families;
   for (const Measured& one : measured)
     families[one.kernel.family][one.kernel.length][one.kernel.precision == Precision::binary64] = &one;
-  // Families of equal figures, such as the layouts of one transform, have one table under all their names.
+  // Families with equal figures, such as the layouts of one transform, share a table under all their names.
   std::map<std::string, std::string> headings;
   for (const auto& [family, lines] : families) {
     std::string& heading = headings[table(lines)];

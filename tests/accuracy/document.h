@@ -1,4 +1,4 @@
-// The published figures: the part of docs/accuracy.md that is written by machine, and the file around it.
+// The published figures: the generated part of docs/accuracy.md, and the file around it.
 #pragma once
 
 #include <string>
@@ -11,18 +11,18 @@ namespace xfm::test {
 /// Three significant digits, never less than the value.
 std::string rounded_up(double value);
 
-/// The kernels beyond the bound of their precision, then a table a family.
+/// The kernels beyond the bound of their precision, then a table for each family.
 std::string figures(const std::vector<Measured>& measured);
 
 /// The first line in which two texts differ, from both; empty for equal texts.
 std::string first_difference(const std::string& published, const std::string& measured);
 
-/// A text of which everything up to a line that starts with the marker is written by hand.
+/// A text that is written by hand up to the line that starts with the marker, and generated from there on.
 class Document {
  public:
   static constexpr const char* marker = "<!-- figures";
 
-  /// Throws where the file or its marker is missing.
+  /// Throws if the file or its marker is missing.
   explicit Document(const std::string& path);
   const std::string& figures() const { return figures_; }
   /// Rewrites the file with these figures.

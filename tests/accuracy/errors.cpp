@@ -1,6 +1,5 @@
 #include "tests/accuracy/errors.h"
 
-#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -10,7 +9,8 @@
 namespace xfm::test {
 
 Errors errors_of_matrix(const catalogue::Kernel& kernel, const Definition& definition) {
-  double worst = 0, squares = 0;
+  Errors errors;
+  double squares = 0;
   int columns = 0;
   for (int in = 0; in < kernel.read; ++in) {
     columns += definition.greatest(in) > 0 ? 1 : 0;
@@ -22,11 +22,15 @@ Errors errors_of_matrix(const catalogue::Kernel& kernel, const Definition& defin
     for (int out = 0; out < kernel.written; ++out) {
       auto error = std::abs(static_cast<double>(Wide{dst[out]} - definition.entry(out, in)));
       if (std::isnan(error)) error = std::numeric_limits<double>::infinity();
-      worst = std::max(worst, error);
       squares += error * error;
+      if (error <= errors.worst) continue;
+      errors.worst = error;
+      errors.worst_out = out;
+      errors.worst_in = in;
     }
   }
-  return {.worst = worst, .rms = std::sqrt(squares / columns / scaled_outputs(kernel))};
+  errors.rms = std::sqrt(squares / columns / scaled_outputs(kernel));
+  return errors;
 }
 
 std::vector<Measured> measure_all() {

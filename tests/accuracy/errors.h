@@ -1,4 +1,4 @@
-// How far the entries of a kernel's matrix are from the definition.
+// How far the entries of a kernel's matrix are from the definition of its transform.
 #pragma once
 
 #include <vector>
@@ -9,11 +9,11 @@ namespace xfm::test {
 
 struct Errors {
   double worst = 0, rms = 0;
+  int worst_out = 0, worst_in = 0;  ///< real scalars of dst and src
 };
 
-/// Of the matrix that all unit vectors give, each real scalar of src in turn. An entry that is NaN is
-/// infinitely wrong. The mean is that of the scalars that are read and computed: zeros of a layout are
-/// neither.
+/// Over the matrix that the unit vectors yield, one for each real scalar of src. An entry that is NaN is
+/// infinitely wrong. The mean is over scalars that are read and computed, so not over zeros of a layout.
 Errors errors_of_matrix(const catalogue::Kernel& kernel, const Definition& definition);
 
 struct Measured {

@@ -1,4 +1,4 @@
-// The measuring itself must be able to find something.
+// The measurement must be able to find an error, and the document to show it.
 #include <cmath>
 #include <cstring>
 #include <limits>
@@ -26,7 +26,7 @@ TEST(RoundedUp, ThreeDigitsAndNeverLess) {
   EXPECT_EQ(rounded_up(std::numeric_limits<double>::infinity()), "inf");
 }
 
-/// A definition that is off by a given amount at one entry.
+/// A definition that is off at one entry by a given amount.
 class Displaced : public Definition {
  public:
   Displaced(const Kernel& kernel, double by) : exact_(definition(kernel)), by_(by) {}
@@ -39,8 +39,8 @@ class Displaced : public Definition {
   double by_;
 };
 
-// Length 4 is exact, so that the displacement is all there is.
-TEST(Errors, SeeOneEntry) {
+// Length 4 is exact, so the displacement is the only error.
+TEST(Errors, OneEntryShows) {
   for (const char* type : {"32fc", "64fc"}) {
     const Kernel& kernel = kernel_named(std::string("xfmDFTFwd_CToC_4_") + type);
     const Errors exact = errors_of_matrix(kernel, Displaced(kernel, 0));
@@ -48,11 +48,13 @@ TEST(Errors, SeeOneEntry) {
     EXPECT_EQ(exact.rms, 0);
     const Errors errors = errors_of_matrix(kernel, Displaced(kernel, -0x1p-40));
     EXPECT_EQ(errors.worst, 0x1p-40);
+    EXPECT_EQ(errors.worst_out, 3);
+    EXPECT_EQ(errors.worst_in, 5);
     EXPECT_DOUBLE_EQ(errors.rms, 0x1p-40 / 8);  // 64 entries
   }
 }
 
-TEST(Errors, TellDirectionsApart) {
+TEST(Errors, OfTheOtherDirectionAreLarge) {
   const Errors errors = errors_of_matrix(kernel_named("xfmDFTFwd_CToC_4_64fc"),
                                          *definition(kernel_named("xfmDFTInv_CToC_4_64fc")));
   EXPECT_EQ(errors.worst, 2);
@@ -67,24 +69,24 @@ TEST(Errors, NanIsInfinitelyWrong) {
   EXPECT_TRUE(std::isinf(errors_of_matrix(kernel, *definition(kernel)).worst));
 }
 
-// A family that one precision has and the other has not, and an entry beyond the bound.
+// A length that only one precision has, and an entry beyond the bound.
 TEST(Figures, TableOfAFamily) {
   const Kernel& narrow = kernel_named("xfmDFTFwd_CToC_8_32fc");
   const Kernel& wide = kernel_named("xfmDFTFwd_CToC_9_64fc");
-  const std::string text = figures({{narrow, {3.001e-7, 1e-8}}, {wide, {2e-15, 0}}});
+  const std::string text = figures({{narrow, {.worst = 3.001e-7, .rms = 1e-8}}, {wide, {.worst = 2e-15}}});
   EXPECT_NE(text.find("| `xfmDFTFwd_CToC_8_32fc` | " + std::string(narrow.tree) + " | 3.01e-07 |\n\n"),
             std::string::npos);
   EXPECT_NE(text.find("\n| 8 | **3.01e-07** | 1.00e-08 | | |\n| 9 | | | 2.00e-15 | 0 |\n"), std::string::npos)
       << text;
-  EXPECT_NE(figures({{wide, {1e-16, 0}}}).find("No kernel."), std::string::npos);
+  EXPECT_NE(figures({{wide, {.worst = 1e-16}}}).find("No kernel."), std::string::npos);
 }
 
 TEST(Figures, FamiliesOfEqualFiguresShareATable) {
   const Kernel& one = kernel_named("xfmDFTFwd_CToC_8_64fc");
   const Kernel& other = kernel_named("xfmDFTInv_CToC_8_64fc");
-  const std::string equal = figures({{one, {1e-16, 0}}, {other, {1e-16, 0}}});
+  const std::string equal = figures({{one, {.worst = 1e-16}}, {other, {.worst = 1e-16}}});
   EXPECT_NE(equal.find("\n## DFTFwd_CToC, DFTInv_CToC\n"), std::string::npos) << equal;
-  const std::string apart = figures({{one, {1e-16, 0}}, {other, {2e-16, 0}}});
+  const std::string apart = figures({{one, {.worst = 1e-16}}, {other, {.worst = 2e-16}}});
   EXPECT_NE(apart.find("\n## DFTFwd_CToC\n"), std::string::npos) << apart;
   EXPECT_NE(apart.find("\n## DFTInv_CToC\n"), std::string::npos) << apart;
 }

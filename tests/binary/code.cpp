@@ -1,41 +1,42 @@
-// The code of every kernel, body and twin: straight, self-contained, within the instruction set, and with no
-// more operations than its row allows.
+// The code of every kernel and of its unaligned variant: straight, self-contained, within the instruction
+// set, and with no more operations than its row allows.
 #include <algorithm>
 #include <map>
 #include <optional>
 #include <set>
 
-#include "paths.h"
 #include "tests/binary/disassembly.h"
 #include "tests/binary/tools.h"
 #include "tests/support/kernel_test.h"
 #include "tests/support/layout.h"
+#include "tests/support/library.h"
 #include "tests/support/reference.h"
 
 namespace xfm::test {
 namespace {
 
 const Disassembly& code() {
-  static const Disassembly disassembly(paths::library);
+  static const Disassembly disassembly(library_file());
   return disassembly;
 }
 
 /// Each body is traced once, for all the tests that look at it.
-const Body& traced(const std::string& function, const std::string& twin) {
+const Body& traced(const std::string& function, const std::string& variant) {
   static std::map<std::string, Body> known;
   const auto found = known.find(function);
   return found != known.end() ? found->second
-                              : known.emplace(function, trace(code(), function, twin)).first->second;
+                              : known.emplace(function, trace(code(), function, variant)).first->second;
 }
 
 class Code : public KernelTest {
  protected:
   void SetUp() override {
-    const std::string name = kernel().name, twin = name + "_unaligned";
+    const std::string name = kernel().name, variant = name + "_unaligned";
     ASSERT_TRUE(code().has(name));
-    ASSERT_EQ(code().has(twin), kernel().packed) << "a packed kernel, and no other, has a twin";
-    bodies_.emplace(name, traced(name, kernel().packed ? twin : ""));
-    if (kernel().packed) bodies_.emplace(twin, traced(twin, ""));
+    ASSERT_EQ(code().has(variant), kernel().packed)
+        << "packed kernels have an unaligned variant, and no others";
+    bodies_.emplace(name, traced(name, kernel().packed ? variant : ""));
+    if (kernel().packed) bodies_.emplace(variant, traced(variant, ""));
   }
 
   /// By name.
@@ -54,7 +55,7 @@ class Code : public KernelTest {
            both.substr(0, comma) == both.substr(comma + 1);
   }
 
-  /// The displacement in front of a base register: 8 of "0x8(%rdi),%xmm0", 0 of "(%rdi),%xmm0".
+  /// The displacement before a base register: 8 of "0x8(%rdi),%xmm0", 0 of "(%rdi),%xmm0".
   static std::optional<int> displacement_in(const std::string& operands, const std::string& base) {
     const auto at = operands.find(base);
     if (at == std::string::npos) return std::nullopt;
@@ -79,7 +80,7 @@ class Code : public KernelTest {
     return count;
   }
 
-  /// A vector kernel without a twin holds the unaligned body itself.
+  /// A vector kernel without an unaligned variant holds both bodies itself.
   static int bodies_a_function() { return kernel().packed_math && !kernel().packed ? 2 : 1; }
   /// Binary64 and packed.
   static bool in_pairs() { return kernel().packed_math && kernel().precision == Precision::binary64; }
@@ -88,20 +89,20 @@ class Code : public KernelTest {
   std::map<std::string, const Body&> bodies_;
 };
 
-// But for those of the passes over a work buffer.
+// Except in the passes over a work buffer.
 TEST_P(Code, NoLoop) {
   for (const auto& [name, body] : bodies()) EXPECT_EQ(body.has_loop, !kernel().straight) << name;
 }
 
-// The entry tests and the choice of the factor come first; then every operation is done, whatever the flag.
+// The entry tests and the choice of the factor come first; after them every operation runs, for any flag.
 TEST_P(Code, NoBranchAfterTheEntryTests) {
   if (!kernel().straight) return;
   for (const auto& [name, body] : bodies())
     for (const std::string& branch : body.late_branches) ADD_FAILURE() << name << ": " << branch;
 }
 
-// A kernel that gets its own work buffer calls the core besides.
-TEST_P(Code, StaysInTheFunctionOrGoesToTheTwin) {
+// A kernel that allocates its own work buffer also calls the core.
+TEST_P(Code, StaysInTheFunctionOrItsUnalignedVariant) {
   const std::set<std::string> core = {"xfmMalloc@plt", "xfmFree@plt"};
   for (const auto& [name, body] : bodies()) {
     std::set<std::string> called;
@@ -116,16 +117,16 @@ TEST_P(Code, StaysInTheFunctionOrGoesToTheTwin) {
 
 TEST_P(Code, BaselineInstructions) {
   for (const auto& [name, body] : bodies()) {
-    std::set<std::string> strangers;
+    std::set<std::string> unexpected;
     for (const Instruction* instruction : body.instructions)
-      if (instruction->sort == Sort::stranger) strangers.insert(instruction->mnemonic);
-    for (const std::string& stranger : strangers)
-      ADD_FAILURE() << name << " has " << stranger << ", which is beyond SSE2 or of no use to a kernel";
+      if (instruction->sort == Sort::unexpected) unexpected.insert(instruction->mnemonic);
+    for (const std::string& mnemonic : unexpected)
+      ADD_FAILURE() << name << " has " << mnemonic << ", which is beyond SSE2 or of no use to a kernel";
   }
 }
 
 TEST_P(Code, ConstantsAreReadOnly) {
-  static const std::vector<Section> all = sections(paths::library);
+  static const std::vector<Section> all = sections(library_file());
   for (const auto& [name, body] : bodies()) {
     for (const Instruction* instruction : body.instructions) {
       if (!instruction->constant) continue;
@@ -166,7 +167,7 @@ TEST_P(Code, OperationCounts) {
   }
 }
 
-// A sign is turned by a subtraction from zero, never by its bit; a register is cleared by itself.
+// Negation is a subtraction from zero, never an operation on the sign bit; xor may clear a register.
 TEST_P(Code, RealTransformsNegateNothing) {
   if (real_family(kernel()) == nullptr) return;
   for (const auto& [name, body] : bodies())
@@ -175,8 +176,7 @@ TEST_P(Code, RealTransformsNegateNothing) {
           << name << ": " << instruction->text();
 }
 
-// Constants are binary64 in either precision; only the factor, and the two of a doubling, meet binary32
-// values.
+// Constants are binary64 in either precision; binary32 values meet only the factor and the 2 of a doubling.
 TEST_P(Code, RealTransformsMultiplyConstantsInBinary64) {
   if (real_family(kernel()) == nullptr) return;
   for (const auto& [name, body] : bodies()) {
@@ -186,7 +186,7 @@ TEST_P(Code, RealTransformsMultiplyConstantsInBinary64) {
   }
 }
 
-// Stored zeros of a spectrum are no input: not even a load whose value goes nowhere touches them.
+// The stored zeros of a spectrum are not input: not even a dead load touches them.
 TEST_P(Code, RealTransformsLoadTheirInputAlone) {
   const RealFamily* const family = real_family(kernel());
   if (family == nullptr) return;
@@ -205,7 +205,7 @@ TEST_P(Code, RealTransformsLoadTheirInputAlone) {
   }
 }
 
-// Aligned pairs are at multiples of 16, and the body's frame is aligned too.
+// Aligned pairs lie at multiples of 16, and so does the stack frame of the body.
 TEST_P(Code, BodyOfPairsMovesAligned) {
   if (!in_pairs() || bodies_a_function() > 1) return;
   for (const Instruction* instruction : bodies().at(kernel().name).instructions)
@@ -232,7 +232,7 @@ TEST(Disassembler, Lines) {
   EXPECT_FALSE(parse_instruction("0000000000002660 <f>:").has_value());
   for (const std::string line : {"  10:\tvfmadd231ps %xmm0,%xmm1,%xmm2", "  10:\thaddps %xmm0,%xmm1",
                                  "  10:\tmovddup %xmm0,%xmm1", "  10:\tdivsd %xmm0,%xmm1"})
-    EXPECT_EQ(parse_instruction(line)->sort, Sort::stranger) << line;
+    EXPECT_EQ(parse_instruction(line)->sort, Sort::unexpected) << line;
   const auto nop = parse_instruction("  10:\tcs nopw 0x0(%rax,%rax,1)");
   EXPECT_EQ(nop->mnemonic, "nopw");
 }

@@ -48,8 +48,8 @@ using Instructions = std::vector<const Instruction*>;
 
 class Tracer {
  public:
-  Tracer(const Disassembly& code, const std::string& function, const std::string& twin)
-      : code_(code), function_(function), twin_(twin) {}
+  Tracer(const Disassembly& code, const std::string& function, const std::string& variant)
+      : code_(code), function_(function), variant_(variant) {}
 
   Body trace() {
     Instructions open = {code_.at(code_.start_of(function_))};
@@ -91,11 +91,11 @@ class Tracer {
     return next;
   }
 
-  /// Where a jump or a call leads; nowhere where it leads to the twin.
+  /// The target of a jump or a call; none if it is the unaligned variant.
   Instructions leave(const Instruction& instruction) {
     if (!instruction.target) {
       depart(instruction, "goes to a computed address");
-    } else if (!twin_.empty() && *instruction.target == code_.start_of(twin_)) {
+    } else if (!variant_.empty() && *instruction.target == code_.start_of(variant_)) {
       return {};
     } else if (instruction.is_call() || !own(*instruction.target)) {
       depart(instruction, "leaves the function");
@@ -127,7 +127,7 @@ class Tracer {
     return branches;
   }
 
-  /// Takes away, again and again, what nothing leads to any more; a loop stays.
+  /// Removes instructions that nothing leads to until none is left; a loop remains.
   bool has_loop() const {
     std::unordered_map<const Instruction*, int> ways_in;
     for (const auto& [instruction, next] : successors_)
@@ -148,15 +148,15 @@ class Tracer {
 
   const Disassembly& code_;
   const std::string& function_;
-  const std::string& twin_;
+  const std::string& variant_;
   std::unordered_map<const Instruction*, Instructions> successors_;
   Body body_;
 };
 
 }  // namespace
 
-Body trace(const Disassembly& code, const std::string& function, const std::string& twin) {
-  return Tracer(code, function, twin).trace();
+Body trace(const Disassembly& code, const std::string& function, const std::string& variant) {
+  return Tracer(code, function, variant).trace();
 }
 
 }  // namespace xfm::test

@@ -15,9 +15,9 @@ class Disassembly {
 
   /// Null where no instruction starts.
   const Instruction* at(std::uint64_t address) const;
-  /// Null behind the last.
+  /// Null after the last.
   const Instruction* after(const Instruction& instruction) const;
-  /// The function that the address lies in; empty in front of the first.
+  /// The function that the address lies in; empty before the first.
   std::string function_at(std::uint64_t address) const;
   bool has(const std::string& function) const { return starts_.contains(function); }
   std::uint64_t start_of(const std::string& function) const { return starts_.at(function); }
@@ -28,14 +28,14 @@ class Disassembly {
   std::map<std::uint64_t, std::string> names_;
 };
 
-/// A call or a jump to elsewhere, or what cannot be followed.
+/// A call or jump out of the function, or one that cannot be followed.
 struct Departure {
   std::string to;  ///< the function, if it is known
   std::string text;
 };
 
-/// All that can run between the entry of a function and its return, wherever the compiler has put it:
-/// seldom-run parts may stand away from the rest, under the name NAME.cold or the like.
+/// All that can run between the entry of a function and its return, wherever the compiler put it: it may move
+/// parts that seldom run out of line, under a name such as NAME.cold.
 struct Body {
   std::vector<const Instruction*> instructions;
   std::vector<Departure> departures;
@@ -43,7 +43,7 @@ struct Body {
   bool has_loop = false;
 };
 
-/// A jump or call to the function `twin` ends the body; empty where there is none to be called.
-Body trace(const Disassembly& code, const std::string& function, const std::string& twin);
+/// A jump or call to the unaligned variant ends the body; `variant` is empty if the function has none.
+Body trace(const Disassembly& code, const std::string& function, const std::string& variant);
 
 }  // namespace xfm::test

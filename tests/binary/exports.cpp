@@ -1,4 +1,4 @@
-// What the libraries show to the world: exactly the functions of the header, and no data.
+// What the libraries export: exactly the functions of the headers, and no data.
 #include <gtest/gtest.h>
 
 #include <cctype>
@@ -8,6 +8,7 @@
 
 #include "paths.h"
 #include "tests/binary/tools.h"
+#include "tests/support/library.h"
 #include "tools/catalogue.h"
 
 namespace xfm::test {
@@ -30,7 +31,7 @@ std::string without_comments(const std::string& text) {
   return result;
 }
 
-/// The names with the prefix that stand in front of an opening bracket.
+/// The names with the prefix that precede an opening parenthesis.
 Names declared(const std::string& path, const std::string& prefix) {
   std::ifstream file(path);
   if (!file) throw std::runtime_error("cannot read " + path);
@@ -52,13 +53,13 @@ Names exported(const std::string& library) {
   Names names;
   for (const Symbol& symbol : dynamic_symbols(library)) {
     if (symbol.kind == 'U' || symbol.kind == 'w' || symbol.kind == 'v') continue;  // imported
-    EXPECT_EQ(symbol.kind, 'T') << symbol.name << " is no function";
+    EXPECT_EQ(symbol.kind, 'T') << symbol.name << " is not a function";
     names.insert(symbol.name);
   }
   return names;
 }
 
-/// What stands in one set only, as text.
+/// Reports the names that are in one set only.
 void expect_same(const Names& got, const Names& expected) {
   for (const std::string& name : got)
     EXPECT_TRUE(expected.contains(name)) << name << " is exported, but not declared";
@@ -69,16 +70,16 @@ void expect_same(const Names& got, const Names& expected) {
 TEST(Exports, AreTheHeadersFunctions) {
   const Names names = declared(paths::header, "xfm");
   EXPECT_TRUE(names.contains("xfmGetLibVersion"));
-  expect_same(exported(paths::library), names);
+  expect_same(exported(library_file()), names);
 }
 
 TEST(Exports, HoldTheCatalogue) {
-  const Names names = exported(paths::library);
+  const Names names = exported(library_file());
   for (const auto& kernel : catalogue::kernels()) EXPECT_TRUE(names.contains(kernel.name)) << kernel.name;
   for (const auto& generic : catalogue::generics()) EXPECT_TRUE(names.contains(generic.name)) << generic.name;
 }
 
-/// What the list of families comes to: the catalogue, and the functions that are no kernels.
+/// The names that follow from the list of families: the catalogue, and the functions that are not kernels.
 Names of_families() {
   Names names = {"xfmGetLibVersion", "xfmWHTGetBufferSize_32f", "xfmWHTGetBufferSize_64f"};
   for (const auto& kernel : catalogue::kernels()) names.insert(kernel.name);
@@ -88,9 +89,9 @@ Names of_families() {
   return names;
 }
 
-TEST(Exports, AreThoseOfTheFamilies) { expect_same(exported(paths::library), of_families()); }
+TEST(Exports, AreThoseOfTheFamilies) { expect_same(exported(library_file()), of_families()); }
 
-TEST(Exports, AreAll) { EXPECT_EQ(exported(paths::library).size(), 1193U); }
+TEST(Exports, AreAll) { EXPECT_EQ(exported(library_file()).size(), 1193U); }
 
 TEST(Exports, OfTheCoreLibrary) {
   expect_same(exported(paths::core_library), {"xfmMalloc", "xfmFree", "ownGetFeature"});

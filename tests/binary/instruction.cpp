@@ -38,7 +38,7 @@ Names make_names() {
   return names;
 }
 
-/// "%xmm1,%xmm1" of an addition. Compilers write 2 x as x + x, which has the same bits: it stays a
+/// "%xmm1,%xmm1" of an addition. Compilers write 2 x as x + x, which has the same bits: it counts as a
 /// multiplication.
 bool doubles(const std::string& mnemonic, const std::string& operands) {
   const auto comma = operands.find(',');
@@ -46,7 +46,7 @@ bool doubles(const std::string& mnemonic, const std::string& operands) {
          operands.substr(0, comma) == operands.substr(comma + 1);
 }
 
-/// Halves of a register that meet again in memory may have changed places.
+/// Two halves of a register that are stored apart may have changed places.
 bool is_half_in_stack(const std::string& mnemonic, const std::string& operands) {
   static constexpr std::string_view halves[] = {"movsd", "movq", "movlpd", "movhpd", "movlps", "movhps"};
   for (const std::string_view half : halves)
@@ -57,14 +57,14 @@ bool is_half_in_stack(const std::string& mnemonic, const std::string& operands) 
 Sort sort_of(const std::string& mnemonic, const std::string& operands) {
   static const Names names = make_names();
   const auto found = names.find(mnemonic);
-  if (found == names.end()) return Sort::stranger;
+  if (found == names.end()) return Sort::unexpected;
   if (is_half_in_stack(mnemonic, operands)) return Sort::between_lanes;
   if (found->second == Sort::scalar_add && doubles(mnemonic, operands)) return Sort::scalar_mult;
   if (found->second == Sort::packed_add && doubles(mnemonic, operands)) return Sort::packed_mult;
   return found->second;
 }
 
-// Printed in front of an instruction, which they do not change.
+// Printed before an instruction, without an effect on it.
 bool is_prefix(std::string_view word) {
   for (const std::string_view prefix :
        {"cs", "ds", "es", "fs", "gs", "ss", "data16", "rep", "repz", "bnd", "notrack"})
@@ -72,7 +72,7 @@ bool is_prefix(std::string_view word) {
   return false;
 }
 
-/// The text up to the next blank, which it takes away together with the blanks behind it.
+/// Removes the text up to the next blank, and the blanks after it, and returns it.
 std::string_view next_word(std::string_view& text) {
   const std::string_view word = text.substr(0, text.find(' '));
   text.remove_prefix(word.size());
@@ -82,8 +82,7 @@ std::string_view next_word(std::string_view& text) {
 
 }  // namespace
 
-// "  270a:\tmovss  0x4bde(%rip),%xmm5        # 72f0 <factors+0x50>": the address of a constant stands behind
-// the mark.
+// "  270a:\tmovss  0x4bde(%rip),%xmm5        # 72f0 <factors+0x50>": the constant's address follows #.
 std::optional<Instruction> parse_instruction(const std::string& line) {
   const auto colon = line.find(":\t");
   if (line.empty() || line[0] != ' ' || colon == std::string::npos) return std::nullopt;

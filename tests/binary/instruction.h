@@ -1,4 +1,4 @@
-// One instruction of the disassembly, and what the tests ask of it.
+// One instruction of the disassembly, classified as the tests need it.
 #pragma once
 
 #include <cstdint>
@@ -7,13 +7,13 @@
 
 namespace xfm::test {
 
-/// What an instruction does, as far as it matters to a kernel. Whatever is no other sort is a stranger:
-/// beyond the baseline of x86-64, or nothing that a kernel has a use for, like a division.
+/// What an instruction does, as far as it matters to a kernel. Everything else is unexpected: beyond the
+/// baseline of x86-64, or of no use to a kernel, such as a division.
 enum class Sort {
-  stranger,
+  unexpected,
   control,        ///< jumps, calls, returns
   integer,        ///< addresses, pointers, the flag, padding
-  move,           ///< of a whole register or of a part that stays in its place
+  move,           ///< of a whole register, or of a part that stays in place
   bits,           ///< logic on vector registers: signs
   conversion,     ///< between the precisions
   between_lanes,  ///< shuffles
@@ -24,14 +24,14 @@ enum class Sort {
   packed_mult,
 };
 
-/// Operands stand in AT&T order: the destination is the last one.
+/// Operands are in AT&T order: the destination comes last.
 struct Instruction {
   std::uint64_t address;
   std::string mnemonic;
   std::string operands;
   Sort sort;
   std::optional<std::uint64_t> target;    ///< of a direct jump or call
-  std::optional<std::uint64_t> constant;  ///< what is addressed relative to the program counter
+  std::optional<std::uint64_t> constant;  ///< the address given relative to the program counter
 
   bool is_return() const { return mnemonic == "ret"; }
   bool is_call() const { return mnemonic == "call"; }
@@ -40,10 +40,10 @@ struct Instruction {
   std::string text() const { return mnemonic + " " + operands; }
 };
 
-/// From a line of objdump, "  2660:\tmov    %rdi,%rax"; nothing for lines that are no instruction.
+/// From a line of objdump, "  2660:\tmov    %rdi,%rax"; nothing for other lines.
 std::optional<Instruction> parse_instruction(const std::string& line);
 
-/// How many instructions of the sorts that the tests count.
+/// Counts of the sorts of instructions that the tests compare.
 struct Tally {
   int scalar_adds = 0, scalar_mults = 0, packed_adds = 0, packed_mults = 0, between_lanes = 0;
 

@@ -1,2 +1,2 @@
-// Linked into a library of its own, to see what start-up code brings along.
+// Linked into a library of its own, to see what the toolchain adds to every library.
 void xfm_test_nothing() {}

@@ -14,7 +14,7 @@ std::string quoted(const std::string& path) { return "'" + path + "'"; }
 }  // namespace
 
 std::vector<std::string> lines_of(const std::string& command) {
-  // Commands and paths are those of this build.  NOLINTNEXTLINE(cert-env33-c)
+  // Commands and paths come from this build.  NOLINTNEXTLINE(cert-env33-c)
   FILE* pipe = popen(("LC_ALL=C " + command).c_str(), "r");
   if (pipe == nullptr) throw std::runtime_error("cannot run " + command);
   std::string text;
@@ -34,7 +34,7 @@ std::vector<std::string> words_of(const std::string& line) {
   return words;
 }
 
-// nm -P prints "name kind [value size]"; the linker marks a version with @.
+// nm -P prints "name kind [value size]"; a version follows after @.
 namespace {
 std::vector<Symbol> symbols_by(const std::string& command) {
   std::vector<Symbol> symbols;

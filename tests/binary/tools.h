@@ -1,4 +1,4 @@
-// What binutils say of a shared library.
+// What binutils report about a shared library.
 #pragma once
 
 #include <cstdint>
@@ -7,20 +7,20 @@
 
 namespace xfm::test {
 
-/// The lines that a command prints; throws if it fails.
+/// The output of a command, line by line; throws if it fails.
 std::vector<std::string> lines_of(const std::string& command);
 
-/// The parts of a line between blanks.
+/// The words of a line.
 std::vector<std::string> words_of(const std::string& line);
 
 struct Symbol {
   std::string name;
-  char kind;  ///< as nm has it: T code, D data, R read-only data, U imported, w weak, lower case local
+  char kind;  ///< as nm prints it: T code, D data, R read-only data, U imported, w weak, lower case local
   std::uint64_t address;
 };
-/// What other programs see, and what the library wants of others.
+/// The exported and imported symbols.
 std::vector<Symbol> dynamic_symbols(const std::string& library);
-/// All that the library was linked from.
+/// All symbols, local ones included.
 std::vector<Symbol> symbols(const std::string& library);
 
 struct Section {
@@ -30,7 +30,7 @@ struct Section {
 
   bool holds(std::uint64_t place) const { return place >= address && place - address < size; }
 };
-/// Those that are in memory when the library is loaded.
+/// The sections that the loader maps.
 std::vector<Section> sections(const std::string& library);
 
 }  // namespace xfm::test

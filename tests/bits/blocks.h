@@ -1,4 +1,4 @@
-// The short transforms as their equations stand, one operation after the other.
+// The short transforms, operation by operation as their equations have them.
 #pragma once
 
 #include <array>
@@ -27,7 +27,7 @@ Points<T> length4(const Points<T>& x) {
   return {a + c, b - times_i(d), a - c, b + times_i(d)};
 }
 
-/// How the first output of the length-5 block associates.
+/// How the first output of the length-5 block is associated.
 enum class Centre { first, last };  ///< (x0 + a1) + a2, or (a1 + a2) + x0
 
 template <class T>
@@ -40,7 +40,7 @@ Points<T> length5(const Points<T>& x, Centre centre) {
   return {x0, t1 - times_i(u1), t2 - times_i(u2), t2 + times_i(u2), t1 + times_i(u1)};
 }
 
-/// In binary32 with the expressions that hold products formed in binary64 and rounded once.
+/// In binary32, where expressions with products are evaluated in binary64 and rounded once.
 inline Points<float> mixed3(const Points<float>& x) {
   const auto c = sine<double>(1, 3);
   const auto a = x[1] + x[2], d = x[1] - x[2];

@@ -1,5 +1,5 @@
-// Binary32 transforms of composite lengths put together plainly: stage after stage, all twiddles multiplied,
-// every operation rounded.
+// Plain binary32 transforms of composite lengths: stage after stage, every twiddle multiplied, every
+// operation rounded.
 #pragma once
 
 #include <string>

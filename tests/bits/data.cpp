@@ -10,14 +10,14 @@ double of_kind(Random& random, Precision precision) {
   return random.next(kind, precision);
 }
 
-double scaled(Random& random, Precision precision, int single, int twofold) {
-  return std::ldexp(random.even(), precision == Precision::binary32 ? single : twofold);
+double scaled(Random& random, Precision precision, int exponent32, int exponent64) {
+  return std::ldexp(random.even(), precision == Precision::binary32 ? exponent32 : exponent64);
 }
 
-/// About the least normal number: sums and products fall below it.
+/// Near the least normal number: sums and products fall below it.
 double tiny(Random& random, Precision precision) { return scaled(random, precision, -123, -1019); }
 
-/// Up to a quarter of the greatest number: four of them may be too much.
+/// Up to a quarter of the greatest number: four of them may overflow.
 double overflowing(Random& random, Precision precision) { return scaled(random, precision, 126, 1022); }
 
 /// Mostly zeros, of either sign.

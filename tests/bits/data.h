@@ -1,5 +1,4 @@
-// Data on which a difference of one bit shows: where rounding, signs of zero, or the limits of a format
-// matter.
+// Data that reveal a difference of one bit: where rounding, signs of zero, or the limits of a format matter.
 #pragma once
 
 #include <span>
@@ -11,7 +10,7 @@ namespace xfm::test {
 struct Data {
   const char* name;
   double (*draw)(Random& random, Precision precision);
-  bool overflows = false;  ///< some sums are infinite, and some of their sums not a number
+  bool overflows = false;  ///< some sums are infinite, and some sums of those NaN
 };
 
 std::span<const Data> all_data();

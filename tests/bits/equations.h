@@ -12,7 +12,7 @@ namespace xfm::test {
 template <class T>
 using Transform = std::function<Points<T>(const Points<T>&)>;
 
-/// Length to plain evaluation of the forward transform; a length may have several.
+/// From length to plain evaluation of the forward transform; a length may have several.
 std::multimap<int, Transform<float>> equations_32fc();
 std::multimap<int, Transform<double>> equations_64fc();
 

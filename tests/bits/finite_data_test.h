@@ -1,5 +1,4 @@
-// Kernels on all kinds of data whose sums stay finite: infinity less infinity is not a number, whose bits are
-// nobody's promise.
+// Kernels on all kinds of data whose sums stay finite, since the bits of infinity minus infinity are open.
 #pragma once
 
 #include "tests/bits/data.h"
@@ -10,7 +9,7 @@ namespace xfm::test {
 
 class FiniteDataTest : public KernelTest {
  protected:
-  /// check(src, flag) on some arrays of each kind and all flags, up to the first failure.
+  /// Calls check(src, flag) for some arrays of each kind and all flags, up to the first failure.
   template <class Check>
   void on_finite_data(Check check) {
     constexpr int rounds = 16;

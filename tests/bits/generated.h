@@ -1,4 +1,5 @@
-// From a kernel of the catalogue to what the generator makes of its row.
+// What the generator makes of the rows: the kernels of the catalogue with their networks, each made once a
+// process, when it is first asked for. Making all of them takes longer than most tests.
 #pragma once
 
 #include <vector>
@@ -8,10 +9,10 @@
 
 namespace xfm::test {
 
-/// The kernel with its network, by the row; throws where the list of families does not know it.
-gen::Kernel generated(const catalogue::Kernel& kernel);
+/// The kernel that the generator makes of the row; throws if no family has it.
+const gen::Kernel& generated(const catalogue::Kernel& kernel);
 
-/// Those that the generator writes; the others are written by hand.
-std::vector<catalogue::Kernel> generated_kernels();
+/// The kernels that the generator writes. The others are written by hand.
+const std::vector<catalogue::Kernel>& generated_kernels();
 
 }  // namespace xfm::test

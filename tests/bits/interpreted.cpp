@@ -1,5 +1,5 @@
-// Every generated kernel equals its network, run by the interpreter, to the bit: so a kernel that fails here
-// was written or compiled wrongly, and one that fails elsewhere has the wrong network.
+// Every generated kernel equals its network, as the interpreter runs it, to the bit. A kernel that fails here
+// was written or compiled wrongly; one that only fails elsewhere has a wrong network.
 #include "gen/network/interpreter.h"
 #include "tests/bits/data.h"
 #include "tests/bits/generated.h"
@@ -31,7 +31,7 @@ Array interpret(const gen::Kernel& kernel, const Array& src, double factor) {
 
 TEST_P(Interpreted, EqualsTheKernel) {
   constexpr int rounds = 3;
-  const gen::Kernel made = generated(kernel());
+  const gen::Kernel& made = generated(kernel());
   ASSERT_EQ(made.name, kernel().name);
   ASSERT_EQ(made.tree, kernel().tree);
   for (const Data& data : all_data()) {

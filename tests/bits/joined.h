@@ -1,5 +1,5 @@
-// The binary64 lengths whose equations are spelled out: every product has a real factor, and i comes in with
-// the last sum and difference only.
+// The binary64 lengths whose equations are written out: every product has a real factor, and i enters only in
+// the last sum and difference.
 #pragma once
 
 #include <array>
@@ -36,7 +36,7 @@ inline Points<double> split8(const Points<double>& x) {
           e0 - e1, (d0 - p) + times_i(q - d2), (a0 - a2) + times_i(a1 - a3), (d0 + p) + times_i(d2 + q)};
 }
 
-/// The length-5 block with its cosines by their sum and difference, and its u2 turned in sign.
+/// The length-5 block with its cosines by their sum and difference, and its u2 negated.
 struct Halves5 {
   Number<double> e, t1, t2, u1, u2;
 };
@@ -47,7 +47,7 @@ inline Halves5 halves5(const Points<double>& x) {
   return {x[0] + s, t + w, t - w, s1 * b1 + s2 * b2, s1 * b2 - s2 * b1};
 }
 
-/// 5 by 2, joined at the end only.
+/// 5 by 2, joined only at the end.
 inline Points<double> joined10(const Points<double>& x) {
   const auto [e, t1, t2, u1, u2] = halves5({x[0], x[2], x[4], x[6], x[8]});
   const auto [f, v1, v2, w1, w2] = halves5({x[5], x[7], x[9], x[1], x[3]});
@@ -63,7 +63,7 @@ inline Points<double> joined10(const Points<double>& x) {
           (t1 - v1) + times_i(u1 - w1)};
 }
 
-/// 3 by 4, joined at the end only.
+/// 3 by 4, joined only at the end.
 inline Points<double> joined12(const Points<double>& x) {
   const auto s = sine<double>(1, 3);
   Points<double> e, t, u;

@@ -1,4 +1,4 @@
-// Constants for plain evaluations, from MPFR: nothing of the workshop is used.
+// Constants for plain evaluations, from MPFR: nothing of the generator is used.
 #pragma once
 
 namespace xfm::test {
@@ -7,7 +7,7 @@ namespace xfm::test {
 template <class T>
 T cosine(long num, long den);
 
-/// The same of sin(2 pi num/den).
+/// The same for sin(2 pi num/den).
 template <class T>
 T sine(long num, long den) {
   return cosine<T>(4 * num - den, 4 * den);  // sin x = cos(x - pi/2)

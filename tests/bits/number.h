@@ -1,4 +1,4 @@
-// Complex numbers whose every operation rounds as it is written. std::complex makes no such promise.
+// Complex numbers whose operations round exactly as written, which std::complex does not guarantee.
 #pragma once
 
 #include <vector>

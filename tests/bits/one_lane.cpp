@@ -1,5 +1,5 @@
-// Packing changes no bit: the network of a packed kernel gives what the same tree gives with one lane, as
-// plain scalar code. Zeros of either sign equal, since lanes multiply together what a scalar leaves out.
+// Packing changes no bit: the network of a packed kernel gives the same outputs as its tree with one lane, as
+// plain scalar code. Zeros of either sign are equal, since lanes multiply by 1 and 0 where a scalar does not.
 #include "gen/network/interpreter.h"
 #include "gen/passes/constant_folding.h"
 #include "src/dft/recipe/packed.h"
@@ -11,8 +11,8 @@
 namespace xfm::test {
 namespace {
 
-/// The outputs of a tree on single lanes, with the signs that lanes would turn and a scalar kernel cannot
-/// store.
+/// The outputs of a tree with one lane. Signs that lanes would flip are kept beside them, since a scalar
+/// network stores no negated value.
 struct Scalar {
   std::unique_ptr<gen::Network> network = std::make_unique<gen::Network>(1);
   std::vector<bool> negative{};
@@ -67,7 +67,7 @@ std::vector<Kernel> packed_complex_kernels() {
 TEST_P(OneLane, GivesTheSameBits) {
   constexpr int rounds = 4;
   const bool forward = std::string(kernel().family) == "DFTFwd_CToC";
-  const gen::Kernel made = generated(kernel());
+  const gen::Kernel& made = generated(kernel());
   const Scalar scalar = on_one_lane(gen::parse_tree(kernel().tree), kernel().length,
                                     forward ? dft::Direction::forward : dft::Direction::inverse);
   ASSERT_EQ(made.network->width(), gen::max_lanes);

@@ -1,4 +1,4 @@
-// Equality of arrays to the bit, but for what is left open.
+// Equality of arrays to the bit, except for what is left open.
 #pragma once
 
 #include "tests/support/array.h"
@@ -6,11 +6,12 @@
 namespace xfm::test {
 
 enum class Zeros {
-  as_they_are,  ///< 0 and -0 are different
-  alike,        ///< they are not
+  as_they_are,  ///< 0 and -0 differ
+  alike,        ///< 0 and -0 are equal
 };
 
-/// Any NaN equals any other: which one comes out of two is the compiler's choice. Tells the first difference.
+/// Any NaN equals any other, since the compiler chooses which of two operands is returned. Reports the first
+/// difference.
 testing::AssertionResult same_values(const Array& got, const Array& expected, Zeros zeros);
 
 }  // namespace xfm::test

@@ -1,4 +1,4 @@
-// The comparison that all tests of bits rest on sees one bit, and a sign of zero where it matters.
+// The comparison behind all tests of bits sees a single bit, and the sign of a zero where it matters.
 #include "tests/bits/same_values.h"
 
 #include <cmath>

@@ -1,4 +1,4 @@
-// The functions of the DCT-IV under one set of names for both precisions, and memory for their states.
+// One set of names for the DCT-IV functions of both precisions, and memory for their states.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -78,7 +78,7 @@ struct Owned {
   xfmStatus run(const T* src, T* dst) const { return Engine<T>::run(src, dst, state.get()); }
 };
 
-/// Evenly in -1 .. 1, the same at every call.
+/// Uniform in -1 .. 1, the same at every call.
 template <class T>
 std::vector<T> noise(std::size_t count, unsigned seed = 1) {
   std::mt19937_64 bits(seed);

@@ -14,7 +14,7 @@ std::int32_t radix(std::int32_t v) {
   return 2;
 }
 
-/// 1 for `first`, 2 for twice that, and so on.
+/// 1 for `first`, 2 for its double, and so on.
 std::int32_t kind_from(std::int32_t first, std::int32_t value) {
   return std::countr_zero(static_cast<std::uint32_t>(value)) -
          std::countr_zero(static_cast<std::uint32_t>(first)) + 1;
@@ -23,7 +23,7 @@ bool is_leaf(std::int32_t m) { return m <= 64; }
 
 }  // namespace
 
-/// Writes fields one after the other, each at a multiple of its width.
+/// Writes consecutive fields, each at a multiple of its width.
 class ExpectedPlan::Record {
  public:
   Record(ExpectedPlan& plan, std::uint64_t address) : plan_(plan), at_(address) {}

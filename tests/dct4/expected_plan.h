@@ -1,5 +1,5 @@
-// What the memory of a plan must hold, worked out beside the library: every allocation in its order, every
-// field of every object at its place.
+// What the memory of a plan must hold, worked out independently: every allocation in its order, every field
+// of every object in its place.
 #pragma once
 
 #include <cstdint>
@@ -21,7 +21,7 @@ class ExpectedPlan {
 
   std::uint64_t start() const {
     return start_;
-  }                                           ///< the arena's top in an empty block: where the root stands
+  }  ///< the top of the arena in an empty block: the place of the root
   std::uint64_t top() const { return top_; }  ///< when the plan is built
   int splits() const { return splits_; }
   const std::map<std::uint64_t, std::uint32_t>& words() const { return words_; }  ///< 32 bits at each address

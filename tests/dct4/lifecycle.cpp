@@ -1,5 +1,4 @@
-// The life of a state. This program puts a core of its own in place of libxfmcore: it counts, it keeps what
-// it was asked for, and it can fail.
+// The life of a state. This program replaces the core by one that counts, records requests, and can fail.
 #include <gtest/gtest.h>
 
 #include <cstring>
@@ -45,7 +44,7 @@ class Lifecycle : public testing::Test {
  protected:
   Lifecycle() { core = {}; }
   using State = typename Engine<T>::State;
-  /// What a pointer holds that no function has written to.
+  /// The value of a pointer that no function has written.
   static State* unwritten() { return reinterpret_cast<State*>(&core); }
 };
 TYPED_TEST_SUITE(Lifecycle, Precisions, PrecisionName);
@@ -79,8 +78,7 @@ TYPED_TEST(Lifecycle, AllocatesOnceAndReleasesOnce) {
     ASSERT_EQ(Engine<TypeParam>::free(state), xfmStsOk);
     EXPECT_EQ(core.releases, 1);
     EXPECT_EQ(core.released, block);
-    EXPECT_EQ(core.top_at_release, plan.start())
-        << "length " << length << ": the arena's top is where it began";
+    EXPECT_EQ(core.top_at_release, plan.start()) << "length " << length << ": the arena is not empty";
   }
 }
 
@@ -102,7 +100,7 @@ TYPED_TEST(Lifecycle, NoMemory) {
     EXPECT_EQ(Engine<TypeParam>::init_alloc(&state, length), xfmStsNullPtr);
     EXPECT_EQ(state, this->unwritten());
     EXPECT_EQ(core.allocations, before.allocations + 1);
-    EXPECT_EQ(core.size, size_of<TypeParam>(length)) << "a wrapped size is asked for as it is";
+    EXPECT_EQ(core.size, size_of<TypeParam>(length)) << "a size that wrapped is requested as it is";
     EXPECT_EQ(core.releases, before.releases + 1);
     EXPECT_EQ(core.released, nullptr);
   }
@@ -112,7 +110,7 @@ TYPED_TEST(Lifecycle, NullPointers) {
   std::byte block[64 + 256];
   auto* state = this->unwritten();
   EXPECT_EQ(Engine<TypeParam>::init_alloc(nullptr, 64), xfmStsNullPtr);
-  EXPECT_EQ(Engine<TypeParam>::init_alloc(nullptr, 3), xfmStsNullPtr) << "the pointer is tested first";
+  EXPECT_EQ(Engine<TypeParam>::init_alloc(nullptr, 3), xfmStsNullPtr) << "the pointer is checked first";
   EXPECT_EQ(Engine<TypeParam>::init(nullptr, 2, block), xfmStsNullPtr);
   EXPECT_EQ(Engine<TypeParam>::init(&state, 2, nullptr), xfmStsNullPtr);
   EXPECT_EQ(Engine<TypeParam>::init(&state, 3, nullptr), xfmStsNullPtr);
@@ -131,7 +129,7 @@ TYPED_TEST(Lifecycle, InitRefuses) {
     auto* state = this->unwritten();
     EXPECT_EQ(Engine<TypeParam>::init(&state, length, block.data()), xfmStsBadSize) << length;
     EXPECT_EQ(state, this->unwritten());
-    // The block is as good as new.
+    // The block can be used again.
     EXPECT_EQ(Engine<TypeParam>::init(&state, 64, block.data()), xfmStsOk);
     const auto src = noise<TypeParam>(64);
     auto dst = src;
@@ -149,7 +147,7 @@ TYPED_TEST(Lifecycle, FreeEndsAStateInMemoryOfXfmMalloc) {
   EXPECT_EQ(core.released, block);
 }
 
-TYPED_TEST(Lifecycle, ABlockIsUsedAgain) {
+TYPED_TEST(Lifecycle, ABlockCanBeReused) {
   std::vector<std::byte> block(size_of<TypeParam>(8192));
   const auto src = noise<TypeParam>(8192);
   for (const std::int32_t length : {8192, 64, 2, 4096, 8192}) {

@@ -1,5 +1,5 @@
-// The parts of the engine that no caller sees, one by one: arena and list, the radix rule, constants, and
-// every kind of every stage, those among them that no accepted length reaches.
+// The internal parts of the engine, one by one: arena and list, the radix rule, constants, and every kind of
+// every stage, even those that no accepted length reaches.
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -107,7 +107,7 @@ TEST(Constants, AreTheNearest) {
   }
 }
 
-// ---- Every kind of every stage, beside its formula.
+// ---- Every kind of every stage against its formula.
 
 /// A block with an arena in it, large enough for any table here.
 struct Memory {
@@ -121,7 +121,7 @@ struct Memory {
 
 Number unit(double turns_of_pi) { return std::polar(1.0, std::acos(-1.0) * turns_of_pi); }
 
-/// The odd DFT by its definition, of samples n = 0 .. m - 1 of which the upper half stands for n - m.
+/// The odd DFT by its definition; of the samples n = 0 .. m - 1, the upper half stands for n - m.
 template <class Samples>
 Number odd_dft(std::int32_t m, std::int32_t q, const Samples& w) {
   Number sum = 0;
@@ -319,7 +319,7 @@ TYPED_TEST(Stages, UnknownKinds) {
   }
 }
 
-/// A shell of another kind than the sound one leaves its stage out, and the run succeeds all the same.
+/// A shell of an unknown kind skips its stage, and the run still succeeds.
 TYPED_TEST(Stages, ShellsLeaveTheirStageOut) {
   using T = TypeParam;
   Memory memory;
@@ -332,7 +332,7 @@ TYPED_TEST(Stages, ShellsLeaveTheirStageOut) {
   ASSERT_EQ(run(src.data(), first.data(), *plan), xfmStsOk);
   fold.kind = 0;
   ASSERT_EQ(run(other.data(), dst.data(), *plan), xfmStsOk);
-  EXPECT_EQ(dst, first) << "the spectrum is that of the run before";
+  EXPECT_EQ(dst, first) << "the spectrum of the previous run";
   fold.kind = kind_sound;
   combine.kind = 2;
   dst.assign(64, T(77));

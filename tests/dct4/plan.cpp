@@ -1,5 +1,4 @@
-// The plan in memory: every object, field and list where it belongs, for every length and for blocks at any
-// address.
+// The plan in memory: every object, field and list in its place, for every length and at any address.
 #include <gtest/gtest.h>
 #include <sys/mman.h>
 
@@ -54,8 +53,7 @@ std::vector<std::int32_t> accepted(int longest) {
   return lengths;
 }
 
-/// An object's operations are those of its kind, and no other kind's; what a source destroys is nothing,
-/// alike in all.
+/// Each kind of object has operations of its own; only destructors may be shared.
 void expect_operations(const ExpectedPlan& plan) {
   std::map<std::string, std::uint64_t> known;
   std::set<std::uint64_t> distinct;
@@ -93,7 +91,7 @@ TYPED_TEST(Plan, EveryField) {
   }
 }
 
-// The longest plan, whose work areas nobody touches: the pages of these are never there.
+// The longest plan. Its work areas are never touched, so their pages never exist.
 TYPED_TEST(Plan, EveryFieldOfLongPlans) {
   for (const int k : {21, 22, 23}) {
     const Region region(size_of<TypeParam>(1 << k), true);
@@ -113,7 +111,7 @@ TYPED_TEST(Plan, FirstObject) {
   }
 }
 
-// The query counts some cells more than the plan takes, as many for each split.
+// The query counts more cells than the plan takes, the same number for each split.
 TYPED_TEST(Plan, MarginOfTheQuery) {
   const Region region(1 << 26, false);
   for (const std::int32_t length : accepted<TypeParam>(20)) {
@@ -132,14 +130,14 @@ TYPED_TEST(Plan, NumberOfSplits) {
     EXPECT_EQ(ExpectedPlan(1 << k, sizeof(TypeParam), 0).splits(), splits) << k;
 }
 
-/// Init and run in a block of exactly the bytes told, which ends at a page that must not be touched.
+/// Init and run in a block of exactly the stated size, which ends at a guard page.
 TYPED_TEST(Plan, StaysInTheBlock) {
   for (const std::int32_t length : accepted<TypeParam>(17)) {
     const std::size_t size = size_of<TypeParam>(length);
     const Guarded region(size + 64);
     for (const int back : {0, 1, 3, 8, 16, 31, 32, 33}) {
       std::byte* const block = region.end() - size - back;
-      // A base length at such an address may take a little more.
+      // At such an address a base length may take a little more.
       if (size == 256 && (address(block) >> 31 & 1) != 0 && address(block) % 32 != 0) continue;
       std::memset(region.begin(), 0xAA, static_cast<std::size_t>(region.end() - region.begin()));
       typename Engine<TypeParam>::State* state = nullptr;
@@ -156,7 +154,7 @@ TYPED_TEST(Plan, StaysInTheBlock) {
   }
 }
 
-// The bytes that a base length takes beyond those told, in the addresses where that happens.
+// The bytes that a base length takes beyond the stated size, at the addresses where that happens.
 TYPED_TEST(Plan, BaseLengthsWithBit31) {
   const Region region(1 << 16, true);
   for (const int offset : {0, 1, 16, 31}) {
@@ -171,7 +169,7 @@ TYPED_TEST(Plan, BaseLengthsWithBit31) {
   }
 }
 
-/// A run changes the work areas and nothing else of the state.
+/// A run changes nothing of the state but the work areas.
 TYPED_TEST(Plan, RunsChangeTheWorkAreasOnly) {
   for (const std::int32_t length : accepted<TypeParam>(17)) {
     if ((length & (length - 1)) != 0) continue;
@@ -188,7 +186,7 @@ TYPED_TEST(Plan, RunsChangeTheWorkAreasOnly) {
       if (memory[i] == before[i]) continue;
       const std::uint64_t at = address(&memory[i]);
       auto area = plan.work_areas().upper_bound(at);
-      ASSERT_NE(area, plan.work_areas().begin()) << length << ": changed in front of the work areas";
+      ASSERT_NE(area, plan.work_areas().begin()) << length << ": changed before the work areas";
       --area;
       ASSERT_LT(at, area->first + area->second) << length << ": changed outside the work areas";
     }

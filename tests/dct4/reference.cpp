@@ -12,7 +12,7 @@ namespace {
 using Complex = std::complex<long double>;
 constexpr long double pi = std::numbers::pi_v<long double>;
 
-/// A number of 200 bits as a sum of three of binary64, which hold more bits than binary128.
+/// A number of 200 bits as a sum of three binary64 values, which hold more bits than binary128.
 template <class Function>
 Wide evaluate(const Function& function) {
   mpfr_t value;
@@ -41,9 +41,9 @@ std::vector<Complex> fourier(const std::vector<Complex>& x, std::size_t offset, 
   const auto even = fourier(x, offset, 2 * step), odd = fourier(x, offset + step, 2 * step);
   std::vector<Complex> result(count);
   for (std::size_t k = 0; k < count / 2; ++k) {
-    const Complex turned = odd[k] * unit(static_cast<std::int64_t>(k), static_cast<std::int64_t>(count));
-    result[k] = even[k] + turned;
-    result[k + count / 2] = even[k] - turned;
+    const Complex rotated = odd[k] * unit(static_cast<std::int64_t>(k), static_cast<std::int64_t>(count));
+    result[k] = even[k] + rotated;
+    result[k + count / 2] = even[k] - rotated;
   }
   return result;
 }
@@ -105,8 +105,8 @@ std::vector<long double> fast_dct4(const std::vector<long double>& x) {
   return y;
 }
 
-// Blocks of 4096 terms, so that an angle is the sum of one that is known by the block and one known within
-// it.
+// Blocks of 4096 terms: an angle is the sum of one that depends on the block and one that depends on the
+// place in it.
 template <class T>
 long double one_output(const T* x, std::int64_t length, std::int64_t k) {
   const std::int64_t block = std::min<std::int64_t>(length, 4096), odd = 2 * k + 1;

@@ -24,8 +24,8 @@ std::vector<long double> fast_dct4(const std::vector<long double>& x);
 template <class T>
 long double one_output(const T* x, std::int64_t length, std::int64_t k);
 
-/// Greatest error that a transform of inputs in -1 .. 1 may have, from the greatest at length 4096: it grows
-/// with the root of the length, and with the number of levels.
+/// The greatest error allowed for inputs in -1 .. 1, scaled from the one at length 4096: it grows with the
+/// root of the length and with the number of levels.
 double error_bound(double bound_4096, std::int64_t length);
 
 }  // namespace xfm::test

@@ -1,4 +1,4 @@
-// The size query: against an implementation of its own kind, and against sizes that were worked out by hand.
+// The size query against an independent implementation and against sizes worked out by hand.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -11,8 +11,7 @@
 namespace xfm::test {
 namespace {
 
-/// The rule once more, in 64 bits: the sum is made first, and then looked at as the 32 bits that it is kept
-/// in.
+/// The rule once more, in 64 bits: the sum is formed first and then cut to the 32 bits that hold it.
 class Rule {
  public:
   Rule(std::int64_t length, int element) : length_(length), element_(element) {}
@@ -49,7 +48,7 @@ class Rule {
     add(224);
     return split(m / r);
   }
-  /// A sum that has come to be negative is refused, even if more bytes would bring it round again.
+  /// A sum that has become negative is refused, even if further bytes would wrap it to a positive one.
   void add(std::int64_t bytes) {
     sum_ = static_cast<std::uint32_t>(sum_ + static_cast<std::uint64_t>(bytes));
     fits_ = fits_ && static_cast<std::int32_t>(sum_) >= 0;
@@ -61,7 +60,7 @@ class Rule {
   bool fits_ = true;
 };
 
-/// Refused lengths leave the size as it was.
+/// Refused lengths leave the size unchanged.
 constexpr std::int32_t untouched = 0x5A5A5A5A;
 
 template <class T>
@@ -97,7 +96,7 @@ TYPED_TEST(Size, AgreesWithTheRuleAtRandom) {
   for (int i = 0; i < 1'000'000; ++i) ASSERT_TRUE(agrees<TypeParam>(static_cast<std::int32_t>(bits())));
 }
 
-// Every length of 32 bits: minutes.
+// Every 32-bit length: takes minutes.
 TYPED_TEST(Size, DISABLED_AgreesWithTheRuleEverywhere) {
   for (std::int64_t length = INT32_MIN; length <= INT32_MAX; ++length) ASSERT_TRUE(agrees<TypeParam>(length));
 }
@@ -166,7 +165,7 @@ TYPED_TEST(Size, KnownSizes) {
   }
 }
 
-/// The accepted lengths as a set, stated without the rule.
+/// The set of accepted lengths, stated without the rule.
 TYPED_TEST(Size, AcceptedLengths) {
   const bool single = sizeof(TypeParam) == 4;
   std::set<std::int64_t> expected;

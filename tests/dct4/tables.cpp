@@ -1,5 +1,5 @@
-// The tables in the memory of a plan, value for value: the angle rounded as the design says, then its cosine
-// or sine to the last place; and the exact angle, as near as these roundings let it be.
+// The tables in the memory of a plan, value by value: the angle rounded as designed, then its cosine or sine
+// to the last place; and the exact angle within what these roundings allow.
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -53,7 +53,7 @@ class Tables {
 
 constexpr int lanes_of(std::size_t element) { return static_cast<int>(16 / element); }
 
-/// The value that stands for cos or sin of pi x, x already rounded to the precision.
+/// The stored value of cos or sin of pi x, where x is already rounded to the precision.
 template <class T>
 void expect_value(T got, T x, bool sine) {
   const T angle = static_cast<T>(static_cast<double>(x) * 3.141592653589793);
@@ -62,7 +62,7 @@ void expect_value(T got, T x, bool sine) {
       << "angle " << angle;
 }
 
-/// Near to the exact angle, 2 pi turn / whole, whose roundings move it by some last places of itself.
+/// Near the value at the exact angle, 2 pi turn / whole, which roundings move by a few last places.
 template <class T>
 void expect_near(T got, std::int64_t turn, std::int64_t whole, bool sine) {
   const Wide exact = sine ? cosine_of_turn(4 * turn - whole, static_cast<unsigned long>(4 * whole))
@@ -72,7 +72,7 @@ void expect_near(T got, std::int64_t turn, std::int64_t whole, bool sine) {
   ASSERT_LE(std::abs(static_cast<double>(Wide{got} - exact)), bound) << turn << "/" << whole;
 }
 
-/// How many values of a long table to skip from one that is looked at to the next.
+/// The step between the values of a long table that are checked.
 std::int64_t stride_of(std::int64_t values) { return values <= 1 << 14 ? 1 : values / 4999 | 1; }
 
 template <class T>

@@ -1,5 +1,4 @@
-// Eight threads, each with a state of its own, and all with one state of a base length: the thread sanitizer
-// watches.
+// Eight threads under the thread sanitizer: with a state each, or with one state of a base length for all.
 #include <gtest/gtest.h>
 
 #include <thread>
@@ -11,7 +10,7 @@ namespace {
 
 constexpr unsigned thread_count = 8;
 
-/// Work on every thread at once; gtest's checks stay on this one.
+/// Runs the work on all threads at once; GoogleTest's checks stay on this one.
 template <class Work>
 void on_all_threads(const Work& work) {
   std::vector<std::thread> threads;

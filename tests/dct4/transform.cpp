@@ -50,7 +50,7 @@ TYPED_TEST(Transform, DirectSum) {
   }
 }
 
-/// Every column of the matrix, so that no entry can hide behind others.
+/// Every column of the matrix, so that no entry can hide behind another.
 TYPED_TEST(Transform, EveryImpulse) {
   for (int k = 1; k <= 11; ++k) {
     const std::int64_t n = 1 << k;
@@ -120,7 +120,7 @@ TYPED_TEST(Transform, DISABLED_SomeOutputsOfTheLongestLength) {
   expect_some_outputs<TypeParam>(Engine<TypeParam>::longest);
 }
 
-TYPED_TEST(Transform, TwiceIsHalfTheLength) {
+TYPED_TEST(Transform, AppliedTwiceIsHalfTheLength) {
   for (int k = 1; k <= 20; ++k) {
     const Owned<TypeParam> engine(1 << k);
     const auto src = noise<TypeParam>(std::size_t{1} << k);
@@ -140,8 +140,7 @@ TYPED_TEST(Transform, InPlace) {
   }
 }
 
-/// Bytes off the alignment that the element type guarantees are for the caller's compiler; all multiples of
-/// it are here.
+/// All multiples of the alignment of the element type; other addresses are undefined behaviour of the caller.
 TYPED_TEST(Transform, AnyAlignment) {
   constexpr std::size_t most = 64 / sizeof(TypeParam);
   for (int k = 1; k <= 14; ++k) {
@@ -183,7 +182,7 @@ TYPED_TEST(Transform, StaysBetweenTheGuards) {
   }
 }
 
-// A run on other data in between changes nothing, NaN in it neither.
+// A run on other data in between changes nothing, even if they hold NaN.
 TYPED_TEST(Transform, RunsAreIndependent) {
   for (int k = 1; k <= longest_everyday; ++k) {
     const std::size_t n = std::size_t{1} << k;
@@ -196,7 +195,7 @@ TYPED_TEST(Transform, RunsAreIndependent) {
   }
 }
 
-// Two states of one length, at unlike addresses, give the same bits.
+// Two states of one length at differently aligned addresses give the same bits.
 TYPED_TEST(Transform, BitsDoNotDependOnTheBlock) {
   for (int k = 1; k <= longest_everyday; ++k) {
     const std::size_t size = size_of<TypeParam>(1 << k);
@@ -226,7 +225,7 @@ TYPED_TEST(Transform, BaseOf2) {
   }
 }
 
-/// tan(2 pi k / n), by the quotient of the sine and the cosine.
+/// tan(2 pi k / n), as the quotient of sine and cosine.
 template <class T>
 T tangent_of_turn(long k, unsigned long n) {
   return static_cast<T>(cosine_of_turn(4 * k - static_cast<long>(n), 4 * n) / cosine_of_turn(k, n));
@@ -265,7 +264,7 @@ TYPED_TEST(Transform, ImpulseAtTheFront) {
   }
 }
 
-/// The elements of dst that a run writes, and those of src that it reads: a NaN there is seen in dst.
+/// The elements of dst that a run writes, and those of src that it reads: a NaN there reaches dst.
 template <class T>
 std::pair<std::set<int>, std::set<int>> touched(std::int32_t length) {
   const Owned<T> engine(length);
@@ -294,7 +293,7 @@ TYPED_TEST(Transform, PowersOfTwoTouchEveryElement) {
   }
 }
 
-// A power of two and one more is no DCT-IV; which elements it touches is known all the same.
+// A power of two plus one is not a DCT-IV, yet it is known which elements it touches.
 TEST(Hazard, Elements33) {
   std::set<int> expected;
   for (const auto& [first, last] : {std::pair{0, 3}, {6, 11}, {14, 19}, {22, 27}, {30, 33}})
@@ -302,8 +301,7 @@ TEST(Hazard, Elements33) {
   EXPECT_EQ(touched<float>(33), std::pair(expected, expected));
 }
 
-/// Indices outer * i + inner in front, with i < half, and as far from 2 N - 1 behind, with half <= i < 2
-/// half.
+/// Indices outer * i + inner for i < half, and 2 N - 1 minus that for half <= i < 2 half.
 std::set<int> mapped(int length, int outer, int inner, int half) {
   std::set<int> result;
   for (int i = 0; i < 2 * half; ++i)
@@ -311,7 +309,7 @@ std::set<int> mapped(int length, int outer, int inner, int half) {
   return result;
 }
 
-TYPED_TEST(Transform, PowersOfTwoAndOneMoreFollowTheMap) {
+TYPED_TEST(Transform, PowersOfTwoPlusOneFollowTheMap) {
   for (const auto& [k, r] : std::map<int, int>{{3, 2}, {4, 2}, {5, 4}, {6, 8}, {7, 8}, {8, 16}, {9, 16}}) {
     const int length = (1 << k) + 1, m = (1 << k) / r;
     if (size_of<TypeParam>(length) == 0) continue;

@@ -1,5 +1,5 @@
-// What ties an inverse kernel to the forward one of its length and precision: it undoes it, and it is the
-// same network with the imaginary unit reversed. Every statement is made of a pair of kernels.
+// An inverse kernel undoes the forward kernel of its length and precision, and it is the same network with i
+// replaced by -i. Every test here is about such a pair.
 #include <algorithm>
 #include <cmath>
 
@@ -28,7 +28,7 @@ std::vector<Kernel> forward_kernels() {
   return found;
 }
 
-/// The inverse kernel of the forward one, or null.
+/// The inverse of a forward kernel, or null.
 const Kernel* inverse_of(const Kernel& forward) {
   for (const Pair& pair : pairs)
     if (std::string(forward.family) == pair.forward)
@@ -36,7 +36,7 @@ const Kernel* inverse_of(const Kernel& forward) {
   return nullptr;
 }
 
-/// The flag by which the inverse kernel has the factor that this one gives the forward kernel.
+/// The flag that gives the inverse kernel the factor that this one gives the forward kernel.
 std::int32_t mirrored(std::int32_t flag) {
   if (flag == XFM_SCALE_FWD_BY_N) return XFM_SCALE_INV_BY_N;
   return flag == XFM_SCALE_INV_BY_N ? XFM_SCALE_FWD_BY_N : flag;
@@ -76,7 +76,7 @@ double greatest_difference(const Array& one, const Array& other) {
   return greatest;
 }
 
-/// The root of the sum of squares of one - times * other, in proportion to that of times * other.
+/// The Euclidean norm of one - times * other, relative to that of times * other.
 double relative_distance(const Array& one, const Array& other, double times = 1) {
   double differences = 0, data = 0;
   for (int i = 0; i < one.count(); ++i) {
@@ -101,8 +101,8 @@ class Direction : public KernelTest {
     return dst;
   }
 
-  /// Of the rounding of one transform: that of a matrix entry, and in binary64, whose matrices are far better
-  /// than they must be, four roundings.
+  /// For the rounding of one transform: the bound of a matrix entry, but in binary64, whose matrices are far
+  /// better than their bound, four roundings.
   static double bound() {
     return kernel().precision == Precision::binary32 ? matrix_bound(kernel()) : 4 * 0x1p-53;
   }
@@ -113,7 +113,7 @@ class Direction : public KernelTest {
   const Kernel* inverse_ = nullptr;
 };
 
-/// Forward and inverse by one flag make so many times the input, apart from the rounding of two transforms.
+/// Forward and inverse with one flag give `times` the input, apart from the rounding of two transforms.
 void Direction::returns_the_input(std::int32_t flag, double times) {
   const Array src = random_input();
   const Array back = inverse(forward(src, flag), flag);
@@ -127,7 +127,7 @@ TEST_P(Direction, InverseUndoesForward) {
   returns_the_input(XFM_SCALE_BY_SQRT_N, 1);
 }
 
-// Either direction carries 1/N by a flag of its own; the other one's flag is as good as none.
+// Each direction applies 1/N for a flag of its own; the flag of the other one has no effect.
 TEST_P(Direction, FlagOfTheOtherDirectionIsNoFactor) {
   const Array src = random_input(Kind::wide);
   EXPECT_TRUE(same_bits(forward(src, XFM_SCALE_INV_BY_N), forward(src, XFM_SCALE_NONE)));
@@ -137,10 +137,10 @@ TEST_P(Direction, FlagOfTheOtherDirectionIsNoFactor) {
 
 INSTANTIATE_TEST_SUITE_P(All, Direction, testing::ValuesIn(forward_kernels()), ByName());
 
-/// Complex transforms of both directions act on arrays of one shape, which says more about them.
+/// Complex transforms of both directions have arrays of the same shape, so more can be compared.
 class ComplexDirection : public Direction {};
 
-// The two come from one source, so that this holds to the bit, apart from the signs of zeros.
+// Both come from one network, so this holds to the bit, apart from the signs of zeros.
 TEST_P(ComplexDirection, InverseIsForwardWithPartsExchanged) {
   for (const Kind kind : kinds) {
     const Array src = random_input(kind);
@@ -152,8 +152,8 @@ TEST_P(ComplexDirection, InverseIsForwardWithPartsExchanged) {
   }
 }
 
-// In binary64 real parts and imaginary parts go through one network of real coefficients and meet in its last
-// step, where the direction is the sign of a term: the same bits again. Binary32 twiddles round on their way.
+// In binary64 real and imaginary parts go through a network of real coefficients and meet only in its last
+// step, where the direction is the sign of a term: the same bits again. Binary32 twiddles round earlier.
 TEST_P(ComplexDirection, InverseIsForwardReflected) {
   const bool exact = kernel().precision == Precision::binary64;
   for (int round = 0; round < 4; ++round) {
@@ -166,8 +166,7 @@ TEST_P(ComplexDirection, InverseIsForwardReflected) {
   }
 }
 
-// An entry of either matrix may be off by the bound, and the two in opposite directions, but not a whole
-// column.
+// An entry of either matrix may be off by the bound, in opposite directions, but not a whole column.
 TEST_P(ComplexDirection, InverseMatrixIsForwardMatrixReflected) {
   for (int in = 0; in < kernel().read; ++in) {
     Array unit(kernel().precision, kernel().read);
@@ -189,7 +188,7 @@ TEST_P(ComplexDirection, RealInputHasConjugateSpectra) {
   }
 }
 
-// exp(-pi i) = exp(pi i) = -1: two points have one direction, and no more points do.
+// exp(-pi i) = exp(pi i) = -1: with two points, and only then, both directions are the same.
 TEST_P(ComplexDirection, OnlyTwoPointsHaveNone) {
   const Array src = random_input();
   for (const std::int32_t flag : flags) {

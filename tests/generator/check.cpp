@@ -1,4 +1,4 @@
-// The checks that stop a build: what they count, and that they tell a wrong network by name.
+// The checks that stop a build: what they count, and that they name a wrong network.
 #include "gen/network/check.h"
 
 #include <gtest/gtest.h>
@@ -38,7 +38,7 @@ TEST(Count, LivingOperations) {
   EXPECT_EQ(instructions(network), 6);
 }
 
-TEST(Count, PairsWorkTwice) {
+TEST(Count, PairsCountTwice) {
   Network network(2);
   const Value x = network.load({0, 1, -1, -1}), y = network.load({2, 3, -1, -1});
   test::store(network,
@@ -64,7 +64,7 @@ TEST(Count, IdleAndTrivialLanesDoNotCount) {
   EXPECT_EQ(counts.mult_nodes, 2);
 }
 
-TEST(Count, Statements) {
+TEST(Count, LinearCombinations) {
   Network network(1, Rounding::combination);
   const Value x = network.load(0), y = network.load(1);
   const Constant c = constant("c", 3), one{"1", 1};
@@ -103,7 +103,7 @@ TEST(CheckDefinition, NamesTheKernel) {
   EXPECT_EQ(error(1), "no error");
   EXPECT_EQ(error(2), "N=2: output 1 is not that of the transform");
   EXPECT_EQ(error(Wide(1) + Wide(0x1p-80)), "N=2: output 1 is not that of the transform")
-      << "a wrong last place";
+      << "wrong in the last place";
 }
 
 TEST(CheckMemory, EveryInputOnceAndEveryOutputOnce) {
@@ -128,7 +128,7 @@ TEST(MakeKernel, TriesOtherTreesOfTheSameLength) {
   };
   const Kernel dear = make("D(9)");
   EXPECT_EQ(dear.tree, "D(9)");
-  EXPECT_GT(count(*dear.network).mults, dear.mults) << "what-if shows costs above the row's";
+  EXPECT_GT(count(*dear.network).mults, dear.mults) << "another tree may cost more than the row";
   EXPECT_LE(count(*make("").network).mults, dear.mults);
   for (const std::string wrong : {"2,2", "CT(3,4)", "D(11)"})
     EXPECT_NE(error_of([&] { make(wrong); }).find(wrong), std::string::npos) << wrong;

@@ -43,7 +43,7 @@ TEST_F(ComplexTest, AbsentHalvesCostNothing) {
   EXPECT_EQ(count(network, Op::add), 1);
 }
 
-// |cos| = |sin| at an eighth: the four products are two.
+// |cos| = |sin| at an eighth: two products are enough.
 TEST_F(ComplexTest, EighthsShareProducts) {
   const Complex product = root_of_unity(turn(1, 8)) * z;
   EXPECT_EQ(count(network, Op::mul), 2);

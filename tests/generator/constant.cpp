@@ -11,7 +11,7 @@
 namespace xfm::gen {
 namespace {
 
-/// Calls check(a, b) for all fractions of the circle with these denominators; those above 64 are of Rader
+/// Calls check(a, b) for all fractions of the circle with these denominators. Those above 64 come from Rader
 /// spectra, chirps and long transforms.
 template <class Check>
 void for_each_turn(Check check) {
@@ -33,7 +33,7 @@ TEST(Constant, CosineAndSineAreNearestInBothPrecisions) {
   });
 }
 
-// Far beyond binary64, so that sums and products of constants are good for one more rounding.
+// Far beyond binary64, so that sums and products of constants can still be rounded once.
 TEST(Constant, AnglesAddInBinary128) {
   for_each_turn([](long a, long b) {
     const ComplexConstant w = root_of_unity(turn(a, b)), v = root_of_unity(turn(1, b)),
@@ -65,7 +65,7 @@ TEST(Constant, OneNameIsOneValue) {
     for (const Constant& c : {cosine(turn(a, b)), sine(turn(a, b))}) {
       ASSERT_TRUE(values.emplace(c.name, c.value).first->second == c.value) << c.name;
       const auto& known = names.emplace(static_cast<double>(c.value), c.name).first->second;
-      ASSERT_EQ(known, c.name) << "two names of one value";
+      ASSERT_EQ(known, c.name) << "one value has two names";
     }
   });
 }

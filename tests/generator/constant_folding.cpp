@@ -1,4 +1,4 @@
-// Folded networks compute the same with fewer products.
+// Folded networks compute the same values with fewer products.
 #include "gen/passes/constant_folding.h"
 
 #include <gtest/gtest.h>
@@ -95,7 +95,7 @@ TEST(FoldLanes, LaneConstants) {
   for (std::size_t l = 0; l < 4; ++l) EXPECT_LT(static_cast<double>(wide_abs(before[l] - after[l])), 1e-32);
 }
 
-TEST(FoldStatements, AreRefused) {
+TEST(FoldLinearCombinations, AreRefused) {
   Network network(1, Rounding::combination);
   test::store(network, network.sum(std::vector<Network::Product>{{constant("c", 3), network.load(0)}}), 0);
   EXPECT_THROW(fold(network), std::logic_error);

@@ -7,5 +7,5 @@ rm -rf "$place"
 mkdir -p "$place/one" "$place/another/place"
 (cd "$place" && "$generator" --out one)
 (cd "$place/another/place" && "$generator" --out "$place/another/place/two")
-[ "$(ls "$place/one" | wc -l)" -gt 10 ] # it did write
+[ "$(ls "$place/one" | wc -l)" -gt 10 ] # something was written
 diff -r "$place/one" "$place/another/place/two"

@@ -1,4 +1,4 @@
-// The written text: literals keep every bit, and the same kernels give the same bytes.
+// The emitted text: literals keep every bit, and the same kernels give the same bytes.
 #include "gen/write/emit.h"
 
 #include <gtest/gtest.h>
@@ -17,22 +17,22 @@ TEST(Literal, KeepsEveryBit) {
   for (int round = 0; round < 1000; ++round) {
     const double value =
         std::ldexp(static_cast<double>(random()) - 0x1p63, static_cast<int>(random() % 200) - 160);
-    const std::string twofold = literal(Wide(value), Precision::binary64);
-    const std::string single = literal(Wide(value), Precision::binary32);
-    ASSERT_EQ(std::strtod(twofold.c_str(), nullptr), value) << twofold;
-    ASSERT_EQ(single.back(), 'F');
-    ASSERT_EQ(std::strtof(single.c_str(), nullptr), static_cast<float>(value)) << single;
+    const std::string wide = literal(Wide(value), Precision::binary64);
+    const std::string narrow = literal(Wide(value), Precision::binary32);
+    ASSERT_EQ(std::strtod(wide.c_str(), nullptr), value) << wide;
+    ASSERT_EQ(narrow.back(), 'F');
+    ASSERT_EQ(std::strtof(narrow.c_str(), nullptr), static_cast<float>(value)) << narrow;
   }
 }
 
-// 1 + 2^-24 + 2^-60 lies above the middle of two binary32 numbers, and in binary64 it is that middle.
+// 1 + 2^-24 + 2^-60 lies just above the midpoint of two binary32 numbers, and rounds to it in binary64.
 TEST(Literal, IsRoundedOnce) {
   const Wide value = Wide(1) + Wide(0x1p-24) + Wide(0x1p-60);
   EXPECT_EQ(std::strtof(literal(value, Precision::binary32).c_str(), nullptr), 1 + 0x1p-23F);
   EXPECT_EQ(std::strtod(literal(value, Precision::binary64).c_str(), nullptr), 1 + 0x1p-24);
 }
 
-TEST(Literal, NeedsNoMoreThanAHexadecimalFloat) {
+TEST(Literal, IsAShortHexadecimalFloat) {
   EXPECT_EQ(literal(Wide(0.5), Precision::binary64), "0x1p-1");
   EXPECT_EQ(literal(Wide(-0.75), Precision::binary32), "-0x1.8p-1F");
 }
@@ -43,7 +43,7 @@ std::vector<Kernel> kernels_of(const Family& family, int length) {
   return kernels;
 }
 
-TEST(EmitFile, TheSameTwice) {
+TEST(EmitFile, IsRepeatable) {
   for (const Family& family : families()) {
     if (family.by_hand()) continue;
     for (const int length : {family.lengths.front(), family.lengths[family.lengths.size() / 2]}) {
@@ -55,7 +55,7 @@ TEST(EmitFile, TheSameTwice) {
   }
 }
 
-TEST(EmitFile, TellsTheRowAndTheCosts) {
+TEST(EmitFile, NamesTheRowAndTheCosts) {
   for (const Family& family : families()) {
     if (family.by_hand()) continue;
     const std::vector<Kernel> kernels = kernels_of(family, family.lengths.back());
@@ -73,13 +73,14 @@ TEST(EmitFile, TellsTheRowAndTheCosts) {
 
 TEST(SharedConstants, OneNameHasOneValue) {
   const Family& family = families().front();
-  const Kernel single = family.make(8, Precision::binary32, ""),
-               twofold = family.make(8, Precision::binary64, "");
+  const Kernel narrow = family.make(8, Precision::binary32, ""),
+               wide = family.make(8, Precision::binary64, "");
   SharedConstants shared;
-  const std::string name = shared.use(constant("c", 3), twofold);
-  EXPECT_EQ(shared.use(constant("c", 3), twofold), name);
-  EXPECT_NE(shared.use(constant("c", 3), single), name) << "a register of four is not a register of two";
-  EXPECT_THROW(shared.use(constant("c", 4), twofold), std::logic_error);
+  const std::string name = shared.use(constant("c", 3), wide);
+  EXPECT_EQ(shared.use(constant("c", 3), wide), name);
+  EXPECT_NE(shared.use(constant("c", 3), narrow), name)
+      << "four lanes and two lanes need different constants";
+  EXPECT_THROW(shared.use(constant("c", 4), wide), std::logic_error);
   const std::string text = shared.definitions("v.h");
   EXPECT_EQ(text.find(name), text.rfind(name)) << "defined twice";
 }

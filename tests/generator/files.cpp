@@ -22,7 +22,7 @@ TEST_F(Write, OnlyWhatChanges) {
   std::filesystem::last_write_time(path, long_ago);
   const auto before = std::filesystem::last_write_time(path);
   EXPECT_FALSE(write_if_changed(path, "one\n"));
-  EXPECT_EQ(std::filesystem::last_write_time(path), before) << "touched without need";
+  EXPECT_EQ(std::filesystem::last_write_time(path), before) << "rewritten without need";
   EXPECT_TRUE(write_if_changed(path, "two\n"));
   EXPECT_NE(std::filesystem::last_write_time(path), before);
   EXPECT_EQ(read_file(path), "two\n");
@@ -38,11 +38,11 @@ TEST_F(Write, EveryByteCounts) {
   EXPECT_FALSE(write_if_changed(path, ""));
 }
 
-TEST_F(Write, SaysWhatItCannotWrite) {
+TEST_F(Write, NamesTheFileThatItCannotWrite) {
   std::filesystem::create_directories(path);
   try {
     write_if_changed(path, "text");
-    FAIL() << "a folder was written to";
+    FAIL() << "wrote to a folder";
   } catch (const std::runtime_error& error) {
     EXPECT_NE(std::string(error.what()).find(path.string()), std::string::npos) << error.what();
   }

@@ -1,4 +1,4 @@
-// Gathering like elements in lanes: what it costs, and that every element arrives.
+// Gathering elements into lanes: its cost, and that every element arrives.
 #include "gen/packing/lanes.h"
 
 #include <gtest/gtest.h>
@@ -18,10 +18,10 @@ using Spread = std::vector<std::vector<Element>>;
 
 constexpr int lanes_of_a_node = 4;
 
-/// Number n of what the registers are loaded with.
+/// The n-th number that the registers hold.
 Number number(int n) { return {1.0 + n, 1000.0 - 3 * n}; }
 
-/// What the value's lanes are.
+/// The lanes of the value.
 std::vector<Number> values(const Complex& z) {
   std::vector<double> src(200);
   for (int n = 0; n < 100; ++n) {
@@ -34,11 +34,10 @@ std::vector<Number> values(const Complex& z) {
   return result;
 }
 
-/// Registers of a split form: node j holds the numbers 4j to 4j + 3, number n being scalars n and 100 + n of
-/// src.
+/// Planar registers: node j holds the numbers 4j to 4j + 3; number n is the scalars n and 100 + n of src.
 class Gathering : public testing::Test {
  protected:
-  /// The elements that the lanes of `nodes` registers become.
+  /// The elements held by the lanes of `nodes` registers.
   Spread spread(int nodes) {
     Spread elements;
     for (int j = 0; j < nodes; ++j) {
@@ -97,7 +96,7 @@ TEST_F(Gathering, OneQuarterTurnForAllIsFree) {
   EXPECT_EQ(z.q, -(Value{&network, registers[0][0].re.value.node, false}));
 }
 
-// Places, repetitions, signs and weights as they come; numbers are integers, so that everything is exact.
+// Random places, repetitions, signs and weights. All numbers are integers, so everything is exact.
 TEST_F(Gathering, AnyElementsArrive) {
   std::mt19937 random(1);
   const auto below = [&](int n) { return static_cast<int>(random() % static_cast<unsigned>(n)); };
@@ -122,7 +121,7 @@ TEST_F(Gathering, AnyElementsArrive) {
       expected.push_back((negative ? -number(n) : number(n)) * Number(re, im));
     }
     Complex z = packing.gather(chosen, Form::planar);
-    const Value zero = fresh.load({99, 99, 99, 99});  // stands in for a half that is zero by structure
+    const Value zero = fresh.load({99, 99, 99, 99});  // stands for a half that is zero by structure
     const bool empty[] = {z.p.absent(), z.q.absent()};
     if (empty[0]) z.p = zero;
     if (empty[1]) z.q = zero;

@@ -28,9 +28,8 @@ TEST(Evaluate, OneRoundingAnOperation) {
   EXPECT_TRUE(run<Wide>(network, {1, 0}, 2)[0] == Wide(1) / 3);
 }
 
-// In binary32 the sum of these products is 0, term by term; from binary64 it is what is left of the first
-// product.
-TEST(Evaluate, StatementsRoundOnce) {
+// In binary32, summed term by term, these products give 0; in binary64 a remainder of the first one is left.
+TEST(Evaluate, LinearCombinationsRoundOnce) {
   const float x = 1 + 0x1p-12F;
   const Constant c = constant("c", Wide(x)), one{"1", 1};
   const float square = x * x, rest = static_cast<float>(double{x} * double{x} - double{square});
@@ -69,7 +68,7 @@ TEST(Evaluate, FactorComesLast) {
   const float src[] = {0.1F, 0.2F};
   float dst[] = {7, 7};
   evaluate(network, src, dst, 0.3F);
-  EXPECT_EQ(dst[0], 7) << "a scalar that no store names";
+  EXPECT_EQ(dst[0], 7) << "no store writes this scalar";
   EXPECT_EQ(dst[1], 0.3F * (0.1F + 0.2F));
 }
 

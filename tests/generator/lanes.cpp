@@ -1,4 +1,4 @@
-// Lanes at their ends: loads, stores, a width of one, and the whole form.
+// Lanes where they begin and end: loads, stores, a width of one, and the interleaved form.
 #include "gen/packing/lanes.h"
 
 #include <gtest/gtest.h>
@@ -28,7 +28,7 @@ TEST(Loading, FourNumbersAreTwoLoadsAndTwoShuffles) {
             (std::vector<float>{0, 2, 4, 6, 1, 3, 5, 7}));
 }
 
-TEST(Loading, WholeNumbersNeedNoShuffle) {
+TEST(Loading, InterleavedNumbersNeedNoShuffle) {
   Network network(4);
   Lanes lanes(network);
   const std::vector<Element> elements = {source_element(3), source_element(1)};
@@ -40,7 +40,7 @@ TEST(Loading, WholeNumbersNeedNoShuffle) {
   EXPECT_EQ(test::evaluate<float>(network, {0, 1, 2, 3, 4, 5, 6, 7}, 4), (std::vector<float>{6, 7, 2, 3}));
 }
 
-// From memory through both forms and back: numbers keep their order, whatever the number of instances.
+// From memory through either form and back: numbers keep their order, for any number of instances.
 TEST(Storing, LanesLeaveAsTheyCame) {
   for (const int width : {1, 4}) {
     for (const Form form : {Form::planar, Form::interleaved}) {
@@ -65,7 +65,7 @@ TEST(Storing, LanesLeaveAsTheyCame) {
   }
 }
 
-TEST(Storing, SplitNumbersAreInterleaved) {
+TEST(Storing, PlanarNumbersAreInterleaved) {
   Network network(4);
   Lanes lanes(network);
   const Complex z{network.load({0, 1, 2, 3}), network.load({4, 5, 6, 7})};
@@ -97,7 +97,7 @@ TEST(Weights, OnlyOneWaits) {
   EXPECT_NO_THROW(weighted(weighted(source_element(0), integers(1, 0)), integers(0, 1)));
 }
 
-TEST(WholeForm, AJoinIsAShuffleAndAFlip) {
+TEST(InterleavedForm, AJoinIsAShuffleAndAFlip) {
   Network network(4);
   Lanes lanes(network);
   const Complex z{network.load({0, 1, 2, 3}), network.load({4, 5, 6, 7})};
@@ -110,7 +110,7 @@ TEST(WholeForm, AJoinIsAShuffleAndAFlip) {
             (std::vector<float>{1 - 6, 2 + 5, 3 - 8, 4 + 7}));
 }
 
-TEST(WholeForm, Weights) {
+TEST(InterleavedForm, Weights) {
   for (const auto& [a, b] : {std::pair{integers(0, -1), integers(0, -1)},
                              {integers(0, 1), integers(0, 1)},
                              {integers(-1, 0), integers(-1, 0)},

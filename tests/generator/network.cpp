@@ -1,4 +1,4 @@
-// What is shared in a network, and that nothing else is.
+// What a network shares, and that it shares nothing else.
 #include "gen/network/network.h"
 
 #include <gtest/gtest.h>
@@ -27,10 +27,10 @@ TEST_F(NetworkTest, ASumIsOneNodeInBothOrders) {
 }
 
 TEST_F(NetworkTest, ADifferenceAndItsNegativeAreOneNode) {
-  const Value first = x - y, turned = y - x;
-  EXPECT_EQ(first.node, turned.node);
-  EXPECT_NE(first.negative, turned.negative);
-  EXPECT_EQ(turned, -first);
+  const Value first = x - y, reversed = y - x;
+  EXPECT_EQ(first.node, reversed.node);
+  EXPECT_NE(first.negative, reversed.negative);
+  EXPECT_EQ(reversed, -first);
   EXPECT_EQ(count(network, Op::sub), 1);
 }
 
@@ -139,8 +139,8 @@ TEST_F(NetworkTest, OperationsOnLanesKeepTheSign) {
   EXPECT_THROW(network.shuffle(x, -y, {0, 1, 4, 5}), std::logic_error);
 }
 
-// Statements round once: one node each, and no product in it is anybody else's.
-TEST(StatementNetwork, ShareNothing) {
+// A linear combination rounds once: it is one node, and shares no product with another.
+TEST(LinearCombinations, ShareNothing) {
   Network network(1, Rounding::combination);
   const Value x = network.load(0), y = network.load(1);
   const Constant one{"1", 1}, zero{"0", 0}, c = constant("c", 3);

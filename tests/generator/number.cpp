@@ -90,7 +90,7 @@ TEST(TwoStages, IndexMapsArePermutations) {
   });
 }
 
-// exp(-2 pi i n k/N) falls into a factor of the columns, the twiddle, and a factor of the rows.
+// exp(-2 pi i n k/N) is the product of a factor of the columns, the twiddle, and a factor of the rows.
 TEST(TwoStages, ExponentsAdd) {
   for_each_map([](const TwoStages& map) {
     const int a = map.a, b = map.b;

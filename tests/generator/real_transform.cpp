@@ -1,5 +1,5 @@
-// Real transforms as networks: every rule of a plan against the definition in binary128, what becomes
-// of products, signs, and the order by bisection.
+// Real transforms as networks: every rule of a plan against the definition in binary128, the passes over
+// products and signs, and the order by bisection.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -98,8 +98,8 @@ TEST(ComplexTransform, JoinsTwoRealOnes) {
   }
 }
 
-/// The statements that outputs depend on.
-int statements(const Draft& draft) {
+/// The linear combinations that outputs depend on.
+int combinations(const Draft& draft) {
   const std::vector<int> used = uses(draft);
   int count = 0;
   for (std::size_t id = 0; id < used.size(); ++id)
@@ -107,37 +107,37 @@ int statements(const Draft& draft) {
   return count;
 }
 
-TEST(Merging, TakesAProductIntoTheStatementBeforeIt) {
+TEST(Merging, TakesAProductIntoTheCombinationBeforeIt) {
   Draft draft;
   const Value x = draft.network->load(0), y = draft.network->load(1);
   const Value inner = combination({{constant("three", 3), x}, {constant("five", 5), y}});
   draft.outputs = {combination({{constant("seven", 7), inner}})};
   const Draft once = merged(draft);
-  EXPECT_EQ(statements(once), 1);
+  EXPECT_EQ(combinations(once), 1);
   EXPECT_EQ(test::lanes_of<double>(*once.network, once.outputs[0], {1, 10})[0], 21 + 350);
 }
 
-TEST(Merging, LeavesWhatIsUsedTwice) {
+TEST(Merging, LeavesValuesWithASecondUse) {
   Draft draft;
   const Value x = draft.network->load(0), y = draft.network->load(1);
   const Value inner = combination({{constant("three", 3), x}, {constant("five", 5), y}});
   draft.outputs = {combination({{constant("seven", 7), inner}}), inner + x};
-  EXPECT_EQ(statements(merged(draft)), 2);
+  EXPECT_EQ(combinations(merged(draft)), 2);
 }
 
-TEST(Merging, OfPairsTakesWhatBothShare) {
+TEST(Merging, OfPairsTakesTheSharedProduct) {
   Draft draft;
   const Value x = draft.network->load(0), y = draft.network->load(1);
   const Value u = combination({{constant("three", 3), x}}), v = combination({{constant("five", 5), y}});
   const Constant seven = constant("seven", 7);
   draft.outputs = {combination({{seven, u + v}}), combination({{seven, u - v}})};
   const Draft pair = merged_pairs(draft);
-  EXPECT_EQ(statements(pair), 2);
+  EXPECT_EQ(combinations(pair), 2);
   EXPECT_EQ(test::lanes_of<double>(*pair.network, pair.outputs[0], {1, 10})[0], 21 + 350);
   EXPECT_EQ(test::lanes_of<double>(*pair.network, pair.outputs[1], {1, 10})[0], 21 - 350);
 }
 
-TEST(Keeping, RoundsAProductOnlyBehindItsAdditions) {
+TEST(Unrounded, ProductsRoundOnlyAfterTheirAdditions) {
   Draft draft;
   const Value x = draft.network->load(0), y = draft.network->load(1);
   const Value product = combination({{constant("tenth", Wide(0.1)), x}});
@@ -150,10 +150,10 @@ TEST(Keeping, RoundsAProductOnlyBehindItsAdditions) {
   EXPECT_EQ(sum, static_cast<float>(double{2.3F} + 0.1 * 23));
   EXPECT_EQ(difference, static_cast<float>(double{2.3F} - 0.1 * 23));
   EXPECT_NE(difference, 0);
-  EXPECT_EQ(statements(once), 3);
+  EXPECT_EQ(combinations(once), 3);
 }
 
-TEST(Keeping, IsForStatementsAlone) {
+TEST(Unrounded, ValuesEnterCombinationsOnly) {
   Network network(1, Rounding::combination);
   const Value x = network.load(0);
   const Value wide =
@@ -164,12 +164,12 @@ TEST(Keeping, IsForStatementsAlone) {
   EXPECT_THROW(network.factor(wide), std::logic_error);
 }
 
-TEST(Keeping, LeavesWhatAnythingElseUses) {
+TEST(Unrounded, LeavesProductsWithAnotherUse) {
   Draft draft;
   const Value x = draft.network->load(0), y = draft.network->load(1);
   const Value product = combination({{constant("tenth", Wide(0.1)), x}});
   draft.outputs = {y + product, product};
-  EXPECT_EQ(statements(unrounded(draft)), 1);
+  EXPECT_EQ(combinations(unrounded(draft)), 1);
 }
 
 Draft random_draft(unsigned seed) {
@@ -189,13 +189,13 @@ Draft random_draft(unsigned seed) {
   return draft;
 }
 
-// Whatever is turned, the outputs stay, and no operation starts with a minus.
+// Whichever signs are negated, the outputs stay the same and no operation starts with a minus.
 TEST(Signs, ChangeNoOutput) {
   for (unsigned seed = 1; seed <= 50; ++seed) {
     const Draft draft = random_draft(seed);
     const Binding binding{{0, 1, 2, 3, 4, 5}, {0, 1, 2, 3}};
-    const std::vector<bool> none(draft.network->nodes().size(), false), turned = negated_values(draft);
-    const auto plain = bind(draft, binding, none), better = bind(draft, binding, turned);
+    const std::vector<bool> none(draft.network->nodes().size(), false), negated = negated_values(draft);
+    const auto plain = bind(draft, binding, none), better = bind(draft, binding, negated);
     const std::vector<double> src = {1.5, -2, 0.25, 3, -0.75, 7};
     EXPECT_EQ(test::evaluate(*plain, src, 4), test::evaluate(*better, src, 4)) << seed;
     EXPECT_LE(test::count(*better, Op::minus), test::count(*plain, Op::minus)) << seed;

@@ -1,5 +1,4 @@
-// The order of operations: everything before its use, all loads before the first store, nothing dead, nothing
-// lost.
+// The order of operations: operands first, all loads before the first store, nothing dead, nothing lost.
 #include "gen/order/schedule.h"
 
 #include <random>
@@ -27,15 +26,16 @@ void expect_order(const Network& network, Order order) {
   for (const Step& step : schedule(network, order)) {
     if (step.node < 0) {
       const auto s = static_cast<std::size_t>(step.store);
-      ASSERT_FALSE(stored[s]) << "store " << s << " is made twice";
+      ASSERT_FALSE(stored[s]) << "store " << s << " is repeated";
       const NodeId value = network.stores()[s].node;  // none where a zero is stored
-      ASSERT_TRUE(value < 0 || done[static_cast<std::size_t>(value)]) << "store " << s << " comes too early";
+      ASSERT_TRUE(value < 0 || done[static_cast<std::size_t>(value)])
+          << "store " << s << " comes before its value";
       stored[s] = storing = true;
       continue;
     }
     ASSERT_EQ(step.store, -1);
     const auto id = static_cast<std::size_t>(step.node);
-    ASSERT_FALSE(done[id]) << "node " << id << " is computed twice";
+    ASSERT_FALSE(done[id]) << "node " << id << " is repeated";
     for (const NodeId operand : operands(network.node(step.node)))
       ASSERT_TRUE(done[static_cast<std::size_t>(operand)])
           << "node " << id << " comes before node " << operand;
@@ -53,7 +53,7 @@ void expect_order(const Network& network) {
   }
 }
 
-TEST(Schedule, DeadOperationsFallAway) {
+TEST(Schedule, DropsDeadOperations) {
   Network network(1);
   const Value x = network.load(0), y = network.load(1), unread = network.load(2);
   const Value used = x + y, dead = x - y, more = dead + unread;

@@ -1,4 +1,4 @@
-// Flips that constants can carry fall away, and no bit changes.
+// Sign flips that constants can absorb disappear, and no bit changes.
 #include "gen/passes/sign_flips.h"
 
 #include <gtest/gtest.h>
@@ -15,7 +15,7 @@ class Flips : public testing::Test {
   Value exchanged(Value v) { return network.shuffle(v, v, {1, 0, 7, 6}); }
   Value flipped(Value v) { return network.flip_signs(v, {1, 0, 1, 0}); }
 
-  /// How many flips are left; the outputs are those of the network, bit for bit.
+  /// The number of flips left. The outputs must be those of the network, bit for bit.
   int left(std::size_t written) const {
     const auto result = absorb_flips(network);
     const std::vector<float> src = {0.1F, -0.7F, 1.3F, 0, 2.9F, -3.1F, -0.0F, 5.7F};

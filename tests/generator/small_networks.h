@@ -1,4 +1,4 @@
-// Small networks in tests: their constants, how many operations of a kind they have, and what they compute.
+// Small networks in tests: their constants, counts of operations, and what they compute.
 #pragma once
 
 #include <algorithm>
@@ -9,7 +9,7 @@
 
 namespace xfm::test {
 
-/// Nodes of the operation, dead ones too.
+/// Nodes of the operation, dead ones included.
 inline int count(const gen::Network& network, gen::Op op) {
   return static_cast<int>(std::count_if(network.nodes().begin(), network.nodes().end(),
                                         [op](const gen::Node& node) { return node.op == op; }));
@@ -31,7 +31,7 @@ inline void store(gen::Network& network, gen::Value v, int first) {
   network.store(network.factor(v), lanes);
 }
 
-/// What the network makes of src with the factor 1; scalars that it does not write are 0.
+/// The outputs for src with the factor 1; scalars that the network does not write are 0.
 template <class T>
 std::vector<T> evaluate(const gen::Network& network, const std::vector<T>& src, std::size_t written) {
   std::vector<T> dst(written);
@@ -39,7 +39,7 @@ std::vector<T> evaluate(const gen::Network& network, const std::vector<T>& src, 
   return dst;
 }
 
-/// What the lanes of a value are for src, its sign included.
+/// The lanes of a value for src, its sign included.
 template <class T>
 std::vector<T> lanes_of(gen::Network& network, gen::Value v, const std::vector<T>& src) {
   const auto width = static_cast<std::size_t>(network.width()), first = width * network.stores().size();

@@ -1,4 +1,4 @@
-// The transpose of a network, row for column.
+// The transpose of a network computes the transposed matrix.
 #include "gen/algorithms/transposition.h"
 
 #include <gtest/gtest.h>
@@ -42,11 +42,11 @@ TEST(Transposition, OfRandomNetworks) {
     }
     const std::vector<Value> chosen = {values.back(), values[inputs + 2], -values[values.size() - 2]};
 
-    Network turned(1);
+    Network transposed(1);
     Transposition transposition(network);
     for (std::size_t k = 0; k < outputs; ++k)
-      transposition.send(chosen[k],
-                         {turned.load(static_cast<int>(k)), turned.load(static_cast<int>(outputs + k))});
+      transposition.send(
+          chosen[k], {transposed.load(static_cast<int>(k)), transposed.load(static_cast<int>(outputs + k))});
     std::vector<Value> arrived[2];
     for (const Complex& z : transposition.run(inputs)) {
       arrived[0].push_back(z.p);
@@ -54,11 +54,11 @@ TEST(Transposition, OfRandomNetworks) {
     }
     const auto forward = matrix(network, chosen, inputs);
     for (const std::size_t half : {0U, 1U}) {
-      const auto backward = matrix(turned, arrived[half], 2 * outputs);
+      const auto backward = matrix(transposed, arrived[half], 2 * outputs);
       for (std::size_t n = 0; n < inputs; ++n) {
         for (std::size_t k = 0; k < outputs; ++k) {
           ASSERT_EQ(backward[n][half * outputs + k], forward[k][n]) << "round " << round;
-          ASSERT_EQ(backward[n][(1 - half) * outputs + k], 0) << "the halves meet in round " << round;
+          ASSERT_EQ(backward[n][(1 - half) * outputs + k], 0) << "the halves mix in round " << round;
         }
       }
     }
@@ -68,13 +68,13 @@ TEST(Transposition, OfRandomNetworks) {
 TEST(Transposition, AbsentOutputsSendNothing) {
   Network network(1);
   const Value x = network.load(0);
-  Network turned(1);
+  Network transposed(1);
   Transposition transposition(network);
-  transposition.send(Value{}, {turned.load(0), {}});
-  transposition.send(x, {turned.load(1), {}});
+  transposition.send(Value{}, {transposed.load(0), {}});
+  transposition.send(x, {transposed.load(1), {}});
   const auto arrived = transposition.run(2);
   ASSERT_EQ(arrived.size(), 2U);
-  EXPECT_EQ(arrived[0].p, turned.load(1));
+  EXPECT_EQ(arrived[0].p, transposed.load(1));
   EXPECT_TRUE(arrived[0].q.absent());
   EXPECT_TRUE(arrived[1].p.absent());
 }
@@ -82,9 +82,9 @@ TEST(Transposition, AbsentOutputsSendNothing) {
 TEST(Transposition, OnlyOfScalarNetworks) {
   Network network(2);
   const Value v = network.exchange(network.load({0, 1, -1, -1}));
-  Network turned(2);
+  Network transposed(2);
   Transposition transposition(network);
-  transposition.send(v, {turned.load({0, 1, -1, -1}), {}});
+  transposition.send(v, {transposed.load({0, 1, -1, -1}), {}});
   EXPECT_THROW(transposition.run(1), std::logic_error);
 }
 

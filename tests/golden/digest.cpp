@@ -29,7 +29,7 @@ class Hash {
   std::uint64_t value_ = 0xcbf29ce484222325;
 };
 
-/// A number of magnitude 2^-7 to 2, made of bits alone: no arithmetic, no rounding.
+/// A number of magnitude 2^-7 to 2, assembled from bits: no arithmetic, no rounding.
 template <class T>
 T number(std::uint64_t word) {
   if constexpr (sizeof(T) == 4) {
@@ -42,7 +42,7 @@ T number(std::uint64_t word) {
   }
 }
 
-/// Full vectors, enough for the shortest kernels to show a change of rounding, and one mostly of zeros of
+/// Full vectors, enough to reveal a change of rounding in the shortest kernels, and one mostly of zeros of
 /// either sign.
 template <class T>
 std::string digest_as(const catalogue::Kernel& kernel) {

@@ -1,4 +1,4 @@
-// A number that stands for all bits of a kernel's outputs on fixed inputs.
+// A hash of all bits of a kernel's outputs for fixed inputs.
 #pragma once
 
 #include <string>

@@ -58,7 +58,7 @@ std::string difference(const Table& before, const Table& now) {
     if (!old_rows.contains(row.front())) text += "+" + line(row);
   }
   if (!text.empty() || before == now) return text;
-  return "the rows are the same, in another order or more than once\n";
+  return "the same rows, but reordered or repeated\n";
 }
 
 }  // namespace xfm::test

@@ -1,4 +1,4 @@
-// One changed row is a diff of one row.
+// One changed row yields a difference of one row.
 #include <gtest/gtest.h>
 
 #include <cstdio>

@@ -1,6 +1,6 @@
 // The Hartley transforms of 5 and of 12 points against plain evaluations of their equations, bit for bit,
-// zeros of either sign equal. In binary32 a sum of products is a statement: evaluated in binary64 and rounded
-// once.
+// with zeros of either sign equal. A sum of products is a linear combination: evaluated in binary64 and
+// rounded once.
 #include <ios>
 
 #include "tests/bits/finite_data_test.h"
@@ -24,7 +24,7 @@ Samples<T> hartley5(const Samples<T>& x) {
   return {(p + q) + x[0], a1 + b1, a2 + b2, a2 - b2, a1 - b1};
 }
 
-/// w - c*a and c*a, a statement each.
+/// w - c*a, w + c*a and c*a, each a linear combination.
 template <class T>
 T less(T w, double c, T a) {
   return static_cast<T>(double{w} - c * double{a});
@@ -79,8 +79,8 @@ TEST_P(PlainHartley, EqualsTheEquations) {
   });
 }
 
-/// All of them must be in the catalogue: what is not there is a failure of its own.
-std::vector<Kernel> told() {
+/// Kernels that are missing from the catalogue are a failure of their own, below.
+std::vector<Kernel> listed_kernels() {
   std::vector<Kernel> kernels;
   for (const int length : {5, 12})
     for (const char* type : {"32f", "64f"})
@@ -88,9 +88,9 @@ std::vector<Kernel> told() {
   return kernels;
 }
 
-INSTANTIATE_TEST_SUITE_P(All, PlainHartley, testing::ValuesIn(told()), ByName());
+INSTANTIATE_TEST_SUITE_P(All, PlainHartley, testing::ValuesIn(listed_kernels()), ByName());
 
-TEST(PlainHartleyList, IsComplete) { EXPECT_EQ(told().size(), 4U); }
+TEST(PlainHartleyList, IsComplete) { EXPECT_EQ(listed_kernels().size(), 4U); }
 
 }  // namespace
 }  // namespace xfm::test

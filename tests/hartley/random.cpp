@@ -1,5 +1,5 @@
-// Random vectors in [-1, 1]: the error of an output, relative to the greatest one of its vector. Few vectors
-// in a thousand pass 2e-7 or 6e-16, most of them at long primes.
+// Random vectors in [-1, 1]: the error of an output, relative to the greatest output of its vector. Few
+// vectors in a thousand exceed 2e-7 or 6e-16, most of them at long primes.
 #include <algorithm>
 #include <cmath>
 
@@ -22,7 +22,9 @@ double relative_error(const Array& dst, const std::vector<Wide>& expected) {
 }
 
 TEST_P(RandomHartley, StaysWithinTheBound) {
-  constexpr int rounds = 500;
+  // Measured: 2 vectors beyond the bound (lengths 47 and 59 in binary32), the worst at 1.222 of it (47).
+  constexpr int rounds = 500, most_beyond = 3;
+  constexpr double worst_allowed = 1.25;
   const bool single = kernel().precision == Precision::binary32;
   const double bound = single ? 2e-7 : 6e-16;
   const auto reference = definition(kernel());
@@ -37,8 +39,8 @@ TEST_P(RandomHartley, StaysWithinTheBound) {
   }
   RecordProperty("worst", std::to_string(worst / bound));
   RecordProperty("beyond", beyond);
-  EXPECT_LE(beyond, rounds / 100) << "worst " << worst;
-  EXPECT_LE(worst, 1.5 * bound);
+  EXPECT_LE(beyond, most_beyond) << "worst " << worst;
+  EXPECT_LE(worst, worst_allowed * bound);
 }
 
 INSTANTIATE_TEST_SUITE_P(All, RandomHartley, testing::ValuesIn(kernels_of("Hartley")), ByName());

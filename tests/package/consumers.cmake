@@ -1,8 +1,8 @@
-# consumers: one source in C and in C++, linked with each form of the library, found in each of three ways.
+# Consumers: one source in C and in C++, linked with each form of the library, found in each of three ways.
 set(consumer ${CMAKE_CURRENT_SOURCE_DIR}/consumer)
 set(place ${CMAKE_CURRENT_BINARY_DIR}/consumers)
 
-# A consumer has the compilers of this build and its flags: a library with sanitizers asks for a program with them.
+# A consumer uses the compilers and flags of this build, since a library with sanitizers needs a program with them.
 set(tools -G ${CMAKE_GENERATOR}
   -D CMAKE_C_COMPILER=${CMAKE_C_COMPILER} -D CMAKE_C_FLAGS=${CMAKE_C_FLAGS}
   -D CMAKE_CXX_COMPILER=${CMAKE_CXX_COMPILER} -D CMAKE_CXX_FLAGS=${CMAKE_CXX_FLAGS} -D CMAKE_BUILD_TYPE=$<CONFIG>)
@@ -15,7 +15,7 @@ function(add_consumer name folder)
     --test-command ${CMAKE_CTEST_COMMAND} --output-on-failure --no-tests=error)
 endfunction()
 
-# The tree as it is built is installed once, and then moved, so that no path of the first place can be of use.
+# The build is installed once and then moved, so that paths into the first place are of no use.
 set(stage ${CMAKE_CURRENT_BINARY_DIR}/stage)
 set(prefix ${stage}/moved)
 add_test(NAME package.install COMMAND ${CMAKE_COMMAND} -D BUILD=${PROJECT_BINARY_DIR} -D CONFIG=$<CONFIG>
@@ -40,7 +40,7 @@ foreach(language c cxx)
   endforeach()
 endforeach()
 
-# Within a consumer's project the whole library is built anew, so the everyday test goes no further than to configure.
+# A consumer's project builds the whole library again, so the everyday test only configures it.
 set(embed -D XFM_SOURCE=${PROJECT_SOURCE_DIR})
 add_test(NAME package.add_subdirectory.configure
   COMMAND ${CMAKE_COMMAND} --fresh -S ${consumer}/add_subdirectory -B ${place}/configured ${tools} ${embed})

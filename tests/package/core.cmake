@@ -5,7 +5,8 @@ add_test(NAME package.core.exports
 
 # The reports, by a program that defines ownGetFeature itself; once with each form of the library.
 add_executable(package_version version_test.cpp)
-target_link_libraries(package_version PRIVATE xfm::xfm xfm::xfmcore)
+target_link_libraries(package_version PRIVATE xfm::xfm xfm::xfmcore xfm_test_main xfm_options)
+xfm_run_on_targets(package.version package_version --gtest_brief=1)
 add_executable(package_version_static version_test.cpp)
 target_link_libraries(package_version_static PRIVATE xfm::xfm_static)
 
@@ -14,15 +15,15 @@ target_link_libraries(package_memory PRIVATE xfm::xfmcore)
 add_executable(package_memory_static memory_test.cpp)
 target_link_libraries(package_memory_static PRIVATE xfm::xfmcore_static)
 
-foreach(program package_version package_version_static package_memory package_memory_static)
+foreach(program package_version_static package_memory package_memory_static)
   target_link_libraries(${program} PRIVATE xfm_options GTest::gtest_main)
   string(REGEX REPLACE "^package_[a-z]+_?" "" form ${program})
-  # A request that cannot be met is a null pointer under the address sanitizer too.
+  # An impossible request gives a null pointer under the address sanitizer too.
   gtest_discover_tests(${program} TEST_PREFIX package. TEST_SUFFIX "$<$<BOOL:${form}>:.${form}>"
     PROPERTIES ENVIRONMENT ASAN_OPTIONS=allocator_may_return_null=1)
 endforeach()
 
-# One program, two cores: its own, and another one that the loader finds first.
+# One program with two cores: the usual one, and another that the loader finds first.
 add_executable(package_say_name say_name.c)
 target_link_libraries(package_say_name PRIVATE xfm::xfm xfm_options)
 add_library(package_other_core SHARED other_core.cpp)

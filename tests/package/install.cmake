@@ -1,11 +1,11 @@
 # cmake -D BUILD=... -D CONFIG=... -D STAGE=... -D PREFIX=... -P install.cmake
-# Installs a build below STAGE, which is emptied first, and moves what was installed to PREFIX.
+# Empties STAGE, installs a build there, and moves the installed tree to PREFIX.
 file(REMOVE_RECURSE ${STAGE})
 execute_process(COMMAND ${CMAKE_COMMAND} --install ${BUILD} --config ${CONFIG} --prefix ${STAGE}/first
   COMMAND_ERROR_IS_FATAL ANY)
 file(RENAME ${STAGE}/first ${PREFIX})
 
-# No text that was installed may know the place where it was built or installed.
+# No installed text may contain the path of the build or of the first installation.
 file(GLOB_RECURSE texts ${PREFIX}/*.cmake ${PREFIX}/*.pc ${PREFIX}/*.h)
 if(NOT texts)
   message(FATAL_ERROR "nothing was installed")

@@ -1,4 +1,4 @@
-// The core's own three functions.
+// The three functions of the core.
 #include <gtest/gtest.h>
 
 #include <cstdint>
@@ -68,7 +68,7 @@ TEST(Memory, BlocksOfSizeZeroAreBlocks) {
   EXPECT_EQ(addresses.size(), blocks.size());
 }
 
-TEST(Memory, WhatCannotBeHadIsNull) {
+TEST(Memory, ImpossibleRequestsGiveNull) {
   for (const std::size_t size : {most, most - 1, most - 62, most - 63, most - 64, most / 2 + 1, most / 2}) {
     EXPECT_EQ(allocate(size), nullptr) << size;
   }

@@ -1,4 +1,4 @@
-// Another core: its processor has every feature.
+// Another core, which reports every feature.
 #include <cstdlib>
 
 #include "xfmcore.h"

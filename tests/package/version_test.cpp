@@ -1,5 +1,5 @@
-// The version report. This program puts an ownGetFeature of its own in place of the core's, which answers
-// what a test wants and keeps what it was asked.
+// The version report. This program replaces the core's ownGetFeature by one that answers as a test wants and
+// records the requests.
 #include <gtest/gtest.h>
 
 #include <array>
@@ -21,7 +21,7 @@ const xfmLibraryVersion* report(int feature) {
   return xfmGetLibVersion();
 }
 
-/// All fields of a record but its name.
+/// All fields of a record except its name.
 void expect_build(const xfmLibraryVersion& record) {
   EXPECT_EQ(record.major, 6);
   EXPECT_EQ(record.minor, 1);

@@ -1,4 +1,4 @@
-// The direct blocks of odd length p: sums and differences of opposite elements, a product for every term.
+// The direct blocks of odd length p: sums and differences of opposite elements, one product a term.
 #pragma once
 
 #include "tests/bits/nearest.h"
@@ -6,7 +6,7 @@
 
 namespace xfm::test {
 
-/// x0 + sum over j of cos(2 pi j k / p) * s(j), j = 1 .. (p-1)/2, inside a statement.
+/// x0 + sum over j of cos(2 pi j k / p) * s(j), j = 1 .. (p-1)/2, inside a linear combination.
 template <class T>
 OneOf<double> even_term(int k, T x0, const std::vector<T>& s) {
   const auto p = 2 * static_cast<long>(s.size()) + 1;
@@ -26,7 +26,7 @@ OneOf<double> odd_term(int k, const std::vector<T>& d) {
   return sum_in_any_order(std::move(terms));
 }
 
-/// From the left: the text gives no order, but for the inverse block of 7 points.
+/// From the left. The order is open, except in the inverse block of 7 points.
 template <class T>
 T sum_of(const std::vector<T>& terms) {
   T sum = terms[0];
@@ -47,7 +47,7 @@ struct Folded {
   std::vector<T> s, d;
 };
 
-/// A block of p real points inside a longer transform: values. Bin k is even[k] - i odd[k].
+/// A block of p real points inside a longer transform, as values. Bin k is even[k] - i odd[k].
 template <class T>
 struct Block {
   explicit Block(const Samples<T>& x) {

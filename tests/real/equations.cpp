@@ -19,11 +19,11 @@ HalfSpectrum<OneOf<T>> forward4(const Samples<T>& x, T s) {
   const T a = x[0] + x[2], b = x[0] - x[2], c = x[1] + x[3], d = x[1] - x[3];
   HalfSpectrum<OneOf<T>> out(4);
   out.re = {(a + c) * s, b * s, (a - c) * s};
-  out.im[1] = turned<T>(d * s);
+  out.im[1] = negated<T>(d * s);
   return out;
 }
 
-/// 3, 5 or 7 points as one block: all bins but the first leave from a statement, with the factor in it.
+/// 3, 5 or 7 points as one block: every bin but the first is a linear combination, with the factor in it.
 template <class T>
 HalfSpectrum<OneOf<T>> forward_block(const Samples<T>& x, T s) {
   const Folded<T> f(x);
@@ -32,7 +32,7 @@ HalfSpectrum<OneOf<T>> forward_block(const Samples<T>& x, T s) {
   for (int k = 1; k <= static_cast<int>(f.s.size()); ++k) {
     const auto at = static_cast<std::size_t>(k);
     out.re[at] = narrow<T>(OneOf(double{s}) * even_term(k, f.x0, f.s));
-    out.im[at] = narrow<T>(turned(OneOf(double{s}) * odd_term(k, f.d)));
+    out.im[at] = narrow<T>(negated(OneOf(double{s}) * odd_term(k, f.d)));
   }
   return out;
 }
@@ -47,14 +47,14 @@ HalfSpectrum<OneOf<T>> forward8(const Samples<T>& x, T s) {
   const T p = e - f, q = e + f;
   HalfSpectrum<OneOf<T>> out(8);
   out.re = {(u + v) * s, (d0 + p) * s, (s0 - s2) * s, (d0 - p) * s, (u - v) * s};
-  out.im[1] = turned<T>((d2 + q) * s);
-  out.im[2] = turned<T>((s1 - s3) * s);
-  out.im[3] = turned<T>((q - d2) * s);
+  out.im[1] = negated<T>((d2 + q) * s);
+  out.im[2] = negated<T>((s1 - s3) * s);
+  out.im[3] = negated<T>((q - d2) * s);
   return out;
 }
 
 /// 3 by 5 without twiddles: five blocks of three, then a real stage of five over their sums, whose outputs
-/// leave from statements, and a complex one over their bins 1, C - iD, of which bins 8 to 14 are read as
+/// are linear combinations, and a complex one over their bins 1, C - iD, of which bins 8 to 14 are read as
 /// conjugates.
 template <class T>
 HalfSpectrum<OneOf<T>> forward15(const Samples<T>& x, T s) {
@@ -75,13 +75,13 @@ HalfSpectrum<OneOf<T>> forward15(const Samples<T>& x, T s) {
             of_sums.re[2], (p.even[1] + q.odd[1]) * s, p.even[0] * s,
             of_sums.re[1], (p.even[2] - q.odd[2]) * s};
   out.im = {T(0),
-            turned((p.odd[1] + q.even[1]) * s),
+            negated((p.odd[1] + q.even[1]) * s),
             (q.even[2] - p.odd[2]) * s,
-            turned(of_sums.im[2]),
+            negated(of_sums.im[2]),
             (p.odd[1] - q.even[1]) * s,
             q.even[0] * s,
             of_sums.im[1],
-            turned((p.odd[2] + q.even[2]) * s)};
+            negated((p.odd[2] + q.even[2]) * s)};
   return out;
 }
 
@@ -97,7 +97,7 @@ Samples<OneOf<T>> inverse4(const HalfSpectrum<T>& in, T s, Layout /*layout*/) {
   return {(a + twice_re) * s, (b - twice_im) * s, (a - twice_re) * s, (b + twice_im) * s};
 }
 
-/// 3, 5 or 7 points: the bins between are doubled first. Of three points, sqrt(3) I(1) is the same as
+/// 3, 5 or 7 points: the inner bins are doubled first. Of three points, sqrt(3) I(1) is the same as
 /// sqrt(3)/2 times the double.
 template <class T>
 Samples<OneOf<T>> inverse_block(const HalfSpectrum<T>& in, T s, Layout layout) {

@@ -1,5 +1,4 @@
-// The real transforms whose outputs are fixed to the bit, one operation after the other. The factor s is the
-// last one.
+// The real transforms whose outputs are fixed to the bit, operation by operation. The factor s comes last.
 #pragma once
 
 #include <functional>
@@ -22,7 +21,7 @@ std::map<int, Forward<T>> forward_equations();
 template <class T>
 std::map<int, Inverse<T>> inverse_equations();
 
-/// The first of the lengths that go through a convolution, N = 13.
+/// N = 13, the first length that needs a convolution.
 template <class T>
 HalfSpectrum<OneOf<T>> forward13(const Samples<T>& x, T s);
 

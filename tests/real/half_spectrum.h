@@ -1,6 +1,6 @@
-// Values and statements of the plain evaluations. A value has the precision of the element; a statement is an
-// expression in binary64, and what it makes is rounded to the element's precision once, at its end. So one
-// text says what the kernels of either precision do, since in binary64 the two are the same.
+// Values and linear combinations of the plain evaluations. A value has the precision of the element; a linear
+// combination is evaluated in binary64 and rounded to the precision of the element once, at its end. In
+// binary64 that rounding does nothing, so one text describes the kernels of both precisions.
 #pragma once
 
 #include <algorithm>
@@ -9,8 +9,8 @@
 
 namespace xfm::test {
 
-/// What a value may be. The order in which a statement adds its terms is left open, since in binary32 it
-/// hardly ever shows; so a value is any of those that the orders give. All else has one order and one value.
+/// The values allowed. The order in which a linear combination adds its terms is left open, since in binary32
+/// it hardly ever shows: any value that some order gives is allowed. Everything else has a single value.
 template <class T>
 class OneOf {
  public:
@@ -19,13 +19,13 @@ class OneOf {
 
   std::size_t size() const { return values_.size(); }
   bool contains(T value) const { return std::ranges::find(values_, value) != values_.end(); }
-  /// Of values that no order decides.
+  /// The value, if the order makes no difference.
   T only() const {
     if (values_.size() != 1) throw std::logic_error("more than one value");
     return values_.front();
   }
 
-  /// Every value that the function makes of one of these and one of those.
+  /// The function of every pair of one of these and one of those.
   template <class Function>
   friend auto combine(const OneOf& these, const OneOf& those, Function function) {
     std::vector<decltype(function(T(), T()))> results;
@@ -64,23 +64,24 @@ inline OneOf<double> sum_in_any_order(std::vector<double> terms) {
   return OneOf<double>(std::move(sums));
 }
 
-/// The end of a statement.
+/// The rounding that ends a linear combination.
 template <class T>
-T narrow(double statement) {
-  return static_cast<T>(statement);
+T narrow(double combination) {
+  return static_cast<T>(combination);
 }
 template <class T>
-OneOf<T> narrow(const OneOf<double>& statement) {
-  return combine(statement, OneOf<double>(), [](double x, double /*nothing*/) { return static_cast<T>(x); });
+OneOf<T> narrow(const OneOf<double>& combination) {
+  return combine(combination, OneOf<double>(),
+                 [](double x, double /*nothing*/) { return static_cast<T>(x); });
 }
 
-/// The sign of an output is turned behind its factor.
+/// An output is negated after its factor, as 0 minus the product.
 template <class T>
-OneOf<T> turned(const OneOf<T>& scaled) {
+OneOf<T> negated(const OneOf<T>& scaled) {
   return OneOf<T>(T(0)) - scaled;
 }
 
-/// Bins 0 to N/2. The imaginary parts of bin 0 and, for even N, of bin N/2 are not looked at.
+/// Bins 0 to N/2. The imaginary parts of bin 0 and, for even N, of bin N/2 are not read.
 template <class Value>
 struct HalfSpectrum {
   explicit HalfSpectrum(std::size_t length) : re(length / 2 + 1), im(length / 2 + 1) {}

@@ -1,4 +1,4 @@
-// The three packed layouts: what element holds what, and that it is the same value in each of them.
+// The three packed layouts: which element holds what, and that all three hold the same values.
 #include "tests/support/layout.h"
 
 #include <fstream>
@@ -24,7 +24,7 @@ std::string description(Layout layout, int length) {
   return text;
 }
 
-// Written out by hand; all other tests rest on cells().
+// Written out by hand, since all other tests rely on cells().
 TEST(Layouts, OfTheShortLengths) {
   struct Row {
     int length;
@@ -47,7 +47,7 @@ TEST(Layouts, OfTheShortLengths) {
   }
 }
 
-// The pictures of the document are those of the layouts.
+// The pictures in the document show the layouts as they are.
 TEST(Layouts, AreDocumented) {
   std::ifstream file(XFM_LAYOUTS_DOCUMENT);
   std::ostringstream text;
@@ -68,7 +68,7 @@ TEST(Layouts, AreDocumented) {
   }
 }
 
-/// What an element holds, by the index rules; each rule is one line of the definition of a layout.
+/// What an element holds, by index rules: each is one line of the definition of a layout.
 Cell by_rule(Layout layout, int n, int e) {
   const int half = n / 2, most = (n - 1) / 2;
   const bool even = n % 2 == 0;
@@ -121,7 +121,7 @@ TEST(RealFamilies, AreComplete) {
   }
 }
 
-// How an array of one layout becomes one of another, element by element.
+// Conversions between layouts, element by element.
 
 Array pack_of_ccs(const Array& ccs, int n) {
   Array pack(ccs.precision(), n);
@@ -139,7 +139,7 @@ Array perm_of_pack(const Array& pack) {
   return perm;
 }
 
-/// With some number where imaginary parts that are not free would stand.
+/// With arbitrary numbers in place of the imaginary parts that are not free.
 Array ccs_of_pack(const Array& pack) {
   const int n = pack.count();
   Array ccs(pack.precision(), 2 * (n / 2) + 2);
@@ -149,7 +149,7 @@ Array ccs_of_pack(const Array& pack) {
   return ccs;
 }
 
-/// By a CCS kernel, all three kernels of its length, direction and precision.
+/// For a CCS kernel, the three kernels of its length, direction and precision.
 class LayoutsOf : public KernelTest {
  protected:
   static const Kernel& in(Layout layout) {
@@ -183,13 +183,13 @@ TEST_P(ForwardLayouts, HoldTheSameBits) {
 
 INSTANTIATE_TEST_SUITE_P(All, ForwardLayouts, testing::ValuesIn(kernels_of("DFTFwd_RToCCS")), ByName());
 
-/// The lengths at which the blocks of 5 or 7 points add their terms in another order than those of CCS.
+/// The lengths whose blocks of 5 or 7 points add their terms in another order than those of CCS.
 const std::map<Layout, std::set<int>> other_orders = {
     {Layout::ccs, {}}, {Layout::pack, {7, 20, 40, 49, 50}}, {Layout::perm, {7, 49}}};
 
 class InverseLayouts : public LayoutsOf {
  protected:
-  /// Outputs from one spectrum in the layout and in CCS.
+  /// Compares the outputs for one spectrum in the layout and in CCS.
   static testing::AssertionResult agree(Layout layout, const Array& pack, std::int32_t flag) {
     const Array src = layout == Layout::pack ? pack : perm_of_pack(pack);
     return same_values(transformed(layout, src, flag), transformed(Layout::ccs, ccs_of_pack(pack), flag),
@@ -208,7 +208,7 @@ TEST_P(InverseLayouts, GiveTheSameBits) {
   }
 }
 
-// The exceptions are real ones. That they are right all the same is for the tests of the matrix to tell.
+// The exceptions do differ. That they are right is for the accuracy tests to show.
 TEST_P(InverseLayouts, DifferWhereTheOrderDoes) {
   for (const Layout layout : {Layout::pack, Layout::perm}) {
     if (!other_orders.at(layout).contains(kernel().length)) continue;

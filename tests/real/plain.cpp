@@ -1,6 +1,6 @@
 // Kernels of all three layouts and both precisions against plain evaluations of the equations that fix them,
-// bit for bit but for the order of terms inside a statement; zeros of either sign equal, since a sign may be
-// turned behind the factor or absorbed in front of it.
+// bit for bit except for the order of terms inside a linear combination. Zeros of either sign are equal,
+// since an output may be negated after its factor or before.
 #include <ios>
 
 #include "tests/bits/finite_data_test.h"
@@ -54,7 +54,7 @@ TEST_P(PlainReal, EqualsTheEquations) {
   });
 }
 
-// How much is left open: nearly nothing in binary32, little in binary64.
+// How much the order leaves open: almost nothing in binary32, little in binary64.
 TEST(PlainRealOrders, SeldomShow) {
   Random random("orders");
   int open_single = 0, open_double = 0;
@@ -67,7 +67,7 @@ TEST(PlainRealOrders, SeldomShow) {
   EXPECT_LE(open_double, 50);
 }
 
-/// All of them must be in the catalogue: what is not there is a failure of its own.
+/// Kernels that are missing from the catalogue are a failure of their own, below.
 std::vector<Kernel> listed_kernels() {
   std::vector<Kernel> kernels;
   for (const RealFamily& family : real_families)

@@ -1,5 +1,5 @@
 // N = 13 by Rader's convolution (Rader 1968) over the powers of 2: x(2^q) in, X(2^-p) out. The even bins of
-// its spectrum make the real parts and the odd bins, by a skew transform, the imaginary parts.
+// the spectrum yield the real parts and the odd bins, through a skew transform, the imaginary parts.
 #include <algorithm>
 #include <array>
 
@@ -13,7 +13,7 @@ namespace {
 constexpr std::size_t length = 13, period = 12, half = 6;
 constexpr std::array<std::size_t, period> powers = {1, 2, 4, 8, 3, 6, 12, 11, 9, 5, 10, 7};
 
-/// A complex number whose parts are values, or exact.
+/// A complex number whose parts are values or exact.
 template <class T>
 struct Pair {
   T re, im;
@@ -24,15 +24,15 @@ Pair<Wide> spectrum_of_roots(int k, int times) {
   Pair<Wide> sum{0, 0};
   for (std::size_t r = 0; r < period; ++r) {
     const auto root = static_cast<long>(powers[(period - r) % period]);
-    const auto turn = static_cast<long>(r) * k;
-    const long parts = root * 12 + turn * 13;  // of 156 parts of a turn
+    const auto angle = static_cast<long>(r) * k;
+    const long parts = root * 12 + angle * 13;  // in 156ths of the circle
     sum.re += cosine(parts, 156);
     sum.im -= sine(parts, 156);
   }
   return {sum.re * times / 12, sum.im * times / 12};
 }
 
-/// The bins of the spectrum of x(2^q): 3 by 4, like 15 points are 3 by 5; bins 0 and 6 are real.
+/// The bins of the spectrum of x(2^q): 3 by 4, as 15 points are 3 by 5. Bins 0 and 6 are real.
 template <class T>
 std::array<Pair<T>, half + 1> spectrum_of_samples(const Samples<T>& x) {
   std::array<T, 4> sums{}, c{}, d{};
@@ -56,14 +56,14 @@ std::array<Pair<T>, half + 1> spectrum_of_samples(const Samples<T>& x) {
            {even - odd, T(0)}}};
 }
 
-/// Each part of a complex product is one statement.
+/// Each part of a complex product is one linear combination.
 template <class T>
 Pair<T> product(Pair<double> c, Pair<T> z) {
   return {narrow<T>(c.re * double{z.re} - c.im * double{z.im}),
           narrow<T>(c.re * double{z.im} + c.im * double{z.re})};
 }
 
-/// The other two outputs of a block of three, from what is left of its centre and the value of its odd term.
+/// The outputs of a block of three, from its centre, the double real part and the value of its odd term.
 template <class T>
 struct Three {
   Three(T centre, T twice_re, T odd)
@@ -82,8 +82,8 @@ std::array<T, half> real_half(T t, Pair<T> g2, Pair<T> g4, T g6) {
   return {even.first, odd.plus, even.minus, odd.first, even.plus, odd.minus};
 }
 
-/// Imaginary parts: six points of the odd frequencies 1, 3, 5. Where a rotation by a twelfth of a turn comes
-/// before a block of three, the constant of its odd term is taken into the rotation's.
+/// Imaginary parts: six points of the odd frequencies 1, 3, 5. Where a rotation by a twelfth of the circle
+/// comes before a block of three, the constant of the odd term is merged into the constants of the rotation.
 template <class T>
 std::array<T, half> skew_half(Pair<T> g1, Pair<T> g3, Pair<T> g5) {
   const auto root = sine<double>(1, 3);
@@ -118,7 +118,7 @@ HalfSpectrum<OneOf<T>> forward13(const Samples<T>& x, T s) {
   for (std::size_t p = 0; p < half; ++p) {
     const std::size_t k = powers[(period - p) % period], bin = std::min(k, length - k);
     out.re[bin] = re[p] * s;
-    out.im[bin] = k == bin ? OneOf<T>(im[p] * s) : turned<T>(im[p] * s);
+    out.im[bin] = k == bin ? OneOf<T>(im[p] * s) : negated<T>(im[p] * s);
   }
   return out;
 }

@@ -1,5 +1,5 @@
-// In the forward kernels of binary32 the factor follows the value: where a statement in binary64 makes an
-// output, the factor is multiplied in it and the result is rounded to binary32 once.
+// In the forward kernels of binary32 the factor follows the value: where an output is a linear combination in
+// binary64, the factor multiplies it there and the result is rounded to binary32 once.
 #include <set>
 
 #include "tests/support/kernel_test.h"
@@ -11,7 +11,8 @@ namespace {
 
 class ScaleFollowsTheValue : public KernelTest {
  protected:
-  /// The scalars of dst that are not, for some data, the unscaled output rounded, times the factor, rounded.
+  /// The scalars of dst that for some data differ from the rounded product of the rounded unscaled output and
+  /// the factor.
   std::set<int> wide_outputs();
 
   static std::set<int> all_outputs_but(const std::set<int>& bins) {
@@ -23,7 +24,7 @@ class ScaleFollowsTheValue : public KernelTest {
   }
 };
 
-// A value that is rounded once more comes out differently in about one of four.
+// An extra rounding changes about one value in four.
 std::set<int> ScaleFollowsTheValue::wide_outputs() {
   std::set<int> found;
   for (int round = 0; round < 150; ++round) {
@@ -38,7 +39,7 @@ std::set<int> ScaleFollowsTheValue::wide_outputs() {
   return found;
 }
 
-TEST_P(ScaleFollowsTheValue, IntoTheStatementThatMakesIt) {
+TEST_P(ScaleFollowsTheValue, IntoTheLinearCombination) {
   const std::set<int> wide = wide_outputs();
   bool possible = false;
   for (int e = 0; e < kernel().written; ++e) {
@@ -49,7 +50,7 @@ TEST_P(ScaleFollowsTheValue, IntoTheStatementThatMakesIt) {
   EXPECT_EQ(!wide.empty(), possible);
 }
 
-// A direct block as the only stage, or as the last one behind a butterfly: every bin but those that are sums.
+// A direct block as the only stage, or the last one after a butterfly: every bin that is not a plain sum.
 TEST_P(ScaleFollowsTheValue, InAllBinsOfADirectBlock) {
   const int n = kernel().length;
   std::set<int> sums = {0};
@@ -59,7 +60,7 @@ TEST_P(ScaleFollowsTheValue, InAllBinsOfADirectBlock) {
   }
 }
 
-std::vector<Kernel> forward_single_kernels() {
+std::vector<Kernel> forward_binary32_kernels() {
   std::vector<Kernel> kernels;
   for (const Kernel& kernel : catalogue::kernels()) {
     const RealFamily* const family = real_family(kernel);
@@ -69,7 +70,7 @@ std::vector<Kernel> forward_single_kernels() {
   return kernels;
 }
 
-INSTANTIATE_TEST_SUITE_P(All, ScaleFollowsTheValue, testing::ValuesIn(forward_single_kernels()), ByName());
+INSTANTIATE_TEST_SUITE_P(All, ScaleFollowsTheValue, testing::ValuesIn(forward_binary32_kernels()), ByName());
 
 }  // namespace
 }  // namespace xfm::test

@@ -1,5 +1,5 @@
-// The imaginary parts that are zero: forward CCS stores them as +0 whatever the input is, inverse CCS never
-// fetches them. And zeros that are computed.
+// The imaginary parts that are zero: forward CCS stores them as +0 whatever the input, inverse CCS never
+// reads them. Also zeros that are computed.
 #include <xmmintrin.h>
 
 #include <algorithm>
@@ -62,7 +62,7 @@ class UnfetchedZeros : public KernelTest {
   }
 };
 
-// In either precision the patterns are NaN of both kinds, infinities, -0, a subnormal number, and numbers.
+// The patterns are, in either precision, NaN of both kinds, infinities, -0, a subnormal and ordinary numbers.
 TEST_P(UnfetchedZeros, MayHoldAnyBits) {
   constexpr std::uint64_t patterns[] = {0x7fa1b2c3d4e5f607, 0x7ff5a1b2c3d4e5f6, 0xfffbd3c2b1a09687,
                                         0xffffffffffffffff, 0x7f80000000000000, 0x7ff0000000000000,
@@ -84,8 +84,7 @@ TEST_P(UnfetchedZeros, MayHoldAnyBits) {
   }
 }
 
-// A signalling NaN raises a flag in whatever arithmetic or conversion meets it, even if the result is
-// dropped.
+// Any arithmetic or conversion of a signalling NaN raises a flag, even if its result is dropped.
 TEST_P(UnfetchedZeros, RaiseNothing) {
   constexpr unsigned invalid = 0x01;
   Array src = random_input(), dst = output();
@@ -99,7 +98,7 @@ TEST_P(UnfetchedZeros, RaiseNothing) {
   EXPECT_EQ(after & invalid, 0U);
 }
 
-// For even lengths the array may end in front of the last one; behind it lies a guard page here.
+// For even lengths the array may end before the last one; here a guard page follows.
 TEST_P(UnfetchedZeros, NeedNotBeThere) {
   const int last = zeros(kernel().length).back();
   const Array data = random_input();
@@ -124,7 +123,7 @@ std::vector<Kernel> all_real_kernels() {
 
 class ComputedZeros : public KernelTest {};
 
-// A sign is turned by a subtraction from zero, so that no output of zeros is -0.
+// Negation is a subtraction from zero, so no output of zeros is -0.
 TEST_P(ComputedZeros, ArePlusZero) {
   Array src(kernel().precision, kernel().read), expected = output();
   src.fill(0.0);

@@ -1,6 +1,6 @@
-// The kernels whose matrix passes the bound of their precision, and how far its worst entry is off: more
-// roundings on the way than the bound allows for, with every constant right to its last bit. The figures are
-// rounded up in the third digit, are published, and may fall, never rise.
+// The kernels whose matrix exceeds the bound of their precision, and the error of its worst entry: they round
+// more often than the bound allows for, with every constant right to the last bit. The figures are rounded up
+// to three digits and published; they may fall, but never rise.
 #pragma once
 
 namespace xfm::test {

@@ -11,8 +11,8 @@ namespace xfm::test {
 namespace {
 
 constexpr int alignment = 64;
-/// Around the scalars, so that a stray write of a broken kernel does not bring the heap down: the tests with
-/// guard pages are there to name it.
+/// Around the scalars, so that a stray write of a broken kernel does not corrupt the heap; the tests with
+/// guard pages report such a write.
 constexpr int margin = 64;
 
 std::byte* aligned_start(std::vector<std::byte>& storage, int offset) {
@@ -20,7 +20,7 @@ std::byte* aligned_start(std::vector<std::byte>& storage, int offset) {
   return storage.data() + ((alignment - address % alignment) % alignment) + margin + offset;
 }
 
-/// Bit patterns in their numerical order.
+/// Orders bit patterns as the numbers that they represent.
 template <class Bits, class Float>
 std::int64_t rank(Float value) {
   const auto bits = static_cast<std::int64_t>(std::bit_cast<Bits>(value));
@@ -62,7 +62,8 @@ double rounded(Precision precision, double value) {
   return precision == Precision::binary32 ? double{static_cast<float>(value)} : value;
 }
 
-// The NaN patterns are written as integers: a load and store of a signalling NaN as a number may quieten it.
+// The NaN patterns are written as integers, since loading and storing a signalling NaN as a number may
+// quieten it.
 void poison(Precision precision, void* base, int count, Poison pattern) {
   if (pattern == Poison::bytes_aa) {
     std::memset(base, 0xAA, static_cast<std::size_t>(count * scalar_size(precision)));

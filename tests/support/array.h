@@ -1,5 +1,5 @@
-// Real scalars of one precision at a place of the test's choosing. Tests speak of scalars as binary64 values,
-// which hold binary32 exactly, so that no test is written twice.
+// Real scalars of one precision at a chosen place in memory. Tests handle scalars as binary64 values, which
+// hold binary32 exactly, so that one test serves both precisions.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -22,7 +22,7 @@ void store_scalar(Precision precision, void* base, int index, double value);
 /// The value rounded to the precision.
 double rounded(Precision precision, double value);
 
-/// Contents that no transform of ordinary data leaves behind, to see what a call wrote.
+/// Contents that no transform of ordinary data produces, to see what a call wrote.
 enum class Poison { bytes_aa, quiet_nan, signalling_nan };
 constexpr Poison poisons[] = {Poison::bytes_aa, Poison::quiet_nan, Poison::signalling_nan};
 void poison(Precision precision, void* base, int count, Poison pattern);
@@ -37,14 +37,14 @@ class Array {
   std::size_t bytes() const { return static_cast<std::size_t>(count_ * scalar_size(precision_)); }
   void* data() { return start_; }
   const void* data() const { return start_; }
-  /// Where scalar `index` lies; one past the last is allowed.
+  /// The address of scalar `index`; one past the last is allowed.
   std::byte* at(int index) { return start_ + std::ptrdiff_t{index} * scalar_size(precision_); }
 
   double operator[](int index) const { return load_scalar(precision_, start_, index); }
   void set(int index, double value) { store_scalar(precision_, start_, index, value); }
   void fill(double value);
   void fill(Poison pattern) { poison(precision_, start_, count_, pattern); }
-  /// Takes over the scalars of an array of the same shape, whatever its offset.
+  /// Copies the scalars of an array of the same shape, whatever its offset.
   void copy(const Array& other);
 
   Array(const Array& other);
@@ -57,12 +57,12 @@ class Array {
   std::byte* start_;
 };
 
-/// Equal bit for bit; tells the first scalar that differs.
+/// Equality bit for bit; reports the first scalar that differs.
 testing::AssertionResult same_bits(const void* got, const void* expected, Precision precision, int count);
 testing::AssertionResult same_bits(const Array& got, const Array& expected);
 
-/// Steps between two neighbouring values of the precision, counted from one value to the other; NaN is far
-/// away from everything.
+/// The number of steps between neighbouring values of the precision that lead from one value to the other;
+/// NaN is far from everything.
 std::uint64_t ulp_distance(Precision precision, double a, double b);
 
 }  // namespace xfm::test

@@ -16,7 +16,7 @@ Trap trap;
 
 extern "C" void on_fault(int signal, siginfo_t* information, void*) {
   if (!trap.set) {
-    std::signal(signal, SIG_DFL);  // not ours: the fault happens again and ends the program
+    std::signal(signal, SIG_DFL);  // not an attempt: the fault repeats and ends the program
     return;
   }
   trap.address = information->si_addr;
@@ -31,7 +31,7 @@ void install() {
   sigaction(SIGBUS, &action, nullptr);
 }
 
-/// Nothing with a destructor lives between the jump and its landing.
+/// No object with a destructor is alive between the jump and its target.
 bool completes(const std::function<void()>& call) {
   static const bool installed = (install(), true);
   static_cast<void>(installed);

@@ -25,7 +25,7 @@ inline xfmStatus run(const catalogue::Generic& generic, const void* src, void* d
   return attempt([&] { return generic.call(src, dst, length, flag); });
 }
 
-/// Whether the call touches memory that it must not. For tests of the guards themselves.
+/// Whether the call faults. For tests of the guards themselves.
 bool faults(const std::function<void()>& call);
 
 }  // namespace xfm::test

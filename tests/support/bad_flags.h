@@ -11,8 +11,8 @@ namespace xfm::test {
 
 inline bool is_flag(std::int64_t value) { return value == 1 || value == 2 || value == 4 || value == 8; }
 
-/// Every other value near zero, the extremes, and the valid ones with one more bit set: a test that looks at
-/// the low bits only, or that shifts by the flag, accepts some of these.
+/// All others near zero, the extremes, and the valid flags with one more bit set: a check of the low bits
+/// alone, or a shift by the flag, accepts some of these.
 inline std::vector<std::int32_t> bad_flags() {
   std::vector<std::int32_t> flags = {std::numeric_limits<std::int32_t>::min(),
                                      std::numeric_limits<std::int32_t>::max()};

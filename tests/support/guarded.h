@@ -1,4 +1,4 @@
-// Memory with a forbidden page on either side: whoever reads or writes past an end of it faults.
+// Memory with an inaccessible page on either side: a read or write past an end of it faults.
 #pragma once
 
 #include <cstddef>

@@ -1,5 +1,4 @@
-// The catalogue as test parameters, and a fixture that puts the kernel's name and the seed into every
-// failure.
+// The catalogue as test parameters, and a fixture that adds the kernel's name and the seed to every failure.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -12,7 +11,7 @@
 #include "tests/support/random.h"
 
 namespace xfm::catalogue {
-// Found by GoogleTest: how a parameter is printed.
+// GoogleTest finds these to print a parameter.
 void PrintTo(const Kernel& kernel, std::ostream* out);
 void PrintTo(const Generic& generic, std::ostream* out);
 }  // namespace xfm::catalogue
@@ -32,14 +31,14 @@ class KernelTest : public testing::TestWithParam<Kernel> {
   KernelTest();
 
   static const Kernel& kernel() { return GetParam(); }
-  /// Bytes between the offsets that the element type allows.
+  /// The bytes of a real scalar: arrays may start at any multiple of it.
   static int step() { return scalar_size(kernel().precision); }
   Array random_input(Kind kind = Kind::ordinary) {
     return random.array(kernel().precision, kernel().read, kind);
   }
   static Array output() { return {kernel().precision, kernel().written}; }
-  /// What the kernel makes of src in separate, aligned arrays. The tests of matrix and definition vouch for
-  /// it.
+  /// The outputs of the kernel for src in separate, aligned arrays. The accuracy tests compare them with the
+  /// definition.
   static Array separate(const Array& src, std::int32_t flag);
 
   Random random;
@@ -69,7 +68,7 @@ struct ByName {
   }
 };
 
-/// What stands in every failure: the name, and how to get the same data again.
+/// The heading of every failure: the name, and how to reproduce the data.
 std::string heading(const std::string& name);
 
 }  // namespace xfm::test

@@ -15,7 +15,7 @@ constexpr Layout layouts[] = {Layout::ccs, Layout::pack, Layout::perm};
 enum class Part { real, imaginary, zero };
 
 /// What one element of a layout holds. A zero is an imaginary part that is not free: forward kernels store +0
-/// there, inverse kernels do not fetch it.
+/// there, inverse kernels do not read it.
 struct Cell {
   int bin;
   Part part;
@@ -37,14 +37,14 @@ constexpr RealFamily real_families[] = {
     {"DFTInv_PackToR", Layout::pack, false}, {"DFTInv_PermToR", Layout::perm, false},
 };
 
-/// Null for kernels that are no real Fourier transforms.
+/// Null if the kernel is not a real Fourier transform.
 const RealFamily* real_family(const catalogue::Kernel& kernel);
 
 /// Scalars of dst that the factor multiplies: all but the stored zeros.
 int scaled_outputs(const catalogue::Kernel& kernel);
 
-/// Whether the factor may come to scalar `out` of dst while it still is a binary64 value: in the forward
-/// kernels of binary32, where the last stage is a direct block or a rotation, and never in bin 0.
+/// Whether the factor may multiply scalar `out` of dst while that is still a binary64 value: in forward
+/// kernels of binary32 whose output stage is a direct block or a rotation, and never in bin 0.
 bool may_scale_before_narrowing(const catalogue::Kernel& kernel, int out);
 
 }  // namespace xfm::test

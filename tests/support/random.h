@@ -1,4 +1,4 @@
-// Test data that can be had again: everything follows from one seed and the name of what is tested.
+// Reproducible test data: everything follows from one seed and the name of what is tested.
 #pragma once
 
 #include <cstdint>
@@ -10,9 +10,9 @@
 namespace xfm::test {
 
 enum class Kind {
-  ordinary,   ///< evenly in -1..1
+  ordinary,   ///< uniform in -1..1
   wide,       ///< magnitudes over many powers of two
-  huge,       ///< close to overflow, yet far enough for every sum of a transform
+  huge,       ///< near overflow, yet no sum of a transform overflows
   subnormal,  ///< below the least normal number
   signs,      ///< 0, -0, 1 and -1
 };
@@ -27,7 +27,7 @@ class Random {
   /// The stream of this name under the seed.
   explicit Random(const std::string& name);
 
-  /// Evenly in -1..1.
+  /// Uniform in -1..1.
   double even();
   double next(Kind kind, Precision precision);
   void fill(Array& array, Kind kind);

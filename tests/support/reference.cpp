@@ -41,7 +41,7 @@ Wide to_wide(Multiple& value) {
   return sum;
 }
 
-/// Cosines and sines of all multiples of a turn's n-th part.
+/// Cosines and sines of all multiples of the n-th part of the circle.
 class Circle {
  public:
   explicit Circle(int n) : n_(n) {

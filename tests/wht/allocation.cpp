@@ -1,5 +1,5 @@
-// Work buffers that nobody gave: one block of the stated size in a call, released by its end. The core's
-// functions are this program's own, and hand out blocks that end at a guard page.
+// Work buffers that the caller did not provide: one block of the stated size a call, released at its end.
+// This program replaces the core by one whose blocks end at a guard page.
 #include <memory>
 
 #include "tests/support/guarded.h"
@@ -100,7 +100,7 @@ TEST_P(OwnBuffer, GenericAsksOnce) {
   }
 }
 
-// Not tested for: the program ends at the first store. Sanitizers report it in their way.
+// Kernels do not check for it: the program ends at the first store. Sanitizers report it in their own way.
 #if !defined(__SANITIZE_ADDRESS__)
 TEST_P(OwnBuffer, ExhaustedMemoryFaults) {
   if (!is_used()) return;

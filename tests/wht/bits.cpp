@@ -1,5 +1,5 @@
-// Every kernel gives the bits of the loop nest: with every factor, at every alignment, with a work buffer of
-// the caller and without, in place and over any overlap.
+// Every kernel gives the bits of the loop nest: with every factor, at every alignment, with and without a
+// work buffer from the caller, in place and with any overlap.
 #include <algorithm>
 #include <cmath>
 
@@ -42,7 +42,7 @@ void LoopNest::expect_at_offsets(const Array& data, std::int32_t flag, int src_o
     ASSERT_EQ(run(kernel(), src.data(), dst.data(), flag, buffer(given)), xfmStsOk);
     ASSERT_TRUE(same_values(dst, result, Zeros::as_they_are))
         << "flag " << flag << ", src offset " << src_offset << ", dst offset " << dst_offset << ", buffer "
-        << (given ? "given" : "null");
+        << (given ? "valid" : "null");
   }
 }
 
@@ -68,14 +68,14 @@ TEST_P(LoopNest, InPlace) {
           ASSERT_EQ(run(kernel(), both.data(), both.data(), flag, buffer(given)), xfmStsOk);
           ASSERT_TRUE(same_values(both, expected(src, flag), Zeros::as_they_are))
               << data.name << " data, flag " << flag << ", offset " << offset << ", buffer "
-              << (given ? "given" : "null");
+              << (given ? "valid" : "null");
         }
       }
     }
   }
 }
 
-// dst at every distance from src at which the two meet, flags and buffers in turn.
+// dst at every distance at which it overlaps src, with flags and buffers alternating.
 TEST_P(LoopNest, AnyOverlap) {
   const int n = kernel().read, positions = 16 / step();
   const Array src = random_input(Kind::wide);
@@ -84,18 +84,18 @@ TEST_P(LoopNest, AnyOverlap) {
   Array block(kernel().precision, 3 * n + positions);
   for (int src_at = n; src_at < n + positions; ++src_at) {
     for (int shift = 1 - n; shift < n; ++shift) {
-      const auto turn = static_cast<std::size_t>(shift + n) % results.size();
+      const auto choice = static_cast<std::size_t>(shift + n) % results.size();
       std::copy_n(static_cast<const std::byte*>(src.data()), src.bytes(), block.at(src_at));
       ASSERT_EQ(
-          run(kernel(), block.at(src_at), block.at(src_at + shift), flags[turn], buffer(shift % 3 == 0)),
+          run(kernel(), block.at(src_at), block.at(src_at + shift), flags[choice], buffer(shift % 3 == 0)),
           xfmStsOk);
-      ASSERT_TRUE(same_bits(block.at(src_at + shift), results[turn].data(), kernel().precision, n))
-          << "src at scalar " << src_at << ", dst " << shift << " scalars further, flag " << flags[turn];
+      ASSERT_TRUE(same_bits(block.at(src_at + shift), results[choice].data(), kernel().precision, n))
+          << "src at scalar " << src_at << ", dst " << shift << " scalars further, flag " << flags[choice];
     }
   }
 }
 
-TEST_P(LoopNest, FactorsAreThoseOnRecord) {
+TEST_P(LoopNest, FactorsAreAsRecorded) {
   for (const std::int32_t flag : flags)
     EXPECT_EQ(factor(kernel(), flag), stored_factor(flag)) << "flag " << flag;
   Array ones(kernel().precision, kernel().read), impulse(ones);
@@ -111,7 +111,7 @@ TEST_P(LoopNest, FactorsAreThoseOnRecord) {
   }
 }
 
-// Twice is N times the input, apart from rounding; it has no direction.
+// Applied twice it gives N times the input, apart from rounding: it has no direction.
 TEST_P(LoopNest, IsItsOwnInverse) {
   const Array src = random_input();
   EXPECT_TRUE(same_bits(separate(src, XFM_SCALE_FWD_BY_N), separate(src, XFM_SCALE_INV_BY_N)));

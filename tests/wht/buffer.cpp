@@ -1,4 +1,4 @@
-// The work buffer: its size, what of it is touched, and what it may be.
+// The work buffer: its size, which bytes are used, and which buffers are valid.
 #include <limits>
 
 #include "tests/support/guarded.h"
@@ -21,7 +21,7 @@ TEST(BufferSize, OfEveryOrder) {
   }
 }
 
-// The order is looked at first: the size stays, and is not even looked at.
+// The order is checked first: the size is unchanged, and its pointer is not checked.
 TEST(BufferSize, RefusesOtherOrders) {
   constexpr std::int32_t least = std::numeric_limits<std::int32_t>::min();
   std::vector<std::int32_t> orders = {least, least + 1, std::numeric_limits<std::int32_t>::max()};
@@ -45,16 +45,16 @@ class Buffer : public KernelTest {
   static std::size_t bytes() { return buffer_size(kernel()); }
   static bool is_used() { return kernel().length >= first_order_with_buffer; }
   static void fill(std::byte* buffer, std::byte value) { std::fill_n(buffer, bytes(), value); }
-  /// Aligned arrays, and unaligned ones for the twin.
+  /// Aligned arrays, and unaligned ones for the unaligned variant.
   void expect_every_byte_written(std::byte* buffer, int offset);
 };
 
-TEST_P(Buffer, CatalogueTellsItsSize) {
+TEST_P(Buffer, CatalogueHasItsSize) {
   EXPECT_EQ(kernel().buffer_bytes, static_cast<int>(bytes()));
   EXPECT_EQ(is_used(), bytes() > 0);
 }
 
-// After two calls over unlike contents the buffer holds the same: every byte was written.
+// Two calls over different contents leave the same in the buffer: every byte was written.
 void Buffer::expect_every_byte_written(std::byte* buffer, int offset) {
   Array src(kernel().precision, kernel().read, offset), dst(kernel().precision, kernel().written, offset);
   random.fill(src, Kind::ordinary);
@@ -70,7 +70,7 @@ void Buffer::expect_every_byte_written(std::byte* buffer, int offset) {
   ASSERT_EQ(after[0], after[1]) << "not every byte of the buffer was written";
 }
 
-// Behind the last byte, and then in front of the first, lies memory that must not be touched.
+// A guard page follows the last byte, and then precedes the first.
 TEST_P(Buffer, UsesEveryByteOfItsSizeAndNoOther) {
   Guarded region(bytes() + 1);
   for (std::byte* buffer : {region.end() - bytes(), region.begin()}) {
@@ -78,8 +78,8 @@ TEST_P(Buffer, UsesEveryByteOfItsSizeAndNoOther) {
     for (int offset = 0; offset < 16; offset += step())
       ASSERT_NO_FATAL_FAILURE(expect_every_byte_written(buffer, offset));
     const auto untouched = [](std::byte b) { return b == std::byte{0x33}; };
-    ASSERT_TRUE(std::all_of(region.begin(), buffer, untouched)) << "written in front of the buffer";
-    ASSERT_TRUE(std::all_of(buffer + bytes(), region.end(), untouched)) << "written behind the buffer";
+    ASSERT_TRUE(std::all_of(region.begin(), buffer, untouched)) << "wrote before the buffer";
+    ASSERT_TRUE(std::all_of(buffer + bytes(), region.end(), untouched)) << "wrote after the buffer";
   }
 }
 
@@ -101,7 +101,7 @@ TEST_P(Buffer, ContentsHaveNoEffect) {
   }
 }
 
-TEST_P(Buffer, SmallOrdersNeverLookAtIt) {
+TEST_P(Buffer, SmallOrdersIgnoreIt) {
   if (is_used()) return;
   Guarded nowhere(1);
   const Array src = random_input();
@@ -124,7 +124,7 @@ TEST_P(Buffer, RefusalsDoNotTouchIt) {
   }
 }
 
-TEST_P(Buffer, GenericHandsItOver) {
+TEST_P(Buffer, GenericPassesItOn) {
   for (const Generic& generic : catalogue::generics()) {
     if (std::string(generic.family) != kernel().family || std::string(generic.type) != kernel().type)
       continue;
@@ -146,8 +146,7 @@ TEST_P(Buffer, GenericHandsItOver) {
   FAIL() << "no generic function";
 }
 
-// A fault of the caller, which ends the program where the aligned moves meet it. Sanitizers report it in
-// their way.
+// A mistake of the caller, which faults at the first aligned move. Sanitizers report it in their own way.
 #if !defined(__SANITIZE_ADDRESS__)
 TEST_P(Buffer, MisalignedFaults) {
   if (!is_used()) return;

@@ -1,4 +1,4 @@
-// The kernels of the family as test parameters, and what the tables of the family say of them.
+// The kernels of the family as test parameters, and the tables that describe them.
 #pragma once
 
 #include <string_view>

@@ -6,12 +6,12 @@
 namespace xfm::test {
 namespace {
 
-// Orders 1, 3, ... 13. In binary64 the quotient of 1 by the rounded root, one step below the nearest value.
-constexpr std::uint32_t odd_roots_single[] = {0x3F3504F3, 0x3EB504F3, 0x3E3504F3, 0x3DB504F3,
-                                              0x3D3504F3, 0x3CB504F3, 0x3C3504F3};
-constexpr std::uint64_t odd_roots_twofold[] = {0x3FE6A09E667F3BCC, 0x3FD6A09E667F3BCC, 0x3FC6A09E667F3BCC,
-                                               0x3FB6A09E667F3BCC, 0x3FA6A09E667F3BCC, 0x3F96A09E667F3BCC,
-                                               0x3F86A09E667F3BCC};
+// Orders 1, 3, ... 13. In binary64 1 divided by the rounded root, one step below the nearest value.
+constexpr std::uint32_t odd_roots_binary32[] = {0x3F3504F3, 0x3EB504F3, 0x3E3504F3, 0x3DB504F3,
+                                                0x3D3504F3, 0x3CB504F3, 0x3C3504F3};
+constexpr std::uint64_t odd_roots_binary64[] = {0x3FE6A09E667F3BCC, 0x3FD6A09E667F3BCC, 0x3FC6A09E667F3BCC,
+                                                0x3FB6A09E667F3BCC, 0x3FA6A09E667F3BCC, 0x3F96A09E667F3BCC,
+                                                0x3F86A09E667F3BCC};
 
 template <class T>
 Array run(const Array& src, double factor) {
@@ -41,8 +41,8 @@ Array run(const Array& src, double factor) {
 double root_factor(Precision precision, int order) {
   if (order % 2 == 0) return std::ldexp(1.0, -order / 2);
   const auto row = static_cast<std::size_t>(order / 2);
-  return precision == Precision::binary32 ? double{std::bit_cast<float>(odd_roots_single[row])}
-                                          : std::bit_cast<double>(odd_roots_twofold[row]);
+  return precision == Precision::binary32 ? double{std::bit_cast<float>(odd_roots_binary32[row])}
+                                          : std::bit_cast<double>(odd_roots_binary64[row]);
 }
 
 Array loop_nest(const Array& src, double factor) {

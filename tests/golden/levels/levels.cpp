@@ -1,4 +1,4 @@
-// Compares the digests of the kernels that it is linked with to those on record.
+// Compares the digests of the kernels that it is linked with to the recorded ones.
 #include <cstdio>
 
 #include "tests/golden/digest.h"

@@ -1,4 +1,4 @@
-/* A stranger's program that wants nothing of xfm but its core, in the common part of C and C++. */
+/* A consumer that uses only the core of xfm, in the common subset of C and C++. */
 #include <stdint.h>
 #include <stdio.h>
 #include <xfmcore.h>

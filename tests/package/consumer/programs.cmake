@@ -1,4 +1,4 @@
-# The stranger's programs, in the language chosen, each with the shared and with the static library it needs.
+# The consumer's programs in the chosen language, each with the shared and with the static library.
 enable_testing()
 
 function(add_program name source library)

@@ -1,5 +1,5 @@
-/* A stranger's program, in the common part of C and C++: an impulse at place 1 must come out as one turn of
- * the unit circle, exp(-2 pi i k / 8), and one at place 0 of a DCT-IV as cos(pi/64 (k + 1/2) / 2). */
+/* A consumer, in the common subset of C and C++: an impulse at place 1 must give one round of the unit
+ * circle, exp(-2 pi i k / 8), and one at place 0 of a DCT-IV as cos(pi/64 (k + 1/2) / 2). */
 #include <stdio.h>
 #include <xfm.h>
 
@@ -20,7 +20,7 @@ static int dct4_is_wrong(void) {
 }
 
 int main(void) {
-  static const xfm32fc turn[8] = {{1, 0},  {HALF_ROOT, -HALF_ROOT}, {0, -1}, {-HALF_ROOT, -HALF_ROOT},
+  static const xfm32fc circle[8] = {{1, 0},  {HALF_ROOT, -HALF_ROOT}, {0, -1}, {-HALF_ROOT, -HALF_ROOT},
                                   {-1, 0}, {-HALF_ROOT, HALF_ROOT}, {0, 1},  {HALF_ROOT, HALF_ROOT}};
   static const xfm32fc impulse[8] = {{0, 0}, {1, 0}, {0, 0}, {0, 0}, {0, 0}, {0, 0}, {0, 0}, {0, 0}};
   xfm32fc result[8] = {{0, 0}, {0, 0}, {0, 0}, {0, 0}, {0, 0}, {0, 0}, {0, 0}, {0, 0}};
@@ -33,7 +33,7 @@ int main(void) {
     return 1;
   }
   for (k = 0; k < 8; ++k) {
-    if (near(result[k].re, turn[k].re) && near(result[k].im, turn[k].im)) continue;
+    if (near(result[k].re, circle[k].re) && near(result[k].im, circle[k].im)) continue;
     fprintf(stderr, "X[%d] = %g %+gi\n", k, result[k].re, result[k].im);
     wrong = 1;
   }
