@@ -15,3 +15,6 @@ target_compile_options(xfm_kernel_options INTERFACE
   -ffp-contract=off -fno-fast-math -fno-tree-vectorize -fno-tree-slp-vectorize
   -march=x86-64 -mtune=generic -fvisibility=hidden
   $<$<CXX_COMPILER_ID:GNU>:-fno-reorder-blocks-and-partition>)  # a kernel is one piece, its refusals included
+
+# The registers of the target, as src/simd/simd.h hands them on.
+target_compile_definitions(xfm_kernel_options INTERFACE XFM_VOCABULARY="src/simd/x86_64.h")

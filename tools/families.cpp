@@ -18,7 +18,7 @@ Family complex_family(dft::Direction direction, const std::string& name) {
           .lengths = dft::lengths(),
           .lowest = 2,
           .highest = 64,
-          .vocabulary = "src/dft/vectors.h",
+          .vocabulary = "src/simd/x86_64.h",
           .documentation = documentation(direction),
           .make = [direction](int length, Precision precision, const std::string& tree) {
             return dft::make_kernel(length, precision, direction, tree);

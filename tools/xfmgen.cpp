@@ -39,7 +39,7 @@ void write_all(const std::filesystem::path& out) {
       }
     }
   }
-  write("constants.cpp", shared.definitions("src/dft/vectors.h"));
+  write("constants.cpp", shared.definitions("src/simd/x86_64.h"));
   write("generic.cpp", xfm::generic_functions());
   write("catalogue.cpp", xfm::catalogue(rows));
   write("xfm.map", xfm::export_map());

@@ -2,6 +2,7 @@
 
 #include <bit>
 
+#include "src/simd/x86_64.h"  // rows describe the kernels of the baseline
 #include "src/wht/passes.h"
 
 namespace xfm::wht {
@@ -35,8 +36,9 @@ gen::Row row(int order, gen::Precision precision) {
   const bool single = precision == gen::Precision::binary32;
   const Passes p = single ? passes<float>(order) : passes<double>(order);
   const gen::ElementType type{precision, false};
-  const int n = p.length(), width = single ? lanes<float>(p.block) : lanes<double>(p.block);
-  const bool twin = width > 1 && (single || order > 3);  // one kernel holds both of its bodies itself
+  const int lanes = single ? lanes_of<Register<float>> : lanes_of<Register<double>>;
+  const int n = p.length(), width = lanes_in_use(p.block, lanes);
+  const bool has_variant = width > 1 && (single || order > 3);  // one kernel holds both of its bodies itself
   return {.name = "xfmWHT_" + std::to_string(order) + "_" + type.suffix(),
           .family = "WHT",
           .type = type,
@@ -46,7 +48,7 @@ gen::Row row(int order, gen::Precision precision) {
           .read = n,
           .written = n,
           .exchanges = -1,
-          .packed = twin,
+          .packed = has_variant,
           .packed_math = width > 1,
           .straight = p.is_block(),
           .tree = text(p),
