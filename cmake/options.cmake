@@ -1,4 +1,5 @@
 # Compiler options, in one place: what every target gets, and what keeps the bits of a kernel fixed.
+include(${CMAKE_CURRENT_LIST_DIR}/targets.cmake)
 
 # Everything of this project: C++20, no extensions but the ones named, warnings are errors.
 add_library(xfm_options INTERFACE)
@@ -8,10 +9,16 @@ target_compile_options(xfm_options INTERFACE
   $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>  # false alarms of g++ 12 on string concatenation, GCC bug 105651
   $<$<BOOL:${PROJECT_IS_TOP_LEVEL}>:-Werror>)
 
-# Kernels: no product and sum may fuse, no value-changing option may be inherited, and the scalar families must
-# stay scalar, so the vectorisers are off. The baseline is x86-64 with SSE2 whatever the caller's flags say.
-add_library(xfm_kernel_options INTERFACE)
-target_compile_options(xfm_kernel_options INTERFACE
-  -ffp-contract=off -fno-fast-math -fno-tree-vectorize -fno-tree-slp-vectorize
-  -march=x86-64 -mtune=generic -fvisibility=hidden
-  $<$<CXX_COMPILER_ID:GNU>:-fno-reorder-blocks-and-partition>)  # a kernel is one piece, its refusals included
+# Kernels: products and sums must not fuse, no option that changes values may be inherited, and scalar kernels must stay
+# scalar, so the vectorisers are off. What the target's own flags say holds whatever the caller's flags are.
+function(xfm_add_kernel_options name target)
+  xfm_target_field(${target} compile_flags flags)
+  xfm_target_field(${target} vocabulary vocabulary)
+  separate_arguments(flags)
+  add_library(${name} INTERFACE)
+  target_compile_options(${name} INTERFACE
+    -ffp-contract=off -fno-fast-math -fno-tree-vectorize -fno-tree-slp-vectorize ${flags} -fvisibility=hidden
+    $<$<CXX_COMPILER_ID:GNU>:-fno-reorder-blocks-and-partition>)  # a kernel is one piece, with its entry tests
+  target_compile_definitions(${name} INTERFACE XFM_VOCABULARY="${vocabulary}")  # what src/simd/simd.h hands on
+endfunction()
+xfm_add_kernel_options(xfm_kernel_options x86-64)

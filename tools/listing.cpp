@@ -153,8 +153,9 @@ std::string catalogue_row(const Family& family, const gen::Kernel& kernel) {
               family.takes_buffer());
 }
 
-std::string catalogue_row(const Family& family, int length, const ElementType& type) {
-  const wht::Facts facts = wht::facts(length, type.precision);
+std::string catalogue_row(const Family& family, int length, const ElementType& type,
+                          const gen::Target& target) {
+  const wht::Facts facts = wht::facts(length, type.precision, target);
   return text({.name = kernel_name(family, length, type),
                .family = family.name,
                .type = type,

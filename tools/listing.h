@@ -18,7 +18,8 @@ std::string generic_functions();
 
 /// A row of the catalogue (catalogue.h explains the columns), of a generated kernel or of one by hand.
 std::string catalogue_row(const Family& family, const gen::Kernel& kernel);
-std::string catalogue_row(const Family& family, int length, const gen::ElementType& type);
+std::string catalogue_row(const Family& family, int length, const gen::ElementType& type,
+                          const gen::Target& target);
 
 /// The tables behind catalogue.h.
 std::string catalogue(const std::string& rows);

@@ -45,7 +45,7 @@ void write_all(const std::filesystem::path& out, const Target& target) {
     for (const Family* const family : all) {
       std::string& family_rows = rows[family->name];
       if (family->by_hand()) {
-        for (const auto& type : family->types()) family_rows += xfm::catalogue_row(*family, length, type);
+        for (const auto& type : family->types()) family_rows += xfm::catalogue_row(*family, length, type, target);
         continue;
       }
       std::vector<Kernel> of_family = kernels_of(*family, length, target);

@@ -1,10 +1,10 @@
 /**
  * @file xfmcore.h
- * @brief xfmcore: the outside services of xfm, memory and processor features.
+ * @brief xfmcore: the services that xfm takes from outside, memory and processor features.
  *
- * libxfm takes these three functions from libxfmcore and nothing else from outside. A program may put its own
- * in their place: by defining them, or by a libxfmcore of its own that the loader finds first. xfmMalloc and
- * xfmFree belong together and are to be replaced together.
+ * libxfm calls these three functions of libxfmcore and no others. A program may replace them: by defining
+ * them itself, or by a libxfmcore of its own that the loader finds first. xfmMalloc and xfmFree belong
+ * together and must be replaced together.
  *
  * All three may be called from any number of threads at once.
  */
@@ -23,8 +23,8 @@ extern "C" {
 /**
  * Allocates a block of size bytes, aligned to 64 bytes: a cache line, and the widest vector there is.
  *
- * A size of zero gives a block too: its address is unlike that of any other block, it holds no byte that may
- * be touched, and it wants to be freed like the others.
+ * A size of zero gives a block too: its address differs from that of any other block, no byte of it may be
+ * accessed, and it must be freed like the others.
  *
  * @return the block, its content undetermined, or null when memory is exhausted.
  */
@@ -34,10 +34,10 @@ void* xfmMalloc(size_t size);
 void xfmFree(void* block);
 
 /**
- * Tells whether the processor has the feature of the given code: nonzero if it has.
+ * Returns whether the processor has the feature with this code: nonzero if it has.
  *
- * This core knows no codes: it returns 0 for every one of them. That includes 128, the only one that xfm asks
- * for, and only to choose between the two records of xfmGetLibVersion. No transform depends on the answer.
+ * This core knows no codes and returns 0 for all of them. xfm asks for 128 alone, and only to choose between
+ * the two records of xfmGetLibVersion; no transform depends on the answer.
  */
 int ownGetFeature(int feature);
 

@@ -1,5 +1,7 @@
-// The baseline: every x86-64 processor has SSE2. The build reads name, folder, flags and vocabulary from the
-// lines below too.
+// The baseline: every x86-64 processor has SSE2. The build reads the texts below too.
+//
+// -march replaces another -march but leaves single extensions on, which a project around xfm may ask for. Without
+// SSE3 there is nothing that builds on it, AVX and FMA included; the others extend the integer unit.
 #include "gen/targets/target.h"
 
 namespace xfm::gen {
@@ -11,15 +13,17 @@ Target x86_64() {
       {"unpckhps", 1, {1 << 2, 1 << 6, 1 << 3, 1 << 7}, {2, 6, 3, 7}},
       {"shufpd", 1, {0x3, 0xc}, {0, 2}},
   };
+  // clang-format off
   return {
       .name = "x86-64",
       .folder = "",
-      .compile_flags = "-march=x86-64 -mno-sse3 -mtune=generic",
-      .vocabulary = "src/dft/vectors.h",
+      .compile_flags = "-march=x86-64 -mtune=generic -mfpmath=sse -mno-sse3 -mno-popcnt -mno-lzcnt -mno-bmi -mno-bmi2 -mno-movbe -mno-tbm",
+      .vocabulary = "src/simd/x86_64.h",
       .register_bytes = 16,
       .registers = 16,
       .permutations = permutations,
   };
+  // clang-format on
 }
 
 }  // namespace xfm::gen

@@ -1,6 +1,6 @@
 #include "gen/write/emit.h"
 
-#include <fmt/format.h>
+#include <fmt/ranges.h>
 
 #include <algorithm>
 #include <cmath>
@@ -25,7 +25,20 @@ std::string identifier(const std::string& name) {
 
 bool is_trivial(const Constant& c) { return c.is_zero() || magnitude(c).is_one(); }
 
-const char* register_type(const Kernel& kernel) { return kernel.network->width() == 2 ? "Pair" : "Quad"; }
+/// The type of a kernel's values: a scalar, or a register as the vocabularies spell it, f32x4.
+std::string value_type(const Kernel& kernel) {
+  if (!kernel.packed()) return kernel.type.scalar();
+  const int bits = kernel.type.precision == Precision::binary32 ? 32 : 64;
+  return fmt::format("f{}x{}", bits, kernel.network->width());
+}
+
+
+/// Whether these scalars stand side by side in memory, one for each lane.
+bool contiguous(std::span<const int> scalars) {
+  for (std::size_t l = 0; l < scalars.size(); ++l)
+    if (scalars[l] != scalars[0] + static_cast<int>(l)) return false;
+  return scalars[0] >= 0;
+}
 
 // A kernel's body, line by line.
 class Body {
@@ -46,7 +59,7 @@ class Body {
   std::string declarations() const {
     std::string text;
     for (const std::string& name : registers_) {
-      text += fmt::format("extern \"C\" XFM_CONSTANT {} {};\n", register_type(kernel_), name);
+      text += fmt::format("extern \"C\" XFM_CONSTANT {} {};\n", value_type(kernel_), name);
     }
     return text;
   }
@@ -78,15 +91,11 @@ class Body {
     return (c.is_negative() ? "-" : "") + named(magnitude(c).name);
   }
 
-  std::string value_type() const {
-    return network_.width() == 1 ? kernel_.type.scalar() : register_type(kernel_);
-  }
-
   static std::string var(NodeId id) { return fmt::format("v{}", id); }
 
   std::string compute(NodeId id) {
     const Node& node = network_.node(id);
-    const std::string type = node.finish == Finish::unrounded ? "xfm64f" : value_type();
+    const std::string type = node.finish == Finish::unrounded ? "xfm64f" : value_type(kernel_);
     return fmt::format("  const {} {} = {};\n", type, var(id), expression(node));
   }
 
@@ -95,9 +104,10 @@ class Body {
       case Op::load:
         return load(node);
       case Op::permute:
-        return permute(node);
+        return fmt::format("permute<{}>({}, {})", fmt::join(node.lanes, ", "), var(node.in[0]),
+                           var(node.in[1]));
       case Op::sign_flip:
-        return flip(node);
+        return fmt::format("flip_signs<{}>({})", fmt::join(node.lanes, ", "), var(node.in[0]));
       case Op::add:
         return fmt::format("{} + {}", var(node.in[0]), var(node.in[1]));
       case Op::sub:
@@ -117,21 +127,15 @@ class Body {
   }
 
   std::string multiplier(const Node& node) {
-    if (network_.width() == 1) return use(node.constants[0]);
+    if (!kernel_.packed()) return use(node.constants[0]);
     if (node.constants.size() == 1) {
       std::string name = shared_.use(node.constants[0], kernel_);
       registers_.insert(name);
       return name;
     }
-    std::string lanes;
-    for (const Constant& c : node.constants) lanes += (lanes.empty() ? "" : ", ") + use(c);
-    return fmt::format("_mm_setr_ps({})", lanes);
-  }
-
-  std::string flip(const Node& node) const {
-    if (network_.width() == 2) return fmt::format("flip({})", var(node.in[0]));
-    const int a = node.lanes[0], b = node.lanes[1], c = node.lanes[2], d = node.lanes[3];
-    return fmt::format("flip<{}, {}, {}, {}>({})", a, b, c, d, var(node.in[0]));
+    std::vector<std::string> multipliers;
+    for (const Constant& c : node.constants) multipliers.push_back(use(c));
+    return fmt::format("{}{{{}}}", value_type(kernel_), fmt::join(multipliers, ", "));
   }
 
   // One linear combination in binary64, rounded once; its terms stand in the recipe's order.
@@ -155,43 +159,29 @@ class Body {
                : sum;
   }
 
+  // Lanes side by side take one load; others are complex numbers, one or more, from the lowest lanes on.
   std::string load(const Node& node) const {
-    const auto& at = node.lanes;
-    if (network_.width() == 1) return fmt::format("x[{}]", at[0]);
-    if (network_.width() == 2 || at[2] == at[0] + 2)
-      return fmt::format("{}::load(x + {})", memory(at[0]), at[0]);
-    if (at[2] < 0) return fmt::format("load_low(x + {})", at[0]);
-    return fmt::format("load_halves(x + {}, x + {})", at[0], at[2]);
+    const PerLane& from = node.lanes;
+    if (!kernel_.packed()) return fmt::format("x[{}]", from[0]);
+    if (contiguous(from)) return fmt::format("{}::load(x + {})", memory(from[0]), from[0]);
+    std::string places;
+    for (int l = 0; l < from.size() && from[l] >= 0; l += 2)
+      places += fmt::format("{}x + {}", l == 0 ? "" : ", ", from[l]);
+    return fmt::format("load_complex({})", places);
   }
 
-  // Two adjacent complex numbers at an odd index are never aligned.
-  std::string memory(int scalar) const {
-    return network_.width() == 4 && scalar % 4 != 0 ? "Unaligned" : "Memory";
-  }
-
-  std::string permute(const Node& node) const {
-    if (network_.width() == 2) return fmt::format("exchange({})", var(node.in[0]));
-    const std::string u = var(node.in[0]), v = var(node.in[1]);
-    const int a = node.lanes[0], b = node.lanes[1], c = node.lanes[2], d = node.lanes[3];
-    const auto is = [&](const PerLane& picks) { return node.lanes == picks; };
-    if (is({0, 1, 4, 5})) return fmt::format("low_halves({}, {})", u, v);
-    if (is({2, 3, 6, 7})) return fmt::format("high_halves({}, {})", u, v);
-    if (is({0, 4, 1, 5})) return fmt::format("unpack_low({}, {})", u, v);
-    if (is({2, 6, 3, 7})) return fmt::format("unpack_high({}, {})", u, v);
-    return fmt::format("shuffle<{}, {}, {}, {}>({}, {})", a, b, c - 4, d - 4, u, v);
-  }
+  // What does not start at a multiple of a register is never aligned.
+  std::string memory(int scalar) const { return scalar % network_.width() == 0 ? "Memory" : "Unaligned"; }
 
   std::string store(const Store& store) const {
-    const auto& to = store.lanes;
+    const PerLane& to = store.lanes;
     if (store.node < 0) return fmt::format("  y[{}] = 0;\n", to[0]);
     const std::string v = var(store.node);
-    if (network_.width() == 1) return fmt::format("  y[{}] = {};\n", to[0], v);
-    if (network_.width() == 2 || (to[0] >= 0 && to[2] == to[0] + 2)) {
-      return fmt::format("  {}::store(y + {}, {});\n", memory(to[0]), to[0], v);
-    }
+    if (!kernel_.packed()) return fmt::format("  y[{}] = {};\n", to[0], v);
+    if (contiguous(to)) return fmt::format("  {}::store(y + {}, {});\n", memory(to[0]), to[0], v);
     std::string text;
-    if (to[0] >= 0) text += fmt::format("  store_low(y + {}, {});\n", to[0], v);
-    if (to[2] >= 0) text += fmt::format("  store_high(y + {}, {});\n", to[2], v);
+    for (int l = 0; l < to.size(); l += 2)
+      if (to[l] >= 0) text += fmt::format("  store_complex<{}>(y + {}, {});\n", l / 2, to[l], v);
     return text;
   }
 
@@ -232,15 +222,9 @@ std::string heading(const Kernel& kernel) {
 }
 
 std::string factor_load(const Kernel& kernel) {
-  const std::string of = fmt::format("factors_{}.of(flag)", kernel.type.suffix());
-  switch (kernel.network->width()) {
-    case 1:
-      return fmt::format("  const {} s = *{};\n", kernel.type.scalar(), of);
-    case 2:
-      return fmt::format("  const Pair s = Aligned::load({});\n", of);
-    default:
-      return fmt::format("  const Quad s = Aligned::load({});\n", of);
-  }
+  const std::string factors = fmt::format("factors_{}.of(flag)", kernel.type.suffix());
+  return fmt::format("  const {} s = {};\n", value_type(kernel),
+                     kernel.packed() ? "Aligned::load(" + factors + ")" : "*" + factors);
 }
 
 std::string entry_text(const Kernel& kernel) {
@@ -252,19 +236,20 @@ std::string entry_text(const Kernel& kernel) {
              kernel.type.scalar());
 }
 
-// A scalar kernel is one function; a packed one is a body bound twice, to aligned and to unaligned memory.
+// A scalar kernel is one function; a packed one is a body that two functions share, one for aligned and one
+// for unaligned memory.
 std::string emit_kernel(const Kernel& kernel, SharedConstants& shared) {
   Body body(kernel, shared);
   const std::string inner = " {\n" + entry_text(kernel) + body.text() + "  return xfmStsOk;\n}\n\n";
   const std::string head =
       heading(kernel) + "namespace {\n" + factors(kernel) + "}\n" + body.declarations() + "\n";
   if (!kernel.packed()) return head + signature(kernel, kernel.name()) + inner;
-  const std::string suffix = kernel.type.suffix(), twin = kernel.name() + "_unaligned";
+  const std::string suffix = kernel.type.suffix(), variant = kernel.name() + "_unaligned";
   return head + "template <class Memory>\nXFM_BODY " + signature(kernel, "body_" + suffix) + inner +
-         "extern \"C\" XFM_UNALIGNED_VARIANT " + signature(kernel, twin) +
+         "extern \"C\" XFM_UNALIGNED_VARIANT " + signature(kernel, variant) +
          fmt::format(" {{\n  return body_{}<Unaligned>(src, dst, flag);\n}}\n\n", suffix) +
          signature(kernel, kernel.name()) +
-         fmt::format(" {{\n  if (!aligned(src, dst)) return {}(src, dst, flag);\n", twin) +
+         fmt::format(" {{\n  if (!aligned(src, dst)) return {}(src, dst, flag);\n", variant) +
          fmt::format("  return body_{}<Aligned>(src, dst, flag);\n}}\n\n", suffix);
 }
 
@@ -276,13 +261,12 @@ std::string literal(Wide value, Precision precision) {
 }
 
 std::string SharedConstants::use(const Constant& c, const Kernel& kernel) {
-  const bool pair = kernel.network->width() == 2;
-  std::string name = fmt::format("xfm_{}_{}", pair ? "pair" : "quad", identifier(c.name));
-  const std::string value = literal(c.value, kernel.type.precision);
-  const std::string definition =
-      fmt::format("extern \"C\" XFM_CONSTANT {} {} = {{{}}};  // {:.17g}\n", register_type(kernel), name,
-                  pair ? fmt::format("{0}, {0}", value) : fmt::format("{0}, {0}, {0}, {0}", value),
-                  static_cast<double>(c.value));
+  const std::string type = value_type(kernel);
+  std::string name = fmt::format("xfm_{}_{}", type, identifier(c.name));
+  const std::vector<std::string> lanes(static_cast<std::size_t>(kernel.network->width()),
+                                       literal(c.value, kernel.type.precision));
+  const std::string definition = fmt::format("extern \"C\" XFM_CONSTANT {} {} = {{{}}};  // {:.17g}\n", type,
+                                             name, fmt::join(lanes, ", "), static_cast<double>(c.value));
   const auto [known, fresh] = definitions_.try_emplace(name, definition);
   if (!fresh && known->second != definition)
     throw std::logic_error(kernel.name() + ": two constants of the name " + name);

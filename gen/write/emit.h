@@ -1,4 +1,4 @@
-// The writers of C++ text: a body, and the shell around it (entry tests, factor, twin).
+// The writers of C++ text: a body, and the shell around it (entry tests, factor, unaligned variant).
 #pragma once
 
 #include <map>

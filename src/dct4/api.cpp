@@ -1,4 +1,4 @@
-// The exported functions: the tests of their arguments, and the life of a state.
+// The exported functions: they test their arguments, and create, run and free states.
 #include "src/dct4/plan.h"
 #include "xfm.h"
 #include "xfmcore.h"
@@ -16,7 +16,7 @@ template <>
 struct StateOf<double> {
   using Type = xfmDCT4State_64f;
 };
-/// What the caller knows a plan's root by.
+/// The root of a plan, as callers see it.
 template <class T>
 using State = typename StateOf<T>::Type;
 
@@ -29,7 +29,7 @@ xfmStatus checked_init(State<T>** state, std::int32_t length, void* block) {
   return status;
 }
 
-// A block that could not be had reaches init as a null pointer.
+// Where there is no memory left, init gets a null pointer and refuses it.
 template <class T>
 xfmStatus init_alloc(State<T>** state, std::int32_t length) {
   if (state == nullptr) return xfmStsNullPtr;

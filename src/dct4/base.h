@@ -34,20 +34,20 @@ void transform_4(const T* src, T* dst) {
   dst[2] = (b - e) * s - (c + f) * s;
 }
 
-/// The samples of one residue t: w(n) stands at 2 r n + t, and at 2 r |n| - 1 - t for negative n.
+/// The samples of residue t: w(n) stands at 2 r n + t, and at 2 r |n| - 1 - t for negative n.
 template <class T, int r, int t>
 struct Residue {
   const T* src;
   XFM_INLINE T operator()(int n) const { return src[n >= 0 ? 2 * r * n + t : -2 * r * n - 1 - t]; }
 };
 
-/// Keeps the classes of one residue, twisted by pi (2 q + 1) (2 t + 1) / (4 N).
+/// Takes the classes of one residue, twisted by pi (2 q + 1) (2 t + 1) / (4 N).
 template <class T, int length, int r, int t>
 struct Twist {
-  Complex<Scalar<T>> (*classes)[r];
+  Complex<T> (*classes)[r];
   template <int q>
-  XFM_INLINE void put(Complex<Scalar<T>> z) const {
-    classes[q][t] = turned<(2 * q + 1) * (2 * t + 1), 4 * length>(z);
+  XFM_INLINE void put(Complex<T> z) const {
+    classes[q][t] = rotated<(2 * q + 1) * (2 * t + 1), 4 * length>(z);
   }
 };
 
@@ -65,11 +65,9 @@ struct Scatter {
 template <class T, int length, int r>
 void transform(const T* src, T* dst) {
   constexpr int m = length / r;
-  Complex<Scalar<T>> w[m / 2][r];
-  unrolled<r>([&](auto t) XFM_INLINE_LAMBDA {
-    fold<Scalar<T>, m>(Residue<T, r, t>{src}, Twist<T, length, r, t>{w});
-  });
-  unrolled<m / 2>([&](auto q) XFM_INLINE_LAMBDA { expand<Scalar<T>, r>(w[q], Scatter<T, m, q>{dst}); });
+  Complex<T> w[m / 2][r];
+  unrolled<r>([&](auto t) XFM_INLINE { fold<T, m>(Residue<T, r, t>{src}, Twist<T, length, r, t>{w}); });
+  unrolled<m / 2>([&](auto q) XFM_INLINE { expand<T, r>(w[q], Scatter<T, m, q>{dst}); });
 }
 
 }  // namespace xfm::dct4

@@ -7,8 +7,8 @@
 namespace xfm::dct4 {
 namespace {
 
-/// A sum of bytes in 32 bits, or nothing where the length is refused. Very long lengths wrap around; one that
-/// has come to be negative is refused, one that has come out positive again is not.
+/// A sum of bytes in 32 bits, or nothing where the length is refused. The sums of very long lengths wrap
+/// around: a negative one is refused, one that has become positive again is not.
 using Bytes = std::optional<std::uint32_t>;
 
 Bytes sum(std::uint32_t a, std::uint32_t b) {
@@ -18,8 +18,8 @@ Bytes sum(std::uint32_t a, std::uint32_t b) {
 Bytes sum(Bytes a, std::uint32_t b) { return a ? sum(*a, b) : a; }
 Bytes sum(Bytes a, Bytes b) { return b ? sum(a, *b) : b; }
 
-// What the objects take, their list heads and cells among it, all rounded. The cells are counted generously;
-// the counts are part of what callers see and stay.
+// The bytes of the objects with their list heads and cells, all rounded. More cells are counted than a plan
+// uses; callers can see the counts, so they stay as they are.
 constexpr std::uint32_t cell = round32(sizeof(PlanList));
 constexpr std::uint32_t base_plan = round32(80) + 3 * cell;
 constexpr std::uint32_t combine_side = 448;
@@ -32,13 +32,13 @@ constexpr std::uint32_t root_side = 416;
 /// Aligning the caller's block.
 constexpr std::uint32_t alignment_margin = 2 * round32(1);
 
-/// Splitting a fold of length m: a table of (r - 1) pairs of vectors a class, and a work area of the full
-/// length.
+/// Splitting a fold of length m: a table of (r - 1) pairs of groups for each class, and a work area of the
+/// full length.
 Bytes split_bytes(std::int32_t m, std::uint32_t work) {
   const std::int32_t r = radix_rule(m / 2);
   if (r == 0) return {};
   const std::int32_t classes = m / (2 * r), inner = m / r;
-  const auto table = round32(32 * static_cast<std::uint32_t>((r - 1) * classes));
+  const auto table = round32(2 * group_bytes * static_cast<std::uint32_t>((r - 1) * classes));
   const Bytes below = leaf_kind(inner) != 0 ? Bytes{inner_leaf} : sum(split_bytes(inner, work), inner_split);
   return sum(sum(sum(below, table), work), split_node);
 }
@@ -49,7 +49,7 @@ Bytes plan_bytes(std::int32_t length) {
   const std::int32_t r = radix_rule(length / 2);
   if (r == 0) return {};
   const std::int32_t m = length / r, classes = length / (2 * r);
-  if (classes % lanes<T> != 0 || r % lanes<T> != 0) return {};
+  if (classes % group_size<T> != 0 || r % group_size<T> != 0) return {};
   const std::uint32_t element = sizeof(T);
   const std::uint32_t table = round32(2 * element * static_cast<std::uint32_t>(classes * r));
   const std::uint32_t work = round32(element * static_cast<std::uint32_t>(length));

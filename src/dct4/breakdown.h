@@ -1,4 +1,4 @@
-// How a length breaks down, and what its plan takes: N = r m, where r residues fold into m / 2 spectrum
+// How a length breaks down, and the memory of its plan: N = r m, where r residues fold into m / 2 spectrum
 // classes each; a fold length m above the longest leaf splits again.
 #pragma once
 
@@ -8,12 +8,14 @@
 
 namespace xfm::dct4 {
 
-/// Elements in a vector register.
+/// Residues and classes are taken in groups, whose elements stand side by side in tables and work areas. The
+/// size of a group is part of the plan's format: it is the same on every target, whatever the registers are.
+constexpr std::uint32_t group_bytes = 16;
 template <class T>
-constexpr std::int32_t lanes = 16 / static_cast<std::int32_t>(sizeof(T));
+constexpr std::int32_t group_size = static_cast<std::int32_t>(group_bytes / sizeof(T));
 
-/// The radix that a value is divided by, 2 to 32, or 0 if there is none. A failed test of divisibility falls
-/// through to the next smaller radix.
+/// The radix that divides a value, 2 to 32, or 0 if there is none. Where a radix does not divide it, the next
+/// smaller one is tried.
 std::int32_t radix_rule(std::int32_t value);
 
 /// The place of a value among first, 2 first, 4 first, ... up to last, counted from 1; otherwise 0.

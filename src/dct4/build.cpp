@@ -1,6 +1,6 @@
-// How a plan comes to be and goes: each object's init decides its kind, makes its children and calls their
-// init. The order of allocation is fixed. List heads are made when an object is filled, those for lookup
-// first, the owner's last; an object is appended to its owner before any view.
+// How a plan is built and destroyed. The init of an object decides its kind, makes its children and calls
+// their init. The order of allocation is fixed. List heads are made when an object is filled, those for
+// lookup first, the owner's last; an object is appended to its owner before any view.
 #include "src/dct4/twiddle.h"
 
 namespace xfm::dct4 {
@@ -29,7 +29,7 @@ Record* stage_new(PlanArena* arena) {
 
 xfmStatus init_of(PlanObject& object) { return reinterpret_cast<Init>(object.operation)(&object); }
 
-/// Whatever goes wrong below is a length that cannot be broken down.
+/// Any failure below means that the length cannot be broken down.
 xfmStatus init_child(PlanObject& object) { return init_of(object) == xfmStsOk ? xfmStsOk : xfmStsBadSize; }
 
 void append(PlanObject& object, PlanList* owner, PlanList* view) {
@@ -91,7 +91,7 @@ OddSplitNode<T>* new_split(PlanArena* arena, std::int32_t m, std::int32_t length
   return node;
 }
 
-/// A fold's kind, and what a fold that is no leaf holds.
+/// Sets a fold's kind, and builds the split of a fold that is no leaf.
 template <class T, class Fold>
 xfmStatus init_fold(Fold& node, std::int32_t r_above) {
   node.reserved = 0;
@@ -178,7 +178,7 @@ void destroy_fold_shell(FoldShell& shell) {
 
 template <class T>
 xfmStatus init_fold_shell(FoldShell& shell) {
-  if (shell.radix % lanes<T> != 0) return xfmStsBadSize;
+  if (shell.radix % group_size<T> != 0) return xfmStsBadSize;
   shell.kind = kind_sound;
   PlanArena* const arena = shell.head.arena;
   auto* node = stage_new<FoldNode, destroy_fold, init_fold_node<T>>(arena);
@@ -186,7 +186,7 @@ xfmStatus init_fold_shell(FoldShell& shell) {
   node->length = node->whole = shell.length;
   node->mirror = shell.mirror;
   node->step = shell.step;
-  node->batches = shell.radix / lanes<T>;
+  node->batches = shell.radix / group_size<T>;
   node->part = shell.radix;
   node->view = list_new(arena);
   node->owner = list_new(arena);
@@ -218,20 +218,20 @@ void destroy_combine_shell(CombineShell& shell) {
 
 template <class T>
 xfmStatus init_combine_shell(CombineShell& shell) {
-  if (shell.classes % lanes<T> != 0) return xfmStsBadSize;
+  if (shell.classes % group_size<T> != 0) return xfmStsBadSize;
   shell.kind = kind_sound;
   PlanArena* const arena = shell.head.arena;
   auto* node = stage_new<CombineNode<T>, destroy_combine<T>, init_combine<T>>(arena);
   auto* source = new_lane_source<T>(arena);
   source->step = shell.step;
-  source->groups = shell.classes / lanes<T>;
+  source->groups = shell.classes / group_size<T>;
   source->source = shell.source;
   list_append(shell.owner, &source->head);
 
   node->radix = shell.radix;
   node->length = node->whole = shell.length;
   node->step = shell.step;
-  node->group_elements = shell.step * lanes<T>;
+  node->group_elements = shell.step * group_size<T>;
   node->groups = source->groups;
   node->mirror = shell.mirror;
   node->fold = shell.fold;
@@ -259,7 +259,7 @@ void add_combine_shell(Dct4Plan<T>& root) {
   auto* shell = stage_new<CombineShell, destroy_combine_shell, init_combine_shell<T>>(arena);
   auto* source = new_cos_sin_source<T>(arena);
   source->step = source->row = 2 * root.radix;
-  source->turn = static_cast<std::int32_t>(8 * static_cast<std::uint32_t>(root.length));
+  source->full_turn = static_cast<std::int32_t>(8 * static_cast<std::uint32_t>(root.length));
   source->classes = root.length / (2 * root.radix);
   source->radix = root.radix;
   list_append(root.owner, &source->head);

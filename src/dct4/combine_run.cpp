@@ -15,40 +15,39 @@ constexpr int place_of(int t) {
   return place;
 }
 
-/// Real or imaginary parts of L residues from t on: vectors across residues, one for each of L classes,
-/// become vectors across classes, one for each residue.
-template <class T, int r>
-XFM_INLINE void load_turned(const T* classes, typename Packed<T>::Value* v) {
-  using P = Packed<T>;
-  unrolled<P::lanes>([&](auto q) XFM_INLINE_LAMBDA { v[q] = P::load(classes + q * 2 * r); });
-  P::transpose(v);
+/// Real or imaginary parts of L residues from t on: registers across residues, one for each of L classes,
+/// become registers across classes, one for each residue.
+template <int r, class T, class V>
+XFM_INLINE inline void load_transposed(const T* classes, V* v) {
+  unrolled<lanes_of<V>>([&](auto q) XFM_INLINE { v[q] = Aligned::load(classes + q * 2 * r); });
+  transpose(v);
 }
 
-/// The spectrum of L classes under its twist, and the part of the table that it needs.
+/// The spectrum of L classes, and the part of the table with its twist.
 template <class T, int r>
 struct Twisted {
-  using P = Packed<T>;
-  static constexpr int width = P::lanes;
+  using V = Register<T>;
+  static constexpr int width = lanes_of<V>;
   const T* classes;
   const T* table;
 
   template <int t>
-  XFM_INLINE Complex<P> twist(typename P::Value re, typename P::Value im) const {
+  XFM_INLINE Complex<V> twist(V re, V im) const {
     constexpr int place = place_of<r>(t);
-    const T* const pair = table + 2 * P::lanes * place;
-    return Complex<P>{re, im} * Complex<P>{P::load(pair), P::load(pair + P::lanes)};
+    const T* const pair = table + 2 * lanes_of<V> * place;
+    return Complex<V>{re, im} * Complex<V>{Aligned::load(pair), Aligned::load(pair + lanes_of<V>)};
   }
   /// W[t] .. W[t + L - 1], or the last of them first.
   template <int t, bool descending>
-  XFM_INLINE void get_row(Complex<P>* w) const {
-    typename P::Value re[P::lanes], im[P::lanes];
-    load_turned<T, r>(classes + t, re);
-    load_turned<T, r>(classes + r + t, im);
-    unrolled<P::lanes>(
-        [&](auto j) XFM_INLINE_LAMBDA { w[descending ? P::lanes - 1 - j : j] = twist<t + j>(re[j], im[j]); });
+  XFM_INLINE void get_row(Complex<V>* w) const {
+    V re[lanes_of<V>], im[lanes_of<V>];
+    load_transposed<r>(classes + t, re);
+    load_transposed<r>(classes + r + t, im);
+    unrolled<lanes_of<V>>(
+        [&](auto j) XFM_INLINE { w[descending ? lanes_of<V> - 1 - j : j] = twist<t + j>(re[j], im[j]); });
   }
   template <int t>
-  XFM_INLINE void get(Quads<P, width>& quads) const {
+  XFM_INLINE void get(Quads<V, width>& quads) const {
     get_row<t, false>(quads.front);
     get_row<r - width - t, true>(quads.back);
     get_row<r / 2 - width - t, true>(quads.low);
@@ -58,23 +57,23 @@ struct Twisted {
 
 /// Twist and expansion of one group.
 template <class T, int r, class Out>
-XFM_INLINE void expand_group(const Twisted<T, r>& source, const Out& out) {
-  using P = Packed<T>;
-  if constexpr (r % (4 * P::lanes) == 0) {
-    expand_quads<P, r>(source, out);
+XFM_INLINE inline void expand_group(const Twisted<T, r>& source, const Out& out) {
+  using V = Register<T>;
+  if constexpr (r % (4 * lanes_of<V>) == 0) {
+    expand_quads<V, r>(source, out);
   } else {
-    Complex<P> w[r];
-    if constexpr (r % P::lanes == 0) {
-      unrolled<r / P::lanes>([&](auto row) XFM_INLINE_LAMBDA {
-        source.template get_row<row * P::lanes, false>(w + row * P::lanes);
+    Complex<V> w[r];
+    if constexpr (r % lanes_of<V> == 0) {
+      unrolled<r / lanes_of<V>>([&](auto row) XFM_INLINE {
+        source.template get_row<row * lanes_of<V>, false>(w + row * lanes_of<V>);
       });
     } else {
-      unrolled<r>([&](auto t) XFM_INLINE_LAMBDA {
-        w[t] = source.template twist<t>(P::gather(source.classes + t, 2 * r),
-                                        P::gather(source.classes + r + t, 2 * r));
+      unrolled<r>([&](auto t) XFM_INLINE {
+        w[t] = source.template twist<t>(gather(source.classes + t, 2 * r),
+                                        gather(source.classes + r + t, 2 * r));
       });
     }
-    expand<P, r>(w, out);
+    expand<V, r>(w, out);
   }
 }
 
@@ -87,18 +86,17 @@ struct Scatter {
   std::ptrdiff_t fold;
 
   template <int l>
-  XFM_INLINE void put(typename Packed<T>::Value y) const {
-    using P = Packed<T>;
+  XFM_INLINE void put(Register<T> y) const {
     if constexpr (l >= 0)
-      P::store_any(ahead + l * fold, y);
+      Unaligned::store(ahead + l * fold, y);
     else
-      P::store_any(behind - (l + 1) * fold, P::reversed(y));
+      Unaligned::store(behind - (l + 1) * fold, reversed(y));
   }
 };
 
 template <class T, int r>
 xfmStatus run_groups(const CombineNode<T>& node, T* dst, const T* work) {
-  constexpr int l = lanes<T>;
+  constexpr int l = lanes_of<Register<T>>;
   const T* table = node.table;
   T* ahead = dst;
   // l = -1 is the last one, step 2 r - 1 from the front.
@@ -113,42 +111,44 @@ xfmStatus run_groups(const CombineNode<T>& node, T* dst, const T* work) {
   return xfmStsOk;
 }
 
-/// The outputs of a group in a copy, a line for every l = -r .. r - 1.
+/// Collects the outputs of a group, a line for every l = -r .. r - 1.
 template <class T, int r>
 struct ToLines {
   T* group;
 
   template <int l>
-  XFM_INLINE void put(typename Packed<T>::Value y) const {
-    Packed<T>::store(group + (r + l) * line<T>, y);
+  XFM_INLINE void put(Register<T> y) const {
+    Aligned::store(group + (r + l) * line<T>, y);
   }
 };
 
-/// Four groups at a time, for outputs that stand so far apart, by powers of two, that they fall into few sets
-/// of the cache: every line of dst is written once.
+/// As many groups at a time as fill a line, for outputs that stand so far apart, by powers of two, that they
+/// fall into few sets of the cache: every line of dst is written once.
 template <class T, int r>
 xfmStatus run_lines(const CombineNode<T>& node, T* dst, const T* work) {
+  constexpr int l = lanes_of<Register<T>>;
   const std::ptrdiff_t fold = node.fold;
   const T* table = node.table;
   T* ahead = dst;
   T* behind = dst + (node.mirror - (2 * r - 1) * fold - (line<T> - 1));
-  for (std::int32_t group = 0; group < node.groups; group += line<T> / lanes<T>) {
-    alignas(64) T lines[2 * r * line<T>];
-    for (int q = 0; q < line<T>; q += lanes<T>) {
+  for (std::int32_t group = 0; group < node.groups; group += batches_a_line<T>) {
+    alignas(line_bytes) T lines[2 * r * line<T>];
+    for (int q = 0; q < line<T>; q += l) {
       expand_group(Twisted<T, r>{work, table}, ToLines<T, r>{lines + q});
-      work += 2 * r * lanes<T>;
-      table += 2 * r * lanes<T>;
+      work += 2 * r * l;
+      table += 2 * r * l;
     }
-    for (int l = 0; l < r; ++l) store_line(lines + (r + l) * line<T>, ahead + l * fold);
-    for (int l = 0; l < r; ++l) store_line_reversed(lines + (r - 1 - l) * line<T>, behind + l * fold);
+    for (int i = 0; i < r; ++i) copy_line<Aligned, Unaligned>(lines + (r + i) * line<T>, ahead + i * fold);
+    for (int i = 0; i < r; ++i)
+      copy_line_reversed<Aligned, Unaligned>(lines + (r - 1 - i) * line<T>, behind + i * fold);
     ahead += line<T>;
     behind -= line<T>;
   }
   return xfmStsOk;
 }
 
-/// From this distance on, in bytes, outputs get into each other's way in the cache. Only the radix 32 goes so
-/// far.
+/// From this distance on, in bytes, outputs evict each other from the cache. Only the radix 32 has such
+/// distances.
 constexpr std::size_t far_apart = 2048;
 
 }  // namespace

@@ -1,4 +1,4 @@
-// Constants of the straight-line bodies: cosines and sines of fractions of pi, worked out while compiling.
+// Constants of the straight-line bodies: cosines and sines of fractions of pi, computed by the compiler.
 #pragma once
 
 #include "src/dct4/arithmetic.h"
@@ -37,10 +37,10 @@ template <class T, long a, long b>
 constexpr T tangent = static_cast<T>(wide_sine(a, b) / wide_cosine(a, b));
 
 /// z exp(i pi a / b).
-template <long a, long b, class A>
-XFM_INLINE Complex<A> turned(Complex<A> z) {
-  using T = typename A::Element;
-  return z * Complex<A>{A::all(cosine<T, a, b>), A::all(sine<T, a, b>)};
+template <long a, long b, class V>
+XFM_INLINE inline Complex<V> rotated(Complex<V> z) {
+  using T = Element<V>;
+  return z * Complex<V>{all<V>(cosine<T, a, b>), all<V>(sine<T, a, b>)};
 }
 
 }  // namespace xfm::dct4

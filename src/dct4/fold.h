@@ -12,36 +12,36 @@
 
 namespace xfm::dct4 {
 
-/// Keeps classes in an array of the caller.
-template <class A>
+/// Puts classes into an array.
+template <class V>
 struct ToArray {
-  Complex<A>* classes;
+  Complex<V>* classes;
   template <int q>
-  XFM_INLINE void put(Complex<A> z) const {
+  XFM_INLINE void put(Complex<V> z) const {
     classes[q] = z;
   }
 };
 
 /// From the classes of the even samples and of the odd ones: with T = O(i) exp(i (2 i + 1) pi / m),
 /// Z(i) = E(i) + T and Z(m/2 - 1 - i) = conj(E(i) - T).
-template <int m, class A, class Out>
-XFM_INLINE void join_halves(const Complex<A>* even, const Complex<A>* odd, const Out& out) {
-  unrolled<m / 4>([&](auto i) XFM_INLINE_LAMBDA {
-    const Complex<A> e = even[i], t = turned<2 * i + 1, m>(odd[i]);
+template <int m, class V, class Out>
+XFM_INLINE inline void join_halves(const Complex<V>* even, const Complex<V>* odd, const Out& out) {
+  unrolled<m / 4>([&](auto i) XFM_INLINE {
+    const Complex<V> e = even[i], t = rotated<2 * i + 1, m>(odd[i]);
     out.template put<i>(e + t);
     out.template put<m / 2 - 1 - i>({e.re - t.re, t.im - e.im});
   });
 }
 
 /// From the classes of the even samples and of the quarters 4 l + 1 and 4 l + 3. With S and D the sum and
-/// difference of the turned quarters and E' = E(m/4 - 1 - i): Z(i) = E(i) + S, Z(m/2 - 1 - i) = conj(E(i) -
+/// difference of the rotated quarters and E' = E(m/4 - 1 - i): Z(i) = E(i) + S, Z(m/2 - 1 - i) = conj(E(i) -
 /// S), Z(m/4 - 1 - i) = E' + i conj(D), Z(m/4 + i) = conj(E') + i D.
-template <int m, class A, class Out>
-XFM_INLINE void join_quarters(const Complex<A>* even, const Complex<A>* first, const Complex<A>* third,
-                              const Out& out) {
-  unrolled<m / 8>([&](auto i) XFM_INLINE_LAMBDA {
-    const Complex<A> t1 = turned<2 * i + 1, m>(first[i]), t3 = turned<3 * (2 * i + 1), m>(third[i]);
-    const Complex<A> s = t1 + t3, d = t1 - t3, e = even[i], mirrored = even[m / 4 - 1 - i];
+template <int m, class V, class Out>
+XFM_INLINE inline void join_quarters(const Complex<V>* even, const Complex<V>* first, const Complex<V>* third,
+                                     const Out& out) {
+  unrolled<m / 8>([&](auto i) XFM_INLINE {
+    const Complex<V> t1 = rotated<2 * i + 1, m>(first[i]), t3 = rotated<3 * (2 * i + 1), m>(third[i]);
+    const Complex<V> s = t1 + t3, d = t1 - t3, e = even[i], mirrored = even[m / 4 - 1 - i];
     out.template put<i>(e + s);
     out.template put<m / 2 - 1 - i>({e.re - s.re, s.im - e.im});
     out.template put<m / 4 - 1 - i>({mirrored.re + d.im, mirrored.im + d.re});
@@ -50,27 +50,27 @@ XFM_INLINE void join_quarters(const Complex<A>* even, const Complex<A>* first, c
 }
 
 /// Calls out.put<q>(Z(q)) once for every class.
-template <class A, int m, int step = 1, int offset = 0, class Samples, class Out>
-XFM_INLINE void fold(const Samples& w, const Out& out) {
+template <class V, int m, int step = 1, int offset = 0, class Samples, class Out>
+XFM_INLINE inline void fold(const Samples& w, const Out& out) {
   if constexpr (m == 2) {
     out.template put<0>({w(offset), -w(offset - step)});
   } else if constexpr (m == 4) {
     const auto next = w(offset + step), before = w(offset - step), far = w(offset - 2 * step),
                middle = w(offset);
-    const auto s = A::all(cosine<typename A::Element, 1, 4>);
+    const auto s = all<V>(cosine<Element<V>, 1, 4>);
     const auto a = (next + before) * s, b = (next - before) * s;
     out.template put<0>({middle + a, b - far});
     out.template put<1>({middle - a, b + far});
   } else if constexpr (m == 8) {
-    Complex<A> even[2], odd[2];
-    fold<A, 4, 2 * step, offset>(w, ToArray<A>{even});
-    fold<A, 4, 2 * step, offset + step>(w, ToArray<A>{odd});
+    Complex<V> even[2], odd[2];
+    fold<V, 4, 2 * step, offset>(w, ToArray<V>{even});
+    fold<V, 4, 2 * step, offset + step>(w, ToArray<V>{odd});
     join_halves<m>(even, odd, out);
   } else {
-    Complex<A> even[m / 4], first[m / 8], third[m / 8];
-    fold<A, m / 2, 2 * step, offset>(w, ToArray<A>{even});
-    fold<A, m / 4, 4 * step, offset + step>(w, ToArray<A>{first});
-    fold<A, m / 4, 4 * step, offset + 3 * step>(w, ToArray<A>{third});
+    Complex<V> even[m / 4], first[m / 8], third[m / 8];
+    fold<V, m / 2, 2 * step, offset>(w, ToArray<V>{even});
+    fold<V, m / 4, 4 * step, offset + step>(w, ToArray<V>{first});
+    fold<V, m / 4, 4 * step, offset + 3 * step>(w, ToArray<V>{third});
     join_quarters<m>(even, first, third, out);
   }
 }

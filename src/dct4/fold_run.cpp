@@ -6,18 +6,17 @@
 namespace xfm::dct4 {
 namespace {
 
-/// The classes of one batch. A distance that is a constant, here and below, saves the arithmetic on
-/// addresses.
+/// The classes of one batch. Where the distance is a constant, here and below, addresses take no arithmetic.
 template <class T, class Distance>
 struct ToSpectrum {
   T* start;
   Distance part;
 
   template <int q>
-  XFM_INLINE void put(Complex<Packed<T>> z) const {
+  XFM_INLINE void put(Complex<Register<T>> z) const {
     T* const at = start + 2 * q * part;
-    Packed<T>::store(at, z.re);
-    Packed<T>::store(at + part, z.im);
+    Aligned::store(at, z.re);
+    Aligned::store(at + part, z.im);
   }
 };
 
@@ -34,18 +33,17 @@ struct Samples {
   Distance r;
 
   XFM_INLINE auto operator()(std::ptrdiff_t n) const {
-    using P = Packed<T>;
-    return n >= 0 ? P::load_any(ahead + n * 2 * r) : P::reversed(P::load_any(behind - (n + 1) * 2 * r));
+    return n >= 0 ? Unaligned::load(ahead + n * 2 * r) : reversed(Unaligned::load(behind - (n + 1) * 2 * r));
   }
 };
 
 template <class T, int m, class Distance>
 xfmStatus fold_batches(const FoldNode& node, T* work, const T* src, Distance r) {
-  constexpr int l = lanes<T>;
+  constexpr int l = lanes_of<Register<T>>;
   // n = -1 is the last one, n = m - 1 from the front.
   const T* behind = src + (node.mirror - (m - 1) * 2 * r - (l - 1));
   for (std::int32_t batch = 0; batch < node.batches; ++batch) {
-    fold<Packed<T>, m>(Samples<T, Distance>{src, behind, r}, ToSpectrum<T, Distance>{work, r});
+    fold<Register<T>, m>(Samples<T, Distance>{src, behind, r}, ToSpectrum<T, Distance>{work, r});
     src += l;
     behind -= l;
     work += l;
@@ -53,7 +51,7 @@ xfmStatus fold_batches(const FoldNode& node, T* work, const T* src, Distance r) 
   return xfmStsOk;
 }
 
-/// The radixes are those that powers of two come with at this m.
+/// The radixes are those of the powers of two that have this m.
 template <class T, int m, int... radixes>
 xfmStatus fold_batches(const FoldNode& node, T* work, const T* src) {
   xfmStatus status = xfmStsOk;
@@ -63,31 +61,33 @@ xfmStatus fold_batches(const FoldNode& node, T* work, const T* src) {
   return known ? status : fold_batches<T, m>(node, work, src, std::ptrdiff_t{node.part});
 }
 
-// ---- Leaves of a split. Samples stand so far apart, by powers of two, that most of them fall into a few
-// sets of the cache: a leaf works on a copy, for which every line is read once.
+// ---- Leaves of a split. Their samples stand so far apart, by powers of two, that most of them fall into a
+// few sets of the cache: a leaf works on a copy, for which every line is read once.
 
 /// A line for every sample n, those of negative n at n + m.
 template <class T, int m>
 struct SampleLines {
   const T* batch;
 
-  XFM_INLINE auto operator()(int n) const { return Packed<T>::load(batch + (n >= 0 ? n : n + m) * line<T>); }
+  XFM_INLINE auto operator()(int n) const { return Aligned::load(batch + (n >= 0 ? n : n + m) * line<T>); }
 };
 
 template <class T, int m>
-XFM_INLINE void copy_samples(const T* src, Offsets at, std::ptrdiff_t step, T* lines) {
+XFM_INLINE inline void copy_samples(const T* src, Offsets at, std::ptrdiff_t step, T* lines) {
   const T* ahead = src + at.forward;
   const T* behind = src + (at.forward + at.backward - m / 2 * step - (line<T> - 1));
-  for (int n = 0; n < m / 2; ++n, ahead += step) load_line(ahead, lines + n * line<T>);
-  for (int n = m / 2; n < m; ++n, behind -= step) load_line_reversed(behind, lines + n * line<T>);
+  for (int n = 0; n < m / 2; ++n, ahead += step) copy_line<Unaligned, Aligned>(ahead, lines + n * line<T>);
+  for (int n = m / 2; n < m; ++n, behind -= step)
+    copy_line_reversed<Unaligned, Aligned>(behind, lines + n * line<T>);
 }
 
 template <class T, int m>
 void fold_lines(const T* src, Offsets at, std::ptrdiff_t step, T* out) {
-  alignas(64) T samples[m * line<T>];
+  alignas(line_bytes) T samples[m * line<T>];
   copy_samples<T, m>(src, at, step, samples);
-  for (int batch = 0; batch < line<T>; batch += lanes<T>)
-    fold<Packed<T>, m>(SampleLines<T, m>{samples + batch}, ToSpectrum<T, Constant<line<T>>>{out + batch, {}});
+  for (int batch = 0; batch < line<T>; batch += lanes_of<Register<T>>)
+    fold<Register<T>, m>(SampleLines<T, m>{samples + batch},
+                         ToSpectrum<T, Constant<line<T>>>{out + batch, {}});
 }
 
 Offsets next_sequence(const OddFoldNode& node, Offsets at) {

@@ -1,36 +1,23 @@
-// Moves of whole cache lines, between any address and one that is aligned: in the same order, or last element
-// first.
+// Moves of whole cache lines, between memory of policies such as Aligned and Unaligned: in the same order, or
+// last element first.
 #pragma once
 
-#include "src/dct4/arithmetic.h"
 #include "src/dct4/stages.h"
+#include "src/simd/simd.h"
 
 namespace xfm::dct4 {
 
-template <class T>
-XFM_INLINE void load_line(const T* from, T* to) {
-  using P = Packed<T>;
-  for (int i = 0; i < line<T>; i += P::lanes) P::store(to + i, P::load_any(from + i));
+template <class From, class To, class T>
+XFM_INLINE inline void copy_line(const T* from, T* to) {
+  constexpr int lanes = lanes_of<Register<T>>;
+  for (int i = 0; i < line<T>; i += lanes) To::store(to + i, From::load(from + i));
 }
 
-template <class T>
-XFM_INLINE void load_line_reversed(const T* from, T* to) {
-  using P = Packed<T>;
-  for (int i = 0; i < line<T>; i += P::lanes)
-    P::store(to + i, P::reversed(P::load_any(from + line<T> - P::lanes - i)));
-}
-
-template <class T>
-XFM_INLINE void store_line(const T* from, T* to) {
-  using P = Packed<T>;
-  for (int i = 0; i < line<T>; i += P::lanes) P::store_any(to + i, P::load(from + i));
-}
-
-template <class T>
-XFM_INLINE void store_line_reversed(const T* from, T* to) {
-  using P = Packed<T>;
-  for (int i = 0; i < line<T>; i += P::lanes)
-    P::store_any(to + i, P::reversed(P::load(from + line<T> - P::lanes - i)));
+template <class From, class To, class T>
+XFM_INLINE inline void copy_line_reversed(const T* from, T* to) {
+  constexpr int lanes = lanes_of<Register<T>>;
+  for (int i = 0; i < line<T>; i += lanes)
+    To::store(to + i, reversed(From::load(from + line<T> - lanes - i)));
 }
 
 }  // namespace xfm::dct4

@@ -1,5 +1,5 @@
-// The combine of a split: for each class the twists of its sub-sequences and a DFT across them. Vectors run
-// across residues, so a twiddle is the same in all lanes.
+// The combine of a split: for each class the twists of its sub-sequences and a DFT across them. Registers
+// hold residues side by side, so a twiddle is the same in all lanes.
 #include "src/dct4/constants.h"
 #include "src/dct4/stages.h"
 #include "src/dct4/twiddle.h"
@@ -7,50 +7,47 @@
 namespace xfm::dct4 {
 namespace {
 
-/// Batches that fill a line.
-constexpr int batches = 4;
-
 /// a - b, or its conjugate.
-template <bool conjugated, class A>
-XFM_INLINE Complex<A> difference(Complex<A> a, Complex<A> b) {
+template <bool conjugated, class V>
+XFM_INLINE inline Complex<V> difference(Complex<V> a, Complex<V> b) {
   return {a.re - b.re, conjugated ? b.im - a.im : a.im - b.im};
 }
 
 /// a - i b, or its conjugate; the sum a + i b.
-template <bool conjugated, class A>
-XFM_INLINE Complex<A> turned_difference(Complex<A> a, Complex<A> b) {
+template <bool conjugated, class V>
+XFM_INLINE inline Complex<V> turned_difference(Complex<V> a, Complex<V> b) {
   return {a.re + b.im, conjugated ? b.re - a.im : a.im - b.re};
 }
-template <class A>
-XFM_INLINE Complex<A> turned_sum(Complex<A> a, Complex<A> b) {
+template <class V>
+XFM_INLINE inline Complex<V> turned_sum(Complex<V> a, Complex<V> b) {
   return {a.re - b.im, a.im + b.re};
 }
 
 /// x[l] = sum over a of x[a] exp(+2 pi i a l / n), in place and in natural order; the upper half conjugated
 /// if wanted.
-template <int n, bool conjugated, class A>
-XFM_INLINE void dft(Complex<A>* x) {
+template <int n, bool conjugated, class V>
+XFM_INLINE inline void dft(Complex<V>* x) {
   if constexpr (n == 2) {
-    const Complex<A> a = x[0], b = x[1];
+    const Complex<V> a = x[0], b = x[1];
     x[0] = a + b;
     x[1] = difference<conjugated>(a, b);
   } else if constexpr (n == 4) {
-    const Complex<A> s = x[0] + x[2], d = x[0] - x[2], t = x[1] + x[3], e = x[1] - x[3];
+    const Complex<V> s = x[0] + x[2], d = x[0] - x[2], t = x[1] + x[3], e = x[1] - x[3];
     x[0] = s + t;
     x[1] = turned_sum(d, e);
     x[2] = difference<conjugated>(s, t);
     x[3] = turned_difference<conjugated>(d, e);
   } else {
     static_assert(n == 8);
-    constexpr auto half = cosine<typename A::Element, 1, 4>;
-    const auto s = A::all(half), minus_s = A::all(-half);
-    Complex<A> even[4] = {x[0], x[2], x[4], x[6]};
+    constexpr auto half = cosine<Element<V>, 1, 4>;
+    const auto s = all<V>(half), minus_s = all<V>(-half);
+    Complex<V> even[4] = {x[0], x[2], x[4], x[6]};
     dft<4, false>(even);
-    const Complex<A> a = x[1] + x[5], b = x[3] + x[7], c = x[1] - x[5], d = x[3] - x[7];
-    const Complex<A> u = turned_sum(c, d), v = turned_difference<false>(c, d);
-    const Complex<A> t0 = a + b, t2 = a - b;                             // t2 is still to be multiplied by i
-    const Complex<A> t1 = {(u.re - u.im) * s, (u.re + u.im) * s};        // exp(i pi / 4) u
-    const Complex<A> t3 = {(v.re + v.im) * minus_s, (v.re - v.im) * s};  // exp(3 i pi / 4) v
+    const Complex<V> a = x[1] + x[5], b = x[3] + x[7], c = x[1] - x[5], d = x[3] - x[7];
+    const Complex<V> u = turned_sum(c, d), v = turned_difference<false>(c, d);
+    const Complex<V> t0 = a + b, t2 = a - b;                             // t2 is still to be multiplied by i
+    const Complex<V> t1 = {(u.re - u.im) * s, (u.re + u.im) * s};        // exp(i pi / 4) u
+    const Complex<V> t3 = {(v.re + v.im) * minus_s, (v.re - v.im) * s};  // exp(3 i pi / 4) v
     x[0] = even[0] + t0;
     x[1] = even[1] + t1;
     x[2] = turned_sum(even[2], t2);
@@ -63,79 +60,78 @@ XFM_INLINE void dft(Complex<A>* x) {
 }
 
 /// One class i in the work area, and where its outputs go: D(l) to the class m2 l + i, and conj(D(-l)) to the
-/// class m2 l - 1 - i. All of it for the four batches of a line.
+/// class m2 l - 1 - i, for all batches of a line.
 template <class T>
 struct ClassPlace {
-  using P = Packed<T>;
+  using V = Register<T>;
   const T* in;
   std::ptrdiff_t sequence_step, in_part;
   T* ahead;   ///< of class i
   T* behind;  ///< of class -1 - i
   std::ptrdiff_t fold_step, out_part;
 
-  XFM_INLINE Complex<P> load(int a, int batch) const {
-    const T* const at = in + a * sequence_step + batch * P::lanes;
-    return {P::load(at), P::load(at + in_part)};
+  XFM_INLINE Complex<V> load(int a, int batch) const {
+    const T* const at = in + a * sequence_step + batch * lanes_of<V>;
+    return {Aligned::load(at), Aligned::load(at + in_part)};
   }
   /// D(l) of the radix r2, l = 0 .. r2 - 1; the upper half are the conjugates of D(l - r2).
   template <int r2>
-  XFM_INLINE void store(int l, int batch, Complex<P> d) const {
-    T* const at = (l < r2 / 2 ? ahead + l * fold_step : behind + (r2 - l) * fold_step) + batch * P::lanes;
-    P::store(at, d.re);
-    P::store(at + out_part, d.im);
+  XFM_INLINE void store(int l, int batch, Complex<V> d) const {
+    T* const at = (l < r2 / 2 ? ahead + l * fold_step : behind + (r2 - l) * fold_step) + batch * lanes_of<V>;
+    Aligned::store(at, d.re);
+    Aligned::store(at + out_part, d.im);
   }
 };
 
 template <class T>
-XFM_INLINE Complex<Packed<T>> pair(const T* table, int index) {
-  using P = Packed<T>;
-  const T* const at = table + 2 * P::lanes * index;
-  return {P::load(at), P::load(at + P::lanes)};
+XFM_INLINE inline Complex<Register<T>> pair(const T* table, int index) {
+  using V = Register<T>;
+  const T* const at = table + 2 * lanes_of<V> * index;
+  return {Aligned::load(at), Aligned::load(at + lanes_of<V>)};
 }
 
 /// Radixes 2, 4 and 8: one butterfly.
 template <int r2, class T>
-XFM_INLINE void combine_once(const ClassPlace<T>& place, const T* near) {
-  for (int batch = 0; batch < batches; ++batch) {
-    Complex<Packed<T>> x[r2];
+XFM_INLINE inline void combine_once(const ClassPlace<T>& place, const T* near) {
+  for (int batch = 0; batch < batches_a_line<T>; ++batch) {
+    Complex<Register<T>> x[r2];
     x[0] = place.load(0, batch);
-    unrolled<r2 - 1>([&](auto b) XFM_INLINE_LAMBDA { x[b + 1] = place.load(b + 1, batch) * pair(near, b); });
+    unrolled<r2 - 1>([&](auto b) XFM_INLINE { x[b + 1] = place.load(b + 1, batch) * pair(near, b); });
     dft<r2, true>(x);
-    unrolled<r2>([&](auto l) XFM_INLINE_LAMBDA { place.template store<r2>(l, batch, x[l]); });
+    unrolled<r2>([&](auto l) XFM_INLINE { place.template store<r2>(l, batch, x[l]); });
   }
 }
 
-/// Radixes 16 and 32: over a = 4 a1 + a0 first the sums over a1, then, for each j, those over a0. The batches
-/// take each step together, while their lines are at hand.
+/// Radixes 16 and 32: with a = 4 a1 + a0 first the sums over a1, then, for each j, those over a0. The batches
+/// of a line take each step together, while it is in the nearest cache.
 template <int r2, class T>
-XFM_INLINE void combine_twice(const ClassPlace<T>& place, const T* near, const T* far) {
+XFM_INLINE inline void combine_twice(const ClassPlace<T>& place, const T* near, const T* far) {
   constexpr int outer = r2 / 4;
-  Complex<Packed<T>> y[outer][batches][4];
+  Complex<Register<T>> y[outer][batches_a_line<T>][4];
   for (int a0 = 0; a0 < 4; ++a0) {
-    for (int batch = 0; batch < batches; ++batch) {
-      Complex<Packed<T>> x[outer];
+    for (int batch = 0; batch < batches_a_line<T>; ++batch) {
+      Complex<Register<T>> x[outer];
       x[0] = place.load(a0, batch);
-      unrolled<outer - 1>([&](auto a1) XFM_INLINE_LAMBDA {
-        x[a1 + 1] = place.load(4 * (a1 + 1) + a0, batch) * pair(far, a1);
-      });
+      unrolled<outer - 1>(
+          [&](auto a1) XFM_INLINE { x[a1 + 1] = place.load(4 * (a1 + 1) + a0, batch) * pair(far, a1); });
       dft<outer, false>(x);
-      unrolled<outer>([&](auto j) XFM_INLINE_LAMBDA { y[j][batch][a0] = x[j]; });
+      unrolled<outer>([&](auto j) XFM_INLINE { y[j][batch][a0] = x[j]; });
     }
   }
   for (int j = 0; j < outer; ++j) {
-    for (int batch = 0; batch < batches; ++batch) {
-      Complex<Packed<T>> x[4];
+    for (int batch = 0; batch < batches_a_line<T>; ++batch) {
+      Complex<Register<T>> x[4];
       x[0] = y[j][batch][0];
-      unrolled<3>([&](auto b) XFM_INLINE_LAMBDA { x[b + 1] = y[j][batch][b + 1] * pair(near, 3 * j + b); });
+      unrolled<3>([&](auto b) XFM_INLINE { x[b + 1] = y[j][batch][b + 1] * pair(near, 3 * j + b); });
       dft<4, true>(x);
-      unrolled<4>([&](auto l) XFM_INLINE_LAMBDA { place.template store<r2>(j + outer * l, batch, x[l]); });
+      unrolled<4>([&](auto l) XFM_INLINE { place.template store<r2>(j + outer * l, batch, x[l]); });
     }
   }
 }
 
 template <int r2, class T>
 xfmStatus run_classes(const OddCombineNode<T>& node, Spectrum<T> out, T* work) {
-  constexpr std::ptrdiff_t pair_elements = 2 * lanes<T>;
+  constexpr std::ptrdiff_t pair_elements = 2 * group_size<T>;
   const Spectrum<T> first = sequence_spectrum(work, node.fold, 0),
                     second = sequence_spectrum(work, node.fold, 1);
   ClassPlace<T> place{.in = first.start,

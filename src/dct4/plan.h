@@ -1,11 +1,11 @@
-// The objects of a plan. Each is a plain record behind its header; parameters that a kind does not read are
-// kept all the same, so that every object tells the whole of its place in the plan.
+// The objects of a plan. Each is a plain record that starts with a header. It also keeps the parameters that
+// its kind does not read, so that every object describes its place in the plan in full.
 //
 // Letters, here and in the files that build and run a plan:
-//   N   length; a truncated N / r and the like are meant where N = 2^k + 1
+//   N   length; where it is 2^k + 1, quotients such as N / r are truncated
 //   r   outer radix, m = N / r the fold length, c = N / (2 r) the number of spectrum classes
 //   R   product of the radixes above a split; r2 its radix, m2 its inner fold length, c2 its number of
-//   classes L   lanes of a vector
+//   classes L   elements of a group
 #pragma once
 
 #include <cstddef>
@@ -19,7 +19,7 @@ namespace xfm::dct4 {
 
 /// Kind of a root that runs a tree; the kinds below are base lengths.
 constexpr std::int32_t root_kind_tree = 6;
-/// Kind of a shell or split that was built to its end.
+/// Kind of a shell or split that was built completely.
 constexpr std::int32_t kind_sound = 1;
 /// Kind of a fold whose length splits; the kinds below are leaves.
 constexpr std::int32_t fold_kind_split = 7;
@@ -160,15 +160,15 @@ struct OddCombineNode {
   PlanObject* source;          ///< HalfStepSource
 };
 
-// The sizes are part of what a caller can see: the size query counts them.
+// Callers can see the sizes: the size query counts them.
 static_assert(sizeof(PlanObject) == 32 && sizeof(PlanList) == 24);
 static_assert(sizeof(Dct4Plan<float>) == 80 && sizeof(FoldShell) == 88 && sizeof(FoldNode) == 88);
 static_assert(sizeof(CombineShell) == 96 && sizeof(CombineNode<float>) == 96);
 static_assert(sizeof(OddSplitNode<float>) == 96 && sizeof(OddFoldNode) == 96);
 static_assert(sizeof(OddCombineNode<float>) == 104);
 
-/// The object of a kind that a list's first cell holds. Its header is its first member, so the two share an
-/// address.
+/// The object in a list's first cell, whose kind the caller knows. A record has the address of its header,
+/// which is its first member.
 template <class Record>
 const Record* first_of(const PlanList* list) {
   return reinterpret_cast<const Record*>(list_nth(list, 0));
@@ -178,7 +178,7 @@ const Record* first_of(const PlanList* list) {
 template <class T>
 xfmStatus init(Dct4Plan<T>** root, std::int32_t length, void* block);
 
-/// Gives everything back to the arena, whose top is then where init began.
+/// Releases everything to the arena, whose top is then where init began.
 template <class T>
 void destroy(Dct4Plan<T>* root);
 

@@ -1,39 +1,47 @@
-// The stages of a run. Each takes its plan node, where its output goes and where its input stands. An unknown
-// kind gives xfmStsBadState, which the callers do not look at: a plan that init finished has none.
+// The stages of a run. Each takes its plan node, the place of its output and the place of its input. An
+// unknown kind gives xfmStsBadState, which the callers do not test: a plan that init finished has none.
 //
-// The outer fold takes its residues in batches of L, one vector each. The lengths above 2048 split, and all
-// that belongs to a split is done for four batches at a time, whose vectors fill a cache line.
+// The outer fold takes its residues in batches of L, one register each. The lengths above 2048 split, and all
+// the work of a split is done for as many batches at a time as fill a cache line.
 #pragma once
 
 #include <cstddef>
 
 #include "src/dct4/plan.h"
+#include "src/simd/simd.h"
 
 namespace xfm::dct4 {
 
-/// Elements in a cache line, four vectors.
-template <class T>
-constexpr std::int32_t line = 4 * lanes<T>;
+// A register holds one group of the plan: the code of a run relies on it.
+static_assert(lanes_of<Register<float>> == group_size<float>);
+static_assert(lanes_of<Register<double>> == group_size<double>);
 
-/// Where the samples of a fold stand in src. With those of negative n taken as n + m, so that n runs from 0
-/// to m - 1, sample n of the first residue is at forward + step n in the first half and at forward + backward
-/// - step n in the second. The next residues stand further on in the first half, and further back in the
-/// second.
+constexpr std::size_t line_bytes = 64;
+
+/// Elements in a cache line, and registers.
+template <class T>
+constexpr std::int32_t line = static_cast<std::int32_t>(line_bytes / sizeof(T));
+template <class T>
+constexpr std::int32_t batches_a_line = line<T> / lanes_of<Register<T>>;
+
+/// Where the samples of a fold stand in src. With n + m in place of a negative n, so that n runs from 0 to
+/// m - 1, sample n of the first residue is at forward + step n in the first half and at forward + backward
+/// - step n in the second. The next residues follow upwards in the first half and downwards in the second.
 struct Offsets {
   std::ptrdiff_t forward, backward;
 };
 
-/// Where the classes of a fold go: the real parts of class q to 2 q part, the imaginary parts to (2 q + 1)
-/// part.
+/// Where the classes of a fold go: the real parts of class q to start + 2 q part, the imaginary parts to
+/// start + (2 q + 1) part.
 template <class T>
 struct Spectrum {
   T* start;
   std::ptrdiff_t part;
 };
 
-/// The spectrum of sub-sequence a in the work area of a split. Its classes are one line a part, and two lines
-/// more keep the sub-sequences apart in the sets of the cache. A line holds what four batches leave; the next
-/// four overwrite it.
+/// The spectrum of sub-sequence a in the work area of a split. Each part of a class is one line, and two more
+/// lines keep the sub-sequences apart in the sets of the cache. A line holds the results of its batches until
+/// those of the next line overwrite them.
 template <class T>
 Spectrum<T> sequence_spectrum(T* work, std::int32_t fold, std::int32_t a) {
   return {work + std::ptrdiff_t{a} * (fold + 2) * line<T>, line<T>};
@@ -44,7 +52,7 @@ xfmStatus run_fold(const FoldNode& node, T* work, const T* src);
 template <class T>
 xfmStatus run_combine(const CombineNode<T>& node, T* dst, const T* work);
 
-// For the four batches at these offsets.
+// For the batches of a line, at these offsets.
 template <class T>
 xfmStatus run_odd_split(const OddSplitNode<T>& node, Spectrum<T> out, const T* src, Offsets at);
 template <class T>

@@ -25,21 +25,21 @@ using LaneValue = T (*)(const LaneSource&, std::int32_t, std::int32_t, std::int3
 template <class T>
 using HalfStepValue = T (*)(const HalfStepSource&, std::int32_t);
 
-// The quotient is taken in the element's precision, of two numbers rounded to it: that rounding is part of
+// The quotient is taken in the element's precision, of two numbers rounded to it; these roundings are part of
 // the table.
 template <class T>
 T cos_sin_value(const CosSinSource& source, std::int32_t i, std::int32_t j) {
   const std::int32_t index = i * source.step + j, half = index / 2;
   const std::int32_t q = half / source.radix, t = half % source.radix;
   const std::int32_t odd_product = (2 * q + 1) * (2 * t + 1) * 2;
-  const T x = static_cast<T>(odd_product) / static_cast<T>(source.turn);
+  const T x = static_cast<T>(odd_product) / static_cast<T>(source.full_turn);
   return index % 2 == 0 ? cos_pi(x) : sin_pi(x);
 }
 
 template <class T>
 T lane_value(const LaneSource& source, std::int32_t group, std::int32_t lane, std::int32_t j) {
   const auto value = reinterpret_cast<CosSinValue<T>>(source.source->operation);
-  return value(*reinterpret_cast<const CosSinSource*>(source.source), lanes<T> * group + lane, j);
+  return value(*reinterpret_cast<const CosSinSource*>(source.source), group_size<T> * group + lane, j);
 }
 
 template <class T>
@@ -61,7 +61,7 @@ T multiple(T unit, double factor) {
   return static_cast<T>(static_cast<double>(unit) * factor);
 }
 
-/// Writes pairs of vectors whose lanes are alike.
+/// Writes pairs of groups, cosines and sines, each of one value repeated.
 template <class T>
 class PairWriter {
  public:
@@ -70,7 +70,7 @@ class PairWriter {
   void write(T angle) {
     const T values[] = {cos_pi(angle), sin_pi(angle)};
     for (const T value : values)
-      for (std::int32_t lane = 0; lane < lanes<T>; ++lane) *at_++ = value;
+      for (std::int32_t lane = 0; lane < group_size<T>; ++lane) *at_++ = value;
   }
 
  private:
@@ -83,7 +83,7 @@ void fill(T* at, const LaneSource& source, std::span<const std::int32_t> order) 
   for (std::int32_t group = 0; group < source.groups; ++group)
     for (const std::int32_t t : order)
       for (const std::int32_t j : {2 * t, 2 * t + 1})
-        for (std::int32_t lane = 0; lane < lanes<T>; ++lane) *at++ = value(source, group, lane, j);
+        for (std::int32_t lane = 0; lane < group_size<T>; ++lane) *at++ = value(source, group, lane, j);
 }
 
 }  // namespace

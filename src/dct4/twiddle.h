@@ -1,5 +1,5 @@
-// Twiddle sources and the tables that are filled from them. A source is a small object that knows an angle
-// rule, so that who fills a table knows only its own layout.
+// Twiddle sources and the tables that are filled from them. A source is a small object with the rule of an
+// angle, so that the code that fills a table only has to know its layout.
 #pragma once
 
 #include <cstdint>
@@ -12,14 +12,14 @@ namespace xfm::dct4 {
 /// the value at (q, 2 t + 1) its sine.
 struct CosSinSource {
   PlanObject head;
-  std::int32_t step;     ///< 2 r
-  std::int32_t turn;     ///< 8 N
-  std::int32_t classes;  ///< c
-  std::int32_t radix;    ///< r
-  std::int32_t row;      ///< 2 r
+  std::int32_t step;       ///< 2 r
+  std::int32_t full_turn;  ///< 8 N: the denominator of 2 pi
+  std::int32_t classes;    ///< c
+  std::int32_t radix;      ///< r
+  std::int32_t row;        ///< 2 r
 };
 
-/// The same, by group of classes and lane.
+/// The same, by group of classes and the place in the group.
 struct LaneSource {
   PlanObject head;
   std::int32_t step;    ///< 2 r
@@ -27,8 +27,8 @@ struct LaneSource {
   PlanObject* source;   ///< CosSinSource
 };
 
-/// The unit angle of class i of a split: (i + 1/2) / m2, in units of pi and for r2 / 2 times the angle pi /
-/// m.
+/// The unit angle of class i of a split, (i + 1/2) / m2 in units of pi: r2 / 2 times the angle of the class,
+/// (2 i + 1) pi / m.
 struct HalfStepSource {
   PlanObject head;
   std::int32_t fold;   ///< m
@@ -45,7 +45,7 @@ LaneSource* new_lane_source(PlanArena* arena);
 template <class T>
 HalfStepSource* new_half_step_source(PlanArena* arena);
 
-/// The residues of a group in the order of the table, which is the order in which they are met two by two.
+/// The residues of a group in the order of the table, which is the order in which pairs of them are combined.
 template <std::int32_t r>
 struct ResidueOrder {
   std::int32_t of[r]{};
@@ -63,14 +63,14 @@ template <std::int32_t r>
 constexpr ResidueOrder<r> residue_order{};
 
 /// Allocates and fills the table of a combine: for each group of L classes and each residue in the order
-/// above, the cosines and then the sines of the L twists.
+/// above, the cosines of the L twists and then their sines.
 template <class T>
 void make_table(CombineNode<T>& node);
 
-/// Allocates and fills the table of an inner combine, pairs of a vector of cosines and one of sines, all
-/// lanes alike. The radix 8 has seven pairs a class, a = 1 .. 7. The radixes 16 and 32 have two parts: for
-/// each class and each j = 0 .. r2 / 4 - 1 the multiples 1, 2, 3 of its class angle turned by j; then, for
-/// each class, the multiples 4, 8, .. r2 - 4.
+/// Allocates and fills the table of an inner combine: pairs of a cosine and a sine, each repeated to fill a
+/// group. The radix 8 has seven pairs a class, a = 1 .. 7. The radixes 16 and 32 have two parts: for each
+/// class and each j = 0 .. r2 / 4 - 1 the multiples 1, 2, 3 of its angle plus j; then, for each class, the
+/// multiples 4, 8, .. r2 - 4 of its angle.
 template <class T>
 void make_table(OddCombineNode<T>& node);
 
@@ -86,7 +86,8 @@ std::uint32_t table_bytes(const CombineNode<T>& node) {
 }
 template <class T>
 std::uint32_t table_bytes(const OddCombineNode<T>& node) {
-  return 32U * static_cast<std::uint32_t>(node.radix - 1) * static_cast<std::uint32_t>(node.classes);
+  return 2 * group_bytes * static_cast<std::uint32_t>(node.radix - 1) *
+         static_cast<std::uint32_t>(node.classes);
 }
 
 }  // namespace xfm::dct4

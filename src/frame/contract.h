@@ -1,35 +1,30 @@
-// What every kernel does before its body runs: the entry tests in their fixed order, and from the flag to the
-// factor.
+// What every kernel does before its body runs: the entry tests in their fixed order, and the way from the
+// flag to the factor.
 #pragma once
 
 #include <cstdint>
 
 #include "xfm.h"
 
-/// The body of a packed kernel, bound twice: part of the two functions that name its memory.
+/// The body of a packed kernel: inlined into two functions, one for aligned and one for unaligned memory.
 #define XFM_BODY __attribute__((always_inline)) static inline
 
-/// The unaligned body of a packed kernel: a function of its own, not exported and not merged into its caller.
+/// The unaligned variant of a packed kernel: a function of its own, neither exported nor merged into its
+/// caller.
 #define XFM_UNALIGNED_VARIANT __attribute__((noinline, visibility("hidden")))
 
 namespace xfm {
 
-/// Both pointers are multiples of 16. A null pointer passes: the null test comes later, and comes in both
-/// bodies.
-inline bool aligned(const void* src, const void* dst) {
-  return ((reinterpret_cast<std::uintptr_t>(src) | reinterpret_cast<std::uintptr_t>(dst)) & 15) == 0;
-}
-
 /// The row of a flag in a kernel's factors. The valid flags are 1, 2, 4 and 8, in the rows 0, 1, 3 and 7.
 inline std::uint32_t row_of(std::int32_t flag) { return static_cast<std::uint32_t>(flag) - 1; }
 
-/// One comparison and one bit test tell the valid flags from all others.
+/// One comparison and one bit test separate the valid flags from all others.
 inline bool valid_flag(std::int32_t flag) {
   constexpr std::uint32_t rows = 1U << 0 | 1U << 1 | 1U << 3 | 1U << 7;
   return row_of(flag) < XFM_SCALE_NONE && (rows >> row_of(flag) & 1U) != 0;
 }
 
-/// The status that the arguments deserve: pointers first, the flag last.
+/// The status of these arguments: the pointers are tested first, the flag last.
 inline xfmStatus check(const void* src, const void* dst, std::int32_t flag) {
   if (src == nullptr || dst == nullptr) [[unlikely]]
     return xfmStsNullPtr;
@@ -38,8 +33,8 @@ inline xfmStatus check(const void* src, const void* dst, std::int32_t flag) {
   return xfmStsOk;
 }
 
-/// The stored factors of a kernel, one for each valid flag and as often as it has lanes: no arithmetic and no
-/// branch leads from the flag to its factor. The rows between those of the flags are never read.
+/// The factors of a kernel, one row for each valid flag, repeated for every lane: the flag leads to its
+/// factor without arithmetic or a branch. The rows in between are never read.
 template <class T, int lanes>
 struct Factors {
   alignas(lanes * sizeof(T)) T rows[XFM_SCALE_NONE][lanes];

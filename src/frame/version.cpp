@@ -1,10 +1,10 @@
-// What build of the library this is: two records of constant data, which differ in the name only.
+// The version of the library: two constant records that differ in the name only.
 #include "xfm.h"
 #include "xfmcore.h"
 
 namespace {
 
-/// The processor feature that is marked in the name; what stands behind the code is the core's affair.
+/// The processor feature that the name marks; the meaning of the code is up to the core.
 constexpr int marked_feature = 128;
 
 constexpr xfmLibraryVersion record(const char* name) {

@@ -3,27 +3,38 @@
 
 #include <type_traits>
 
+#include "src/frame/contract.h"
 #include "src/wht/passes.h"
 #include "src/wht/stages.h"
 #include "xfmcore.h"
 
 namespace xfm::wht {
 
-template <class T>
-using Vector = std::conditional_t<sizeof(T) == sizeof(float), Quad, Pair>;
-
+/// What a block is worked on with: registers, or single elements.
 template <class T, int block>
-using Register = std::conditional_t<lanes<T>(block) == 1, T, Vector<T>>;
+using BlockValue = std::conditional_t<lanes_in_use(block, lanes_of<Register<T>>) == 1, T, Register<T>>;
 
-/// How many registers of a block are transposed together. Eight quads reach three stages by two transposes,
-/// where four reach two by one.
+/// Memory of single elements, for lengths that fill no register.
+struct Single {
+  template <class T>
+  XFM_INLINE static T load(const T* p) {
+    return *p;
+  }
+  template <class T>
+  XFM_INLINE static void store(T* p, T v) {
+    *p = v;
+  }
+};
+
+/// How many registers of a block are transposed together. Twice as many as they have lanes reach one stage
+/// more, which pays from four lanes on.
 template <class V, int count>
-inline constexpr int group_size = lanes_of<V> == 4 && count > 4 ? 8 : lanes_of<V>;
+inline constexpr int group_size = (lanes_of<V> > 2 && count > lanes_of<V> ? 2 : 1) * lanes_of<V>;
 
 /// All stages of `block` adjacent elements; take(index, register) of every result.
 template <int block, class Memory, class T, class Take>
 XFM_INLINE inline void block_pass(const T* src, Take take) {
-  using V = Register<T, block>;
+  using V = BlockValue<T, block>;
   constexpr int width = lanes_of<V>, count = block / width, group = group_size<V, count>;
   transform<count, group, V>(
       [&](V* v, int at) XFM_INLINE {
@@ -33,18 +44,18 @@ XFM_INLINE inline void block_pass(const T* src, Take take) {
       [&](int i, V v) XFM_INLINE { take(i * width, v); });
 }
 
-/// The stages between `radix` vectors that lie `stride` elements apart, for all vectors of a stride.
+/// The stages between `radix` vectors that stand `stride` elements apart.
 template <int radix, int stride, class T, class Take>
 XFM_INLINE inline void column_pass(const T* src, Take take) {
-  using V = Vector<T>;
+  using V = Register<T>;
   for (int at = 0; at < stride; at += lanes_of<V>) {
     transform<radix, 1, V>([&](V* v, int i) XFM_INLINE { *v = Aligned::load(src + at + i * stride); },
                            [&](int i, V v) XFM_INLINE { take(at + i * stride, v); });
   }
 }
 
-/// All stages but the last pass's, from src into the main area. With a middle pass, the blocks of a
-/// super-block are staged, so that what the two passes work on stays in the nearest cache.
+/// All stages but those of the last pass, from src into the main area. With a middle pass, the blocks of a
+/// super-block are staged, so that the data of the two passes stays in the nearest cache.
 template <class T, int order, class Memory>
 XFM_INLINE inline void fill_main_area(const T* src, T* buffer) {
   constexpr Passes p = passes<T>(order);
@@ -52,32 +63,32 @@ XFM_INLINE inline void fill_main_area(const T* src, T* buffer) {
   for (int at = 0; at < p.length(); at += p.super_block()) {
     T* const blocks = p.has_staging() ? staging : buffer + at;
     for (int b = 0; b < p.super_block(); b += p.block) {
-      block_pass<p.block, Memory>(src + at + b,
-                                  [&](int i, Vector<T> v) XFM_INLINE { Aligned::store(blocks + b + i, v); });
+      block_pass<p.block, Memory>(
+          src + at + b, [&](int i, Register<T> v) XFM_INLINE { Aligned::store(blocks + b + i, v); });
     }
     if constexpr (p.has_staging()) {
       column_pass<p.middle, p.block>(
-          staging, [&](int i, Vector<T> v) XFM_INLINE { Aligned::store(buffer + at + i, v); });
+          staging, [&](int i, Register<T> v) XFM_INLINE { Aligned::store(buffer + at + i, v); });
     }
   }
 }
 
 /// 1/N, and 1/sqrt(N) as the quotient of 1 by the rounded root: powers of two, and at odd orders 1/sqrt(2)
-/// times one, whose binary64 quotient is not the nearest value but its neighbour below.
+/// times a power of two. In binary64 that quotient is not the nearest value but the one below.
 template <class T, int order>
 constexpr auto make_factors() {
   constexpr T half_root =
       sizeof(T) == sizeof(float) ? static_cast<T>(0x1.6a09e6p-1F) : static_cast<T>(0x1.6a09e667f3bccp-1);
   constexpr T by_n = T{1} / (1 << order);
   constexpr T by_sqrt_n = (order % 2 == 0 ? T{1} : half_root) / (1 << order / 2);
-  return Factors<T, lanes_of<Register<T, 1 << order>>>(by_n, by_n, by_sqrt_n);
+  return Factors<T, lanes_of<BlockValue<T, 1 << order>>>(by_n, by_n, by_sqrt_n);
 }
 template <class T, int order>
 inline constexpr auto factors = make_factors<T, order>();
 
 template <class T, int order>
 XFM_INLINE inline auto factor(std::int32_t flag) {
-  using V = Register<T, 1 << order>;
+  using V = BlockValue<T, 1 << order>;
   using Memory = std::conditional_t<lanes_of<V> == 1, Single, Aligned>;
   return Memory::load(factors<T, order>.of(flag));
 }
@@ -95,7 +106,7 @@ XFM_INLINE inline xfmStatus body(const T* src, T* dst, std::int32_t flag, void* 
   if constexpr (p.is_block()) {
     block_pass<p.block, Memory>(src, scale_and_store<Memory>(dst, factor<T, order>(flag)));
   } else {
-    // There is no status for exhausted memory: what xfmMalloc gives is used as it is.
+    // No status stands for exhausted memory: the result of xfmMalloc is not tested.
     T* const work = static_cast<T*>(buffer != nullptr ? buffer : xfmMalloc(p.template buffer_bytes<T>()));
     fill_main_area<T, order, Memory>(src, work);
     column_pass<p.last, p.super_block()>(work, scale_and_store<Memory>(dst, factor<T, order>(flag)));
@@ -115,20 +126,21 @@ XFM_INLINE inline xfmStatus body(const T* src, T* dst, std::int32_t flag, void* 
     return xfm::wht::body<xfm##type, order, xfm::wht::Single>(src, dst, flag, buffer); \
   }
 
-/// A kernel that holds its aligned body and its unaligned one.
-#define XFM_WHT_TWO_BODIES(order, type)                                                            \
-  XFM_WHT_SIGNATURE(xfmWHT_##order##_##type, type) {                                               \
-    using namespace xfm::wht;                                                                      \
-    if (!xfm::aligned(src, dst)) return body<xfm##type, order, Unaligned>(src, dst, flag, buffer); \
-    return body<xfm##type, order, Aligned>(src, dst, flag, buffer);                                \
+/// A kernel that holds both its aligned and its unaligned body.
+#define XFM_WHT_TWO_BODIES(order, type)                                                                 \
+  XFM_WHT_SIGNATURE(xfmWHT_##order##_##type, type) {                                                    \
+    using namespace xfm;                                                                                \
+    using namespace xfm::wht;                                                                           \
+    if (!aligned(src, dst)) return body<xfm##type, order, UnalignedByElements>(src, dst, flag, buffer); \
+    return body<xfm##type, order, Aligned>(src, dst, flag, buffer);                                     \
   }
 
-/// A kernel with an unaligned twin.
+/// A kernel with an unaligned variant.
 #define XFM_WHT_WITH_UNALIGNED_VARIANT(order, type)                                                  \
   extern "C" XFM_UNALIGNED_VARIANT XFM_WHT_SIGNATURE(xfmWHT_##order##_##type##_unaligned, type) {    \
-    return xfm::wht::body<xfm##type, order, xfm::wht::Unaligned>(src, dst, flag, buffer);            \
+    return xfm::wht::body<xfm##type, order, xfm::UnalignedByElements>(src, dst, flag, buffer);       \
   }                                                                                                  \
   XFM_WHT_SIGNATURE(xfmWHT_##order##_##type, type) {                                                 \
     if (!xfm::aligned(src, dst)) return xfmWHT_##order##_##type##_unaligned(src, dst, flag, buffer); \
-    return xfm::wht::body<xfm##type, order, xfm::wht::Aligned>(src, dst, flag, buffer);              \
+    return xfm::wht::body<xfm##type, order, xfm::Aligned>(src, dst, flag, buffer);                   \
   }

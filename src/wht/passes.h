@@ -8,7 +8,8 @@ namespace xfm::wht {
 constexpr int lowest_order = 1, highest_order = 13;
 
 /// The block pass does the low stages, `block` adjacent elements at a time. A column pass does the next ones,
-/// between `middle` or `last` vectors as far apart as the passes before have come.
+/// between `middle` or `last` vectors that stand apart by as many elements as the passes before have
+/// combined.
 struct Passes {
   int block;       ///< elements
   int middle = 1;  ///< radix; 1: there is no such pass
@@ -20,7 +21,7 @@ struct Passes {
   /// What the block pass and the middle pass work on at a time.
   constexpr int super_block() const { return block * middle; }
 
-  // The work buffer, in elements: a copy of the vector, and behind it a super-block where there is staging.
+  // The work buffer, in elements: a copy of the vector, followed by a super-block where there is staging.
   constexpr int main_area() const { return is_block() ? 0 : length(); }
   constexpr int staging_area() const { return has_staging() ? super_block() : 0; }
   template <class T>
@@ -29,7 +30,7 @@ struct Passes {
   }
 };
 
-// By order, from 1 on. The rows stand for themselves: no rule makes them.
+// By order, from 1 on. Each row is chosen by itself; no rule makes them.
 constexpr Passes passes_32f[] = {
     {2},        {4},        {8},         {16},        {32},       {64},        {128},
     {32, 1, 8}, {64, 1, 8}, {64, 1, 16}, {64, 1, 32}, {64, 8, 8}, {64, 8, 16},
@@ -44,12 +45,9 @@ constexpr const Passes& passes(int order) {
   return (sizeof(T) == sizeof(float) ? passes_32f : passes_64f)[order - lowest_order];
 }
 
-/// Elements a register: vectors of 16 bytes, but blocks of less than four of them go element by element.
-template <class T>
-constexpr int lanes(int block) {
-  constexpr int width = 16 / sizeof(T);
-  return block < 4 * width ? 1 : width;
-}
+/// How many elements of a block go together, of the `lanes` that a register has: blocks of less than four
+/// registers go element by element.
+constexpr int lanes_in_use(int block, int lanes) { return block < 4 * lanes ? 1 : lanes; }
 
 constexpr bool rows_make_their_orders() {
   for (int order = lowest_order; order <= highest_order; ++order) {

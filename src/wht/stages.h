@@ -1,23 +1,12 @@
-// Butterfly stages as straight-line code. The order of the additions of every element is part of the family's
-// contract, since it fixes the rounding: ascending distance, the element at the lower index first. Which
-// element is served before which other one is not: one half of the registers is finished before the other is
-// loaded, and a result is handed on as soon as it is there, so that few values are alive at once.
+// Butterfly stages as straight-line code. The order in which an element is added up is part of the family's
+// contract, since it fixes the rounding: ascending distance, the element at the lower index first. The order
+// among elements is not: one half of the registers is finished before the other is loaded, and a result is
+// passed on as soon as it is complete, so that few values are alive at once.
 #pragma once
 
-#include <utility>
-
-#include "src/wht/vectors.h"
+#include "src/simd/simd.h"
 
 namespace xfm::wht {
-
-/// step(0), step(1), ... one after the other, with constant indices.
-template <int count, class Step>
-XFM_INLINE inline void unrolled(Step step) {
-  [&]<int... i>(std::integer_sequence<int, i...>) XFM_INLINE {
-    (step(std::integral_constant<int, i>{}), ...);
-  }
-  (std::make_integer_sequence<int, count>{});
-}
 
 template <class V>
 XFM_INLINE inline void butterfly(V& a, V& b) {
@@ -26,8 +15,8 @@ XFM_INLINE inline void butterfly(V& a, V& b) {
   a = sum;
 }
 
-/// All stages of `count` registers, of which make(v, at) fills those from `at` on, `leaf` at a time, and does
-/// the stages within them.
+/// All stages of `count` registers: make(v, at) fills `leaf` of them, from number `at` on, and does the
+/// stages within these.
 template <int count, int leaf, class V, class Make>
 XFM_INLINE inline void stages(V* v, Make make, int at = 0) {
   if constexpr (count == leaf) {
@@ -62,19 +51,19 @@ XFM_INLINE inline void transform(Make make, Take take) {
   }
 }
 
-/// All stages of a group of `count` registers of adjacent elements. The low ones are out of reach, for they
-/// combine lanes of one register: a transpose turns lanes into registers, and another one turns them back.
+/// All stages of a group of `count` registers of adjacent elements. The low stages combine lanes of one
+/// register, so a transposition makes registers of these lanes first, and another one restores them.
 template <int count, class V>
 XFM_INLINE inline void group_stages(V* v) {
   constexpr int width = lanes_of<V>, sets = count / width;
   V t[count];  // register i holds the elements i, i + count, i + 2 count, ...
   unrolled<sets>([&](auto set) XFM_INLINE {
     unrolled<width>([&](auto i) XFM_INLINE { t[set * width + i] = v[set + i * sets]; });
-    transpose(t + set * width);
+    transpose_by_integer_shuffles(t + set * width);
   });
   stages<count, 1>(t, filled);
   unrolled<sets>([&](auto set) XFM_INLINE {
-    transpose(t + set * width);
+    transpose_by_integer_shuffles(t + set * width);
     unrolled<width>([&](auto i) XFM_INLINE { v[set + i * sets] = t[set * width + i]; });
   });
   stages<count, sets>(v, filled);

@@ -145,7 +145,7 @@ TYPED_TEST(Stages, OuterFolds) {
   using T = TypeParam;
   for (const std::int32_t m : {2, 4, 8, 16, 32, 64}) {
     for (const std::int32_t batches : {1, 3}) {
-      const std::int32_t r = batches * lanes<T>, n = r * m;
+      const std::int32_t r = batches * group_size<T>, n = r * m;
       Memory memory;
       T* const work = memory.work<T>(static_cast<std::size_t>(n));
       FoldNode node{};
@@ -245,25 +245,26 @@ TYPED_TEST(Stages, InnerCombines) {
 TYPED_TEST(Stages, OuterCombines) {
   using T = TypeParam;
   for (const std::int32_t r : {1, 2, 4, 8, 16, 32}) {
-    for (const std::int32_t m : {2 * lanes<T>, 4 * lanes<T>, static_cast<std::int32_t>(2048 / sizeof(T))}) {
+    for (const std::int32_t m :
+         {2 * group_size<T>, 4 * group_size<T>, static_cast<std::int32_t>(2048 / sizeof(T))}) {
       const std::int32_t n = r * m, c = m / 2;
       Memory memory;
       auto* const angles = new_cos_sin_source<T>(memory.arena);
       angles->step = angles->row = 2 * r;
-      angles->turn = 8 * n;
+      angles->full_turn = 8 * n;
       angles->classes = c;
       angles->radix = r;
       auto* const source = new_lane_source<T>(memory.arena);
       source->step = 2 * r;
-      source->groups = c / lanes<T>;
+      source->groups = c / group_size<T>;
       source->source = &angles->head;
       CombineNode<T> node{};
       node.head.arena = memory.arena;
       node.kind = place_among(1, 32, r);
       node.radix = r;
       node.step = 2 * r;
-      node.group_elements = 2 * r * lanes<T>;
-      node.groups = c / lanes<T>;
+      node.group_elements = 2 * r * group_size<T>;
+      node.groups = c / group_size<T>;
       node.mirror = 2 * n - 1;
       node.fold = m;
       node.source = &source->head;

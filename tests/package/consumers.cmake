@@ -40,6 +40,14 @@ foreach(language c cxx)
   endforeach()
 endforeach()
 
+# A copy in a folder for newer processors, with nothing beside it, finds the core two folders up.
+add_executable(package_load load.c)
+target_link_libraries(package_load PRIVATE xfm_options ${CMAKE_DL_LIBS})
+add_test(NAME package.processor_folder COMMAND sh ${CMAKE_CURRENT_SOURCE_DIR}/processor_folder.sh
+  $<TARGET_FILE:package_load> ${prefix}/${CMAKE_INSTALL_LIBDIR} ${stage}/processor_folder
+  $<TARGET_FILE_NAME:xfm> $<TARGET_FILE_NAME:xfmcore>)
+set_tests_properties(package.processor_folder PROPERTIES FIXTURES_REQUIRED package_installed)
+
 # A consumer's project builds the whole library again, so the everyday test only configures it.
 set(embed -D XFM_SOURCE=${PROJECT_SOURCE_DIR})
 add_test(NAME package.add_subdirectory.configure

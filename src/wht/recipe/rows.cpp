@@ -23,9 +23,9 @@ int additions(const Passes& p, int lanes) {
 }
 
 template <class T>
-Facts facts(int order) {
+Facts facts(int order, int lanes) {
   const Passes& p = passes<T>(order);
-  const int n = p.length(), width = lanes<T>(p.block);
+  const int n = p.length(), width = lanes_in_use(p.block, lanes);
   return {.points = n,
           .tree = text(p),
           .adds = n * order,
@@ -39,8 +39,9 @@ Facts facts(int order) {
 
 }  // namespace
 
-Facts facts(int order, gen::Precision precision) {
-  return precision == gen::Precision::binary32 ? facts<float>(order) : facts<double>(order);
+Facts facts(int order, gen::Precision precision, const gen::Target& target) {
+  const int lanes = target.lanes(precision);
+  return precision == gen::Precision::binary32 ? facts<float>(order, lanes) : facts<double>(order, lanes);
 }
 
 }  // namespace xfm::wht

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "gen/math/precision.h"
+#include "gen/targets/target.h"
 
 namespace xfm::wht {
 
@@ -19,6 +19,6 @@ struct Facts {
   int buffer_bytes;
 };
 
-Facts facts(int order, gen::Precision precision);
+Facts facts(int order, gen::Precision precision, const gen::Target& target);
 
 }  // namespace xfm::wht
