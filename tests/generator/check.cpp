@@ -40,7 +40,7 @@ TEST(Count, LivingOperations) {
 
 TEST(Count, PairsCountTwice) {
   Network network(2);
-  const Value x = network.load({0, 1, -1, -1}), y = network.load({2, 3, -1, -1});
+  const Value x = network.load({0, 1}), y = network.load({2, 3});
   test::store(network,
               network.mul(constant("c", 3), x) + network.flip_signs(network.exchange(y), {1, 0, 0, 0}), 0);
   const Counts counts = count(network);
@@ -55,7 +55,7 @@ TEST(Count, IdleAndTrivialLanesDoNotCount) {
   Network network(4);
   const Value x = network.load({0, 1, 2, 3}), y = network.load({4, 5, 6, -1});
   const Constant one{"1", 1}, zero{"0", 0}, c = constant("c", 3);
-  const Value product = network.mul(std::vector<Constant>{one, zero, c, c}, x);
+  const Value product = network.mul(Sequence<Constant>{one, zero, c, c}, x);
   network.store(network.factor(product + y), {0, 1, 2, -1});
   const Counts counts = count(network);
   EXPECT_EQ(counts.mults, 1);
@@ -68,7 +68,7 @@ TEST(Count, LinearCombinations) {
   Network network(1, Rounding::combination);
   const Value x = network.load(0), y = network.load(1);
   const Constant c = constant("c", 3), one{"1", 1};
-  test::store(network, network.sum(std::vector<Network::Product>{{one, x}, {c, y}, {-c, x}}), 0);
+  test::store(network, network.sum(Products{{one, x}, {c, y}, {-c, x}}), 0);
   const Counts counts = count(network);
   EXPECT_EQ(counts.adds, 2);
   EXPECT_EQ(counts.mults, 2);
@@ -118,7 +118,7 @@ TEST(CheckMemory, EveryInputOnceAndEveryOutputOnce) {
   EXPECT_EQ(error(*network, 2, 2), "N=2: scalar 1 is written 2 times");
 
   Network twice(2);
-  test::store(twice, twice.load({0, 1, -1, -1}) + twice.load({1, 2, -1, -1}), 0);
+  test::store(twice, twice.load({0, 1}) + twice.load({1, 2}), 0);
   EXPECT_EQ(error(twice, 3, 2), "N=2: scalar 1 is read 2 times");
 }
 

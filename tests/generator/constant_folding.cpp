@@ -86,7 +86,7 @@ TEST(FoldLanes, LaneConstants) {
   Network network(4);
   const Constant c = cosine(turn(1, 7)), d = cosine(turn(2, 7)), one{"1", 1}, zero{"0", 0};
   const Value x = network.load({0, 1, 2, 3});
-  const Value product = network.mul(c, network.mul(std::vector<Constant>{one, zero, -d, d}, x));
+  const Value product = network.mul(c, network.mul(Sequence<Constant>{one, zero, -d, d}, x));
   test::store(network, product, 0);
   const auto result = fold(network);
   EXPECT_EQ(test::count(*result, Op::mul), 1);
@@ -97,7 +97,7 @@ TEST(FoldLanes, LaneConstants) {
 
 TEST(FoldLinearCombinations, AreRefused) {
   Network network(1, Rounding::combination);
-  test::store(network, network.sum(std::vector<Network::Product>{{constant("c", 3), network.load(0)}}), 0);
+  test::store(network, network.sum(Products{{constant("c", 3), network.load(0)}}), 0);
   EXPECT_THROW(fold(network), std::logic_error);
 }
 

@@ -38,27 +38,27 @@ TEST(Evaluate, LinearCombinationsRoundOnce) {
        {std::pair{Rounding::each, 0.0F}, std::pair{Rounding::combination, rest}}) {
     Network network(1, rounding);
     const Value a = network.load(0), b = network.load(1);
-    test::store(network, network.sum(std::vector<Network::Product>{{c, a}, {-one, b}}), 0);
+    test::store(network, network.sum(Products{{c, a}, {-one, b}}), 0);
     EXPECT_EQ(run<float>(network, {x, square}, 1)[0], expected);
   }
 }
 
 TEST(Evaluate, Lanes) {
   Network network(4);
-  const Value a = network.load({0, 1, 2, 3}), b = network.load({4, 5, -1, -1});
+  const Value a = network.load({0, 1, 2, 3}), b = network.load({4, 5});
   test::store(network, network.shuffle(a, b, {3, 0, 5, 4}), 0);
   test::store(network, network.flip_signs(a, {1, 0, 1, 0}), 4);
   test::store(network, b, 8);
   const Constant two = constant("two", 2), zero{"0", 0}, one{"1", 1};
-  test::store(network, network.mul(std::vector<Constant>{two, zero, -one, one}, a), 12);
+  test::store(network, network.mul(Sequence<Constant>{two, zero, -one, one}, a), 12);
   EXPECT_EQ(run<float>(network, {1, 2, 3, 4, 5, 6}, 16),
             (std::vector<float>{4, 1, 6, 5, -1, 2, -3, 4, 5, 6, 0, 0, 2, 0, -3, 4}));
 }
 
 TEST(Evaluate, Pairs) {
   Network network(2);
-  const Value a = network.load({0, 1, -1, -1});
-  test::store(network, network.flip_signs(network.exchange(a), {1, 0, -1, -1}), 0);
+  const Value a = network.load({0, 1});
+  test::store(network, network.flip_signs(network.exchange(a), {1, 0}), 0);
   EXPECT_EQ(run<double>(network, {3, 4}, 2), (std::vector<double>{-4, 3})) << "i times 3 + 4i";
 }
 

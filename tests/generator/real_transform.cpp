@@ -14,7 +14,7 @@
 #include "tests/generator/small_networks.h"
 #include "tests/support/reference.h"
 
-namespace xfm::gen::real {
+namespace xfm::gen {
 namespace {
 
 /// The greatest difference of the bins of unit vectors from exp(-2 pi i n (k + offset/2)/N).
@@ -157,9 +157,9 @@ TEST(Unrounded, ValuesEnterCombinationsOnly) {
   Network network(1, Rounding::combination);
   const Value x = network.load(0);
   const Value wide =
-      network.sum(std::vector<Network::Product>{{constant("tenth", Wide(0.1)), x}}, Finish::unrounded);
+      network.sum(Products{{constant("tenth", Wide(0.1)), x}}, Finish::unrounded);
   EXPECT_NO_THROW(
-      network.sum(std::vector<Network::Product>{{constant("1", 1), wide}, {constant("1", 1), x}}));
+      network.sum(Products{{constant("1", 1), wide}, {constant("1", 1), x}}));
   EXPECT_THROW(network.add(wide, x), std::logic_error);
   EXPECT_THROW(network.factor(wide), std::logic_error);
 }
@@ -225,4 +225,4 @@ TEST(Bisection, OrdersAllNodesAfterTheirOperands) {
 }
 
 }  // namespace
-}  // namespace xfm::gen::real
+}  // namespace xfm::gen

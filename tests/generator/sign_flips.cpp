@@ -17,7 +17,7 @@ class Flips : public testing::Test {
 
   /// The number of flips left. The outputs must be those of the network, bit for bit.
   int left(std::size_t written) const {
-    const auto result = absorb_flips(network);
+    const auto result = absorb_sign_flips(network);
     const std::vector<float> src = {0.1F, -0.7F, 1.3F, 0, 2.9F, -3.1F, -0.0F, 5.7F};
     const auto before = test::evaluate<float>(network, src, written),
                after = test::evaluate<float>(*result, src, written);
@@ -51,7 +51,7 @@ TEST_F(Flips, OfASumOfProducts) {
 }
 
 TEST_F(Flips, OfLaneConstants) {
-  const std::vector<Constant> lanes{c, -d, d, -c};
+  const Sequence<Constant> lanes{c, -d, d, -c};
   test::store(network, y + flipped(exchanged(network.mul(lanes, x))), 0);
   EXPECT_EQ(left(4), 0);
 }

@@ -81,10 +81,10 @@ TEST(Transposition, AbsentOutputsSendNothing) {
 
 TEST(Transposition, OnlyOfScalarNetworks) {
   Network network(2);
-  const Value v = network.exchange(network.load({0, 1, -1, -1}));
+  const Value v = network.exchange(network.load({0, 1}));
   Network transposed(2);
   Transposition transposition(network);
-  transposition.send(v, {transposed.load({0, 1, -1, -1}), {}});
+  transposition.send(v, {transposed.load({0, 1}), {}});
   EXPECT_THROW(transposition.run(1), std::logic_error);
 }
 
