@@ -66,7 +66,7 @@ class Body {
   }
 
  private:
-  // Statements carry binary64 constants whatever the kernel's precision.
+  // Linear combinations carry binary64 constants whatever the kernel's precision.
   Precision constant_precision() const {
     return network_.rounding() == Rounding::combination ? Precision::binary64 : kernel_.type.precision;
   }
@@ -141,7 +141,7 @@ class Body {
     return fmt::format("{}{{{}}}", value_type(kernel_), fmt::join(multipliers, ", "));
   }
 
-  // Those entries of a node or a store that stand for a lane.
+  // The entries of a node or a store that are lanes.
   std::span<const int> lanes(const std::array<int, max_lanes>& all) const {
     return std::span(all).first(static_cast<std::size_t>(network_.width()));
   }

@@ -132,7 +132,7 @@ TYPED_TEST(Plan, NumberOfSplits) {
     EXPECT_EQ(ExpectedPlan(1 << k, sizeof(TypeParam), 0).splits(), splits) << k;
 }
 
-/// Init and run in a block of exactly the bytes told, which ends at a page that must not be touched.
+/// Init and run in a block of exactly the reported size, which ends at a page that must not be touched.
 TYPED_TEST(Plan, StaysInTheBlock) {
   for (const std::int32_t length : accepted<TypeParam>(17)) {
     const std::size_t size = size_of<TypeParam>(length);
@@ -156,7 +156,7 @@ TYPED_TEST(Plan, StaysInTheBlock) {
   }
 }
 
-// The bytes that a base length takes beyond those told, in the addresses where that happens.
+// The bytes that a base length takes beyond the reported size, at the addresses where that happens.
 TYPED_TEST(Plan, BaseLengthsWithBit31) {
   const Region region(1 << 16, true);
   for (const int offset : {0, 1, 16, 31}) {

@@ -45,7 +45,7 @@ class Buffer : public KernelTest {
   static std::size_t bytes() { return buffer_size(kernel()); }
   static bool is_used() { return kernel().length >= first_order_with_buffer; }
   static void fill(std::byte* buffer, std::byte value) { std::fill_n(buffer, bytes(), value); }
-  /// Aligned arrays, and unaligned ones for the twin.
+  /// Aligned arrays, and unaligned ones for the unaligned variant.
   void expect_every_byte_written(std::byte* buffer, int offset);
 };
 
