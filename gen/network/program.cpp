@@ -210,6 +210,10 @@ std::string Programs::line(const Operation& operation, const Sequence<int>& name
 std::string Programs::text(const Program& program) const {
   Sequence<int> names(operations_.size(), -1);
   int next = 0;
+  bool binary32 = false;  // the outputs' precision; operations in another one say so
+  for (const Result r : program) {
+    if (r.operation >= 0) binary32 = operations_[r.operation].precision == Precision::binary32;
+  }
   std::string text;
   const auto write = [&](const auto& self, int id) -> void {
     const Operation& operation = operations_[id];
@@ -219,7 +223,7 @@ std::string Programs::text(const Program& program) const {
     }
     names[id] = next++;
     text += fmt::format("t{} = {}{}\n", names[id], line(operation, names),
-                        operation.precision == Precision::binary64 ? "" : "  (binary32)");
+                        binary32 && operation.precision == Precision::binary64 ? "  (binary64)" : "");
   };
   for (int k = 0; k < program.size(); ++k) {
     const Result r = program[k];

@@ -138,14 +138,6 @@ class Body {
     return fmt::format("{}{{{}}}", value_type(kernel_), fmt::join(multipliers, ", "));
   }
 
-<<<<<<< HEAD
-=======
-  // The entries of a node or a store that are lanes.
-  std::span<const int> lanes(const std::array<int, max_lanes>& all) const {
-    return std::span(all).first(static_cast<std::size_t>(network_.width()));
-  }
-
->>>>>>> h1
   // One linear combination in binary64, rounded once; its terms stand in the recipe's order.
   std::string combination(const Node& node) {
     std::string sum;
