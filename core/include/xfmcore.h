@@ -23,21 +23,21 @@ extern "C" {
 /**
  * Allocates a block of size bytes, aligned to 64 bytes: a cache line, and the widest vector there is.
  *
- * A size of zero gives a block too: its address is unlike that of any other block, it holds no byte that may
- * be touched, and it wants to be freed like the others.
+ * A size of zero gives a block too: its address differs from that of every other block, it has no byte that
+ * may be accessed, and it must be freed like the others.
  *
- * @return the block, its content undetermined, or null when memory is exhausted.
+ * @return the block, with undetermined content, or null if memory is exhausted.
  */
 void* xfmMalloc(size_t size);
 
-/** Releases a block of xfmMalloc. Null is allowed and does nothing. */
+/** Releases a block from xfmMalloc. Null is allowed and does nothing. */
 void xfmFree(void* block);
 
 /**
- * Tells whether the processor has the feature of the given code: nonzero if it has.
+ * Returns nonzero if the processor has the feature with the given code.
  *
- * This core knows no codes: it returns 0 for every one of them. That includes 128, the only one that xfm asks
- * for, and only to choose between the two records of xfmGetLibVersion. No transform depends on the answer.
+ * This core knows no codes and always returns 0. xfm asks only for 128, and only to choose between the two
+ * records of xfmGetLibVersion. No transform depends on the answer.
  */
 int ownGetFeature(int feature);
 
