@@ -405,9 +405,9 @@ xfmStatus xfmDFTInv_CToC_64_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag)
  * Scalar code: the arrays may have any alignment. They may overlap in any way: all input is read before the first
  * output is written. In single precision sums are rounded to binary32, and linear combinations with constants are
  * evaluated in binary64 and rounded once.
- * The last operation on every output is the multiplication by s, even if s is 1; the zeros of CCS are stored as they are.
- * There are two exceptions: in single precision an output that is itself a linear combination is multiplied in binary64,
- * before it is rounded; and a few outputs are subtracted from zero afterwards, to correct their sign.
+ * The last operation on every output is the multiplication by s, even if s is 1; the zeros of CCS are not multiplied.
+ * There are two exceptions: in single precision an output that is itself a linear combination is multiplied in
+ * binary64, before it is rounded; and a few outputs are subtracted from zero afterwards, to correct their sign.
  * The three layouts hold the same bits for the same input.
  * Errors, in the order of the tests: xfmStsBadSize (unsupported length, generic functions only), xfmStsNullPtr (src
  * or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
@@ -564,9 +564,9 @@ xfmStatus xfmDFTFwd_RToCCS_64_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
  * Scalar code: the arrays may have any alignment. They may overlap in any way: all input is read before the first
  * output is written. In single precision sums are rounded to binary32, and linear combinations with constants are
  * evaluated in binary64 and rounded once.
- * The last operation on every output is the multiplication by s, even if s is 1; the zeros of CCS are stored as they are.
- * There are two exceptions: in single precision an output that is itself a linear combination is multiplied in binary64,
- * before it is rounded; and a few outputs are subtracted from zero afterwards, to correct their sign.
+ * The last operation on every output is the multiplication by s, even if s is 1; the zeros of CCS are not multiplied.
+ * There are two exceptions: in single precision an output that is itself a linear combination is multiplied in
+ * binary64, before it is rounded; and a few outputs are subtracted from zero afterwards, to correct their sign.
  * The three layouts hold the same bits for the same input.
  * Errors, in the order of the tests: xfmStsBadSize (unsupported length, generic functions only), xfmStsNullPtr (src
  * or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
@@ -723,9 +723,9 @@ xfmStatus xfmDFTFwd_RToPack_64_64f(const xfm64f* src, xfm64f* dst, int32_t flag)
  * Scalar code: the arrays may have any alignment. They may overlap in any way: all input is read before the first
  * output is written. In single precision sums are rounded to binary32, and linear combinations with constants are
  * evaluated in binary64 and rounded once.
- * The last operation on every output is the multiplication by s, even if s is 1; the zeros of CCS are stored as they are.
- * There are two exceptions: in single precision an output that is itself a linear combination is multiplied in binary64,
- * before it is rounded; and a few outputs are subtracted from zero afterwards, to correct their sign.
+ * The last operation on every output is the multiplication by s, even if s is 1; the zeros of CCS are not multiplied.
+ * There are two exceptions: in single precision an output that is itself a linear combination is multiplied in
+ * binary64, before it is rounded; and a few outputs are subtracted from zero afterwards, to correct their sign.
  * The three layouts hold the same bits for the same input.
  * Errors, in the order of the tests: xfmStsBadSize (unsupported length, generic functions only), xfmStsNullPtr (src
  * or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
@@ -1507,9 +1507,9 @@ xfmStatus xfmHartley_64_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
  * | XFM_SCALE_BY_SQRT_N   | 1/sqrt(N) |
  * | XFM_SCALE_NONE        | 1         |
  *
- * Stages run in ascending order, additions and subtractions are in the precision of the elements, and the last operation
- * on every output is the multiplication by s, even if s is 1: the bits are those of a plain loop nest over strides 1, 2,
- * 4, ...
+ * Stages run in ascending order, additions and subtractions are in the precision of the elements, and the last
+ * operation on every output is the multiplication by s, even if s is 1: the bits are those of a plain loop nest over
+ * strides 1, 2, 4, ...
  * 1/sqrt(N) is a stored constant: a power of two at even orders. At odd orders it is the nearest value in binary32; in
  * binary64 it is 1 divided by the rounded root of N, which is one unit in the last place below the nearest value.
  *

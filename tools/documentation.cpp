@@ -38,9 +38,9 @@ Reads N elements of src; writes the half spectrum, @ELEMENTS@ elements of dst:
 | XFM_SCALE_NONE        | 1         |
 
 @COMMON@
-The last operation on every output is the multiplication by s, even if s is 1; the zeros of CCS are stored as they are.
-There are two exceptions: in single precision an output that is itself a linear combination is multiplied in binary64,
-before it is rounded; and a few outputs are subtracted from zero afterwards, to correct their sign.
+The last operation on every output is the multiplication by s, even if s is 1; the zeros of CCS are not multiplied.
+There are two exceptions: in single precision an output that is itself a linear combination is multiplied in
+binary64, before it is rounded; and a few outputs are subtracted from zero afterwards, to correct their sign.
 The three layouts hold the same bits for the same input.
 @ERRORS@
 Sources: Sorensen, Jones, Heideman and Burrus 1987; Good 1958; Cooley and Tukey 1965; Rader 1968.)";
@@ -109,9 +109,9 @@ factor N, so both 1/N flags mean the same here. The number in a kernel's name is
 | XFM_SCALE_BY_SQRT_N   | 1/sqrt(N) |
 | XFM_SCALE_NONE        | 1         |
 
-Stages run in ascending order, additions and subtractions are in the precision of the elements, and the last operation
-on every output is the multiplication by s, even if s is 1: the bits are those of a plain loop nest over strides 1, 2,
-4, ...
+Stages run in ascending order, additions and subtractions are in the precision of the elements, and the last
+operation on every output is the multiplication by s, even if s is 1: the bits are those of a plain loop nest over
+strides 1, 2, 4, ...
 1/sqrt(N) is a stored constant: a power of two at even orders. At odd orders it is the nearest value in binary32; in
 binary64 it is 1 divided by the rounded root of N, which is one unit in the last place below the nearest value.
 
