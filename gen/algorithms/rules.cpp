@@ -34,7 +34,8 @@ bool coprime_stages(const Tree& tree) {
 }
 bool two_twos(const Tree& tree) { return all_numbers(tree) && tree.args.size() == 2 && product(tree) == 4; }
 bool power_of_two(const Tree& tree) {
-  return one_number(tree) && first_number(tree) >= 4 && std::has_single_bit(static_cast<unsigned>(first_number(tree)));
+  return one_number(tree) && first_number(tree) >= 4 &&
+         std::has_single_bit(static_cast<unsigned>(first_number(tree)));
 }
 bool odd_block(const Tree& tree) {
   return !tree.args.empty() && all_numbers(tree) && first_number(tree) % 2 == 1 &&
@@ -108,7 +109,8 @@ int length_of(const Tree& tree) { return rule_of(tree).length(tree); }
 void check_length(const Tree& tree, int length) {
   const int own = length_of(tree);
   if (own != length && !(rule_of(tree).shorter && length < own && length % 2 == 1))
-    throw std::invalid_argument("tree " + to_string(tree) + " is not one of length " + std::to_string(length));
+    throw std::invalid_argument("tree " + to_string(tree) + " is not one of length " +
+                                std::to_string(length));
 }
 
 Tree first_of(const Tree& tree) { return tree.args.front(); }

@@ -111,9 +111,8 @@ Five Choices::five(bool real, int instance, bool transposed) const {
 }
 
 Order Choices::order() const {
-  const auto* const found = gen::find_row(orders, [&](const ChosenOrder& row) {
-    return row.length == length_ && row.precision == precision_;
-  });
+  const auto* const found = gen::find_row(
+      orders, [&](const ChosenOrder& row) { return row.length == length_ && row.precision == precision_; });
   return found == nullptr ? Order::windowed : found->order;
 }
 

@@ -1,5 +1,5 @@
-// Choices inside a kernel that its breakdown leaves open: blocks, scalar kernels, forms of the length-5 block,
-// primitive roots, orders of operations.
+// Choices inside a kernel that its breakdown leaves open: blocks, scalar kernels, forms of the length-5
+// block, primitive roots, orders of operations.
 #pragma once
 
 #include "gen/algorithms/transform.h"

@@ -140,8 +140,8 @@ bool is_block(int length, bool forward) {
 }
 
 const char* plan_of_least_error(bool forward, int length) {
-  const auto* const found = gen::find_row(
-      chosen, [&](const ChosenPlan& p) { return p.length == length && p.forward == forward; });
+  const auto* const found =
+      gen::find_row(chosen, [&](const ChosenPlan& p) { return p.length == length && p.forward == forward; });
   return found == nullptr ? nullptr : found->plan;
 }
 
