@@ -32,7 +32,8 @@ bool coprime_stages(const Tree& tree) {
 }
 bool two_twos(const Tree& tree) { return all_numbers(tree) && tree.args.size() == 2 && product(tree) == 4; }
 bool power_of_two(const Tree& tree) {
-  return one_number(tree) && first_number(tree) >= 4 && std::has_single_bit(static_cast<unsigned>(first_number(tree)));
+  return one_number(tree) && first_number(tree) >= 4 &&
+         std::has_single_bit(static_cast<unsigned>(first_number(tree)));
 }
 bool odd_block(const Tree& tree) {
   return !tree.args.empty() && all_numbers(tree) && first_number(tree) % 2 == 1 &&
@@ -49,19 +50,19 @@ bool rader_shape(const Tree& tree) {
   return tree.args.size() >= 1 && tree.args.size() <= 4 && is_prime(rader_length(tree)) &&
          (tree.args.size() == 1 || tree.args[0].is_number());
 }
-// The longest odd length whose chirp a convolution of that many points serves.
-int chirp_length(const Tree& tree) { return (length_of(tree.args[0]) + 1) / 2; }
+// The longest odd N for which a convolution of L >= 2N-1 points serves.
+int chirp_length(const Tree& tree) { return (length_of(tree.args[0]) - 1) / 2 | 1; }
 
 const Rule table[] = {
     {.name = "",
-     .children = "a number",
+     .children = "a number above 0",
      .applicable = [](const Tree& tree) { return tree.args.empty() && tree.number > 0; },
      .length = [](const Tree& tree) { return tree.number; },
      .on_points = &Transform::block,
      .formula = "the block of that length",
      .source = "Winograd 1978"},
     {.name = "D",
-     .children = "(n[, order of the bins])",
+     .children = "(n[, order of the bins]), n odd",
      .applicable = odd_block,
      .length = first_number,
      .on_points = &Transform::block,
@@ -167,7 +168,8 @@ const Rule& rule_of(const Tree& tree) {
                                   [&](const Rule& rule) { return rule.name == tree.rule; });
   if (found == std::end(table)) throw std::invalid_argument("no rule " + tree.rule);
   if (!found->applicable(tree)) {
-    throw std::invalid_argument(to_string(tree) + " is not " + std::string(found->name) +
+    const bool in_front = found->children.starts_with('(');  // of its arguments, not between them
+    throw std::invalid_argument(to_string(tree) + " is not " + std::string(in_front ? found->name : "") +
                                 std::string(found->children));
   }
   return *found;
@@ -178,7 +180,8 @@ int length_of(const Tree& tree) { return rule_of(tree).length(tree); }
 void check_length(const Tree& tree, int length) {
   const int own = length_of(tree);
   if (own != length && !(rule_of(tree).shorter && length < own && length % 2 == 1))
-    throw std::invalid_argument("tree " + to_string(tree) + " is not one of length " + std::to_string(length));
+    throw std::invalid_argument("tree " + to_string(tree) + " is not one of length " +
+                                std::to_string(length));
 }
 
 Tree first_of(const Tree& tree) { return tree.args.front(); }
