@@ -1,8 +1,8 @@
 // Scalar programs: what a network promises, whatever its form.
 //
 // Read lane by lane, a network of any width is a graph of rounded scalar operations between numbered inputs
-// and outputs. Permutations are only names of lanes and vanish, sign flips become signs, and a product by 1 is
-// its operand. Two networks give the same bits exactly if their graphs are equal, given that addition
+// and outputs. Permutations are only names of lanes and vanish, sign flips become signs, and a product by 1
+// is its operand. Two networks give the same bits exactly if their graphs are equal, given that addition
 // commutes, c*(-v) is -(c*v) and a - b is a + (-b); the sign and payload of NaN excepted. An equal value has
 // an equal number however it was written (hash-consing over all programs of a collection), so that comparing
 // two programs is comparing the numbers of their outputs.
@@ -74,6 +74,7 @@ class Programs {
   Result add(Result a, Result b, Precision precision);
   Result mul(double constant, Result a, Precision precision);
   std::uint64_t hash(const Operation& operation) const;
+  std::string name(Result r, const Sequence<int>& names) const;
   std::string line(const Operation& operation, const Sequence<int>& names) const;
 
   Equality equality_;
@@ -83,6 +84,7 @@ class Programs {
 };
 
 /// Throws, by the names of the two and of the first output that differs, if the programs are not equal.
-void check_same(const Program& one, const std::string& name, const Program& other, const std::string& other_name);
+void check_same(const Program& one, const std::string& name, const Program& other,
+                const std::string& other_name);
 
 }  // namespace xfm::gen
