@@ -4,6 +4,8 @@
 //   b[q] = exp(-2 pi i g^-q/N),  B[r] = (1/M) sum_q b[q] exp(-2 pi i q r/M).
 // Since g^(M/2) = -1, B[M-r] is conj(B[r]) for even r and -conj(B[r]) for odd r: the even bins of the
 // spectrum make the real parts of the outputs and the odd bins their imaginary parts, and the two never meet.
+#include <stdexcept>
+
 #include "gen/algorithms/transform.h"
 #include "gen/math/number.h"
 
@@ -35,6 +37,8 @@ Points from_bins(int length, Rounding rounding, Make make, const Points& bins) {
 // The transforms back are two of length M/2, a plain one and a skew one, both networks transposed.
 Points Transform::rader_by_halves(const Tree& tree, const Points& x, int /*instance*/) const {
   const auto [root, there, back, skew_back] = rader_arguments(tree);
+  if (skew_back == nullptr)
+    throw std::invalid_argument(to_string(tree) + " is no tree for sequences of values");
   const int g = *root, n = x.size(), m = n - 1, h = m / 2;
   const Points a = run(*there, permuted(x, g));
 

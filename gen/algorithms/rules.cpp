@@ -52,17 +52,17 @@ bool rader_shape(const Tree& tree) {
   return tree.args.size() >= 1 && tree.args.size() <= 4 && is_prime(rader_length(tree)) &&
          (tree.args.size() == 1 || tree.args[0].is_number());
 }
-// The longest odd length whose chirp a convolution of that many points serves.
-int chirp_length(const Tree& tree) { return (length_of(tree.args[0]) + 1) / 2; }
+// The longest odd N for which a convolution of L >= 2N-1 points serves.
+int chirp_length(const Tree& tree) { return (length_of(tree.args[0]) - 1) / 2 | 1; }
 
 using T = Transform;
 using L = LineTransform;
 
 // clang-format off
 const Rule table[] = {
-  {"",     "a number", is_positive, number, false, &T::block, false, {}, {},
+  {"",     "a number above 0", is_positive, number, false, &T::block, false, {}, {},
    "the block of that length", "Winograd 1978"},
-  {"D",    "(n[, order of the bins])", odd_block, first_number, false, &T::block, false, {}, {},
+  {"D",    "(n[, order of the bins]), n odd", odd_block, first_number, false, &T::block, false, {}, {},
    "X[k], X[n-k] = sum of cos (x[j] + x[n-j]) -+ i sum of sin (x[j] - x[n-j])", "Singleton 1969"},
   {",",    "2,2", two_twos, product, false, &T::block, false, {}, {},
    "two stages of two", "Cooley and Tukey 1965"},
@@ -98,7 +98,8 @@ const Rule& rule_of(const Tree& tree) {
                                   [&](const Rule& rule) { return rule.name == tree.rule; });
   if (found == std::end(table)) throw std::invalid_argument("no rule " + tree.rule);
   if (!found->applicable(tree)) {
-    throw std::invalid_argument(to_string(tree) + " is not " + std::string(found->name) +
+    const bool in_front = found->children.starts_with('(');  // of its arguments, not between them
+    throw std::invalid_argument(to_string(tree) + " is not " + std::string(in_front ? found->name : "") +
                                 std::string(found->children));
   }
   return *found;

@@ -174,14 +174,16 @@ std::uint64_t Programs::digest(const Program& program) const {
   return hash;
 }
 
+std::string Programs::name(Result r, const Sequence<int>& names) const {
+  const Operation& of = operations_[r.operation];
+  const std::string plain = of.kind == Kind::input  ? fmt::format("x{}", of.input)
+                            : of.kind == Kind::zero ? "0"
+                                                    : fmt::format("t{}", names[r.operation]);
+  return (r.negative ? "-" : "") + plain;
+}
+
 std::string Programs::line(const Operation& operation, const Sequence<int>& names) const {
-  const auto operand = [&](Result r) {
-    const Operation& of = operations_[r.operation];
-    const std::string name = of.kind == Kind::input  ? fmt::format("x{}", of.input)
-                             : of.kind == Kind::zero ? "0"
-                                                     : fmt::format("t{}", names[r.operation]);
-    return (r.negative ? "-" : "") + name;
-  };
+  const auto operand = [&](Result r) { return name(r, names); };
   switch (operation.kind) {
     case Kind::add: {
       // A plain operand first, so that a difference reads as one.
@@ -220,9 +222,7 @@ std::string Programs::text(const Program& program) const {
     const Result r = program[k];
     if (r.operation < 0) continue;
     write(write, r.operation);
-    const bool zero = is_zero(r);
-    text += fmt::format("y{} = {}{}\n", k, r.negative ? "-" : "",
-                        zero ? "0" : fmt::format("t{}", names[r.operation]));
+    text += fmt::format("y{} = {}\n", k, name(r, names));
   }
   return text;
 }

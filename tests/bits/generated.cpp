@@ -13,8 +13,8 @@ namespace {
 gen::Kernel make(const catalogue::Kernel& kernel) {
   for (const Family& family : families()) {
     if (family.name != kernel.family || family.by_hand()) continue;
-    for (const gen::ElementType& type : family.types) {
-      if (type.suffix() == kernel.type) return family.make(kernel.length, type.precision, "");
+    for (const gen::ElementType& type : family.types()) {
+      if (type.suffix() == kernel.type) return family.make(kernel.length, type.precision);
     }
   }
   throw std::logic_error(std::string("no family makes ") + kernel.name);

@@ -32,7 +32,7 @@ Array interpret(const gen::Kernel& kernel, const Array& src, double factor) {
 TEST_P(Interpreted, EqualsTheKernel) {
   constexpr int rounds = 3;
   const gen::Kernel& made = generated(kernel());
-  ASSERT_EQ(made.name, kernel().name);
+  ASSERT_EQ(made.name(), kernel().name);
   ASSERT_EQ(made.tree, kernel().tree);
   for (const Data& data : all_data()) {
     for (int round = 0; round < rounds; ++round) {

@@ -3,23 +3,13 @@
 
 #include <gtest/gtest.h>
 
-#include <stdexcept>
-
-#include "src/dft/recipe/dft.h"
+#include "gen/network/liveness.h"
 #include "tests/generator/small_networks.h"
 
 namespace xfm::gen {
 namespace {
 
-template <class Call>
-std::string error_of(Call call) {
-  try {
-    call();
-    return "no error";
-  } catch (const std::exception& error) {
-    return error.what();
-  }
-}
+using test::error_of;
 
 TEST(Count, LivingOperations) {
   Network network(1);
@@ -42,12 +32,13 @@ TEST(Count, PairsCountTwice) {
   Network network(2);
   const Value x = network.load({0, 1}), y = network.load({2, 3});
   test::store(network,
-              network.mul(constant("c", 3), x) + network.flip_signs(network.exchange(y), {1, 0, 0, 0}), 0);
+              network.mul(constant("c", 3), x) + network.flip_signs(test::with_parts_exchanged(y), {1, 0}),
+              0);
   const Counts counts = count(network);
   EXPECT_EQ(counts.adds, 2);
   EXPECT_EQ(counts.mults, 2);
   EXPECT_EQ(counts.add_nodes, 1);
-  EXPECT_EQ(counts.exchanges, 1);
+  EXPECT_EQ(counts.permutations, 1);
 }
 
 // One lane of the sum is idle, two of the product are trivial.
@@ -91,7 +82,7 @@ std::unique_ptr<Network> butterfly(const Constant& last) {
   return network;
 }
 
-const Definition two_points = [](const std::vector<Wide>& src, std::vector<Wide>& dst) {
+const Definition two_points = [](const Sequence<Wide>& src, Sequence<Wide>& dst) {
   dst = {src[0] + src[1], src[0] - src[1]};
 };
 
@@ -120,18 +111,6 @@ TEST(CheckMemory, EveryInputOnceAndEveryOutputOnce) {
   Network twice(2);
   test::store(twice, twice.load({0, 1}) + twice.load({1, 2}), 0);
   EXPECT_EQ(error(twice, 3, 2), "N=2: scalar 1 is read 2 times");
-}
-
-TEST(MakeKernel, TriesOtherTreesOfTheSameLength) {
-  const auto make = [](const std::string& tree) {
-    return dft::make_kernel(9, Precision::binary64, dft::Direction::forward, tree);
-  };
-  const Kernel dear = make("D(9)");
-  EXPECT_EQ(dear.tree, "D(9)");
-  EXPECT_GT(count(*dear.network).mults, dear.mults) << "another tree may cost more than the row";
-  EXPECT_LE(count(*make("").network).mults, dear.mults);
-  for (const std::string wrong : {"2,2", "CT(3,4)", "D(11)"})
-    EXPECT_NE(error_of([&] { make(wrong); }).find(wrong), std::string::npos) << wrong;
 }
 
 }  // namespace

@@ -30,7 +30,7 @@ TEST_F(ComplexTest, TurnsAreFree) {
     for (int i = 0; i < quarter; ++i) expected = -times_i(expected);
     EXPECT_TRUE(same(root_of_unity(turn(quarter, 4)) * z, expected)) << quarter << " quarters";
   }
-  EXPECT_EQ(network.nodes().size(), 3U);
+  EXPECT_EQ(network.nodes().size(), 3);
 }
 
 TEST_F(ComplexTest, AbsentHalvesCostNothing) {
@@ -53,7 +53,7 @@ TEST_F(ComplexTest, EighthsShareProducts) {
 TEST_F(ComplexTest, Product) {
   const ComplexConstant w{constant("three", 3), constant("minus five", -5)};
   const Complex product = w * z;
-  const std::vector<double> src = {2, 7, 0};
+  const Sequence<double> src = {2, 7, 0};
   EXPECT_EQ(test::lanes_of(network, product.p, src)[0], 3 * 2 + 5 * 7);
   EXPECT_EQ(test::lanes_of(network, product.q, src)[0], 3 * 7 - 5 * 2);
 }

@@ -95,6 +95,21 @@ TEST(Constant, Signs) {
   EXPECT_EQ(constant("eleven", 11).name, "eleven");
 }
 
+TEST(Constant, ProductsHaveOneNameInAnyOrder) {
+  const Constant a = cosine(turn(1, 5)), b = sine(turn(1, 7)), c = constant("1/12", Wide(1) / 12);
+  const Constant product = a * (b * c);
+  for (const Constant& other : {(a * b) * c, c * (a * b), (c * b) * a, (b * a) * c, b * (c * a)}) {
+    EXPECT_EQ(other, product);
+    EXPECT_LT(static_cast<double>(wide_abs(other.value - product.value)), 1e-33);
+  }
+  EXPECT_EQ(-a * b, -(a * b));
+  EXPECT_EQ(-a * -b, a * b);
+  EXPECT_NE(a * a, a);
+  EXPECT_EQ(a * (a * b), (b * a) * a);
+  EXPECT_EQ(a * cosine(turn(0, 1)), a);
+  EXPECT_TRUE((a * cosine(turn(1, 4))).is_zero());
+}
+
 TEST(Constant, RootOfUnityIsForward) {
   const ComplexConstant w = root_of_unity(turn(1, 4));
   EXPECT_TRUE(w.re.is_zero());

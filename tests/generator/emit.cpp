@@ -39,18 +39,18 @@ TEST(Literal, IsAShortHexadecimalFloat) {
 
 std::vector<Kernel> kernels_of(const Family& family, int length) {
   std::vector<Kernel> kernels;
-  for (const ElementType& type : family.types) kernels.push_back(family.make(length, type.precision, ""));
+  for (const ElementType& type : family.types()) kernels.push_back(family.make(length, type.precision));
   return kernels;
 }
 
 TEST(EmitFile, IsRepeatable) {
   for (const Family& family : families()) {
     if (family.by_hand()) continue;
-    for (const int length : {family.lengths.front(), family.lengths[family.lengths.size() / 2]}) {
+    for (const int length : {family.lowest, (family.lowest + family.highest) / 2}) {
       SharedConstants first, second;
-      ASSERT_EQ(emit_file(kernels_of(family, length), family.vocabulary, first),
-                emit_file(kernels_of(family, length), family.vocabulary, second));
-      ASSERT_EQ(first.definitions("v.h"), second.definitions("v.h"));
+      ASSERT_EQ(emit_file(kernels_of(family, length), baseline(), first),
+                emit_file(kernels_of(family, length), baseline(), second));
+      ASSERT_EQ(first.definitions(baseline()), second.definitions(baseline()));
     }
   }
 }
@@ -58,13 +58,13 @@ TEST(EmitFile, IsRepeatable) {
 TEST(EmitFile, NamesTheRowAndTheCosts) {
   for (const Family& family : families()) {
     if (family.by_hand()) continue;
-    const std::vector<Kernel> kernels = kernels_of(family, family.lengths.back());
+    const std::vector<Kernel> kernels = kernels_of(family, family.highest);
     SharedConstants shared;
-    const std::string text = emit_file(kernels, family.vocabulary, shared);
+    const std::string text = emit_file(kernels, baseline(), shared);
     for (const Kernel& kernel : kernels) {
       const std::string row =
           "(row: " + std::to_string(kernel.adds) + " and " + std::to_string(kernel.mults) + ")";
-      for (const std::string& part : {kernel.name + ": " + kernel.tree, row, kernel.name + "(const "})
+      for (const std::string& part : {kernel.name() + ": " + kernel.tree, row, kernel.name() + "(const "})
         EXPECT_NE(text.find(part), std::string::npos) << part;
     }
     EXPECT_NE(text.find("Written by xfmgen"), std::string::npos);
@@ -73,15 +73,14 @@ TEST(EmitFile, NamesTheRowAndTheCosts) {
 
 TEST(SharedConstants, OneNameHasOneValue) {
   const Family& family = families().front();
-  const Kernel narrow = family.make(8, Precision::binary32, ""),
-               wide = family.make(8, Precision::binary64, "");
+  const Kernel narrow = family.make(8, Precision::binary32), wide = family.make(8, Precision::binary64);
   SharedConstants shared;
   const std::string name = shared.use(constant("c", 3), wide);
   EXPECT_EQ(shared.use(constant("c", 3), wide), name);
   EXPECT_NE(shared.use(constant("c", 3), narrow), name)
       << "four lanes and two lanes need different constants";
   EXPECT_THROW(shared.use(constant("c", 4), wide), std::logic_error);
-  const std::string text = shared.definitions("v.h");
+  const std::string text = shared.definitions(baseline());
   EXPECT_EQ(text.find(name), text.rfind(name)) << "defined twice";
 }
 

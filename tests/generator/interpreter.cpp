@@ -9,7 +9,7 @@ namespace xfm::gen {
 namespace {
 
 template <class T>
-std::vector<T> run(const Network& network, const std::vector<T>& src, std::size_t written) {
+Sequence<T> run(const Network& network, const Sequence<T>& src, int written) {
   return test::evaluate<T>(network, src, written);
 }
 
@@ -23,8 +23,8 @@ TEST(Evaluate, OneRoundingAnOperation) {
   const double x64 = 1.7, y64 = 0x1.0000000000001p-30, third64 = 1.0 / 3.0;
   const float product32 = third32 * x32;
   const double product64 = third64 * x64;
-  EXPECT_EQ(run<float>(network, {x32, y32}, 2), (std::vector<float>{product32 + y32, x32 - y32}));
-  EXPECT_EQ(run<double>(network, {x64, y64}, 2), (std::vector<double>{product64 + y64, x64 - y64}));
+  EXPECT_EQ(run<float>(network, {x32, y32}, 2), (Sequence<float>{product32 + y32, x32 - y32}));
+  EXPECT_EQ(run<double>(network, {x64, y64}, 2), (Sequence<double>{product64 + y64, x64 - y64}));
   EXPECT_TRUE(run<Wide>(network, {1, 0}, 2)[0] == Wide(1) / 3);
 }
 
@@ -45,26 +45,26 @@ TEST(Evaluate, LinearCombinationsRoundOnce) {
 
 TEST(Evaluate, Lanes) {
   Network network(4);
-  const Value a = network.load({0, 1, 2, 3}), b = network.load({4, 5});
-  test::store(network, network.shuffle(a, b, {3, 0, 5, 4}), 0);
+  const Value a = network.load({0, 1, 2, 3}), b = network.load({4, 5, -1, -1});
+  test::store(network, network.permute(a, b, {3, 0, 5, 4}), 0);
   test::store(network, network.flip_signs(a, {1, 0, 1, 0}), 4);
   test::store(network, b, 8);
   const Constant two = constant("two", 2), zero{"0", 0}, one{"1", 1};
   test::store(network, network.mul(Sequence<Constant>{two, zero, -one, one}, a), 12);
   EXPECT_EQ(run<float>(network, {1, 2, 3, 4, 5, 6}, 16),
-            (std::vector<float>{4, 1, 6, 5, -1, 2, -3, 4, 5, 6, 0, 0, 2, 0, -3, 4}));
+            (Sequence<float>{4, 1, 6, 5, -1, 2, -3, 4, 5, 6, 0, 0, 2, 0, -3, 4}));
 }
 
 TEST(Evaluate, Pairs) {
   Network network(2);
   const Value a = network.load({0, 1});
-  test::store(network, network.flip_signs(network.exchange(a), {1, 0}), 0);
-  EXPECT_EQ(run<double>(network, {3, 4}, 2), (std::vector<double>{-4, 3})) << "i times 3 + 4i";
+  test::store(network, network.flip_signs(test::with_parts_exchanged(a), {1, 0}), 0);
+  EXPECT_EQ(run<double>(network, {3, 4}, 2), (Sequence<double>{-4, 3})) << "i times 3 + 4i";
 }
 
 TEST(Evaluate, FactorComesLast) {
   Network network(1);
-  network.store(network.factor(network.load(0) + network.load(1)), {1, -1, -1, -1});
+  network.store(network.factor(network.load(0) + network.load(1)), 1);
   const float src[] = {0.1F, 0.2F};
   float dst[] = {7, 7};
   evaluate(network, src, dst, 0.3F);

@@ -12,16 +12,16 @@ namespace {
 
 class Flips : public testing::Test {
  protected:
-  Value exchanged(Value v) { return network.shuffle(v, v, {1, 0, 7, 6}); }
+  Value exchanged(Value v) { return network.permute(v, v, {1, 0, 7, 6}); }
   Value flipped(Value v) { return network.flip_signs(v, {1, 0, 1, 0}); }
 
   /// The number of flips left. The outputs must be those of the network, bit for bit.
-  int left(std::size_t written) const {
+  int left(int written) const {
     const auto result = absorb_sign_flips(network);
-    const std::vector<float> src = {0.1F, -0.7F, 1.3F, 0, 2.9F, -3.1F, -0.0F, 5.7F};
+    const Sequence<float> src = {0.1F, -0.7F, 1.3F, 0, 2.9F, -3.1F, -0.0F, 5.7F};
     const auto before = test::evaluate<float>(network, src, written),
                after = test::evaluate<float>(*result, src, written);
-    for (std::size_t i = 0; i < written; ++i) {
+    for (int i = 0; i < written; ++i) {
       EXPECT_EQ(before[i], after[i]) << "scalar " << i;
       EXPECT_EQ(std::signbit(before[i]), std::signbit(after[i])) << "scalar " << i;
     }
@@ -69,9 +69,19 @@ TEST_F(Flips, StayWhereTheProductIsUsedBesides) {
 }
 
 TEST_F(Flips, StayWhereALaneGoesToTwoSigns) {
-  const Value product = network.mul(c, x), spread = network.shuffle(product, product, {0, 0, 4, 4});
+  const Value product = network.mul(c, x), spread = network.permute(product, product, {0, 0, 4, 4});
   test::store(network, y + flipped(spread), 0);
   EXPECT_EQ(left(4), 1);
+}
+
+TEST_F(Flips, ZerosStayZeros) {
+  test::store(network, y + flipped(network.mul(c, x)), 0);
+  network.store_zero(4);
+  const auto result = absorb_sign_flips(network);
+  ASSERT_EQ(result->stores().size(), 2);
+  EXPECT_LT(result->stores()[1].node, 0);
+  EXPECT_EQ(result->stores()[1].lanes, PerLane{4});
+  EXPECT_EQ(left(5), 0);
 }
 
 }  // namespace

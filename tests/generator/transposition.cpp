@@ -12,12 +12,11 @@ namespace xfm::gen {
 namespace {
 
 /// How the outputs depend on the inputs: a row of coefficients for each output, by unit vectors.
-std::vector<std::vector<double>> matrix(Network& network, const std::vector<Value>& outputs,
-                                        std::size_t inputs) {
-  std::vector<std::vector<double>> rows(outputs.size(), std::vector<double>(inputs));
-  for (std::size_t k = 0; k < outputs.size(); ++k) {
-    for (std::size_t n = 0; n < inputs; ++n) {
-      std::vector<double> unit(inputs);
+Sequence<Sequence<double>> matrix(Network& network, const Sequence<Value>& outputs, int inputs) {
+  Sequence<Sequence<double>> rows(outputs.size(), Sequence<double>(inputs));
+  for (int k = 0; k < outputs.size(); ++k) {
+    for (int n = 0; n < inputs; ++n) {
+      Sequence<double> unit(inputs);
       unit[n] = 1;
       if (!outputs[k].absent()) rows[k][n] = test::lanes_of(network, outputs[k], unit)[0];
     }
@@ -28,35 +27,34 @@ std::vector<std::vector<double>> matrix(Network& network, const std::vector<Valu
 // Integers throughout, so that the matrices are exact.
 TEST(Transposition, OfRandomNetworks) {
   std::mt19937 random(1);
-  const auto below = [&](std::size_t n) { return random() % n; };
-  constexpr std::size_t inputs = 4, outputs = 3;
+  const auto below = [&](int n) { return static_cast<int>(random() % static_cast<unsigned>(n)); };
+  constexpr int inputs = 4, outputs = 3;
   for (int round = 0; round < 100; ++round) {
     Network network(1);
-    std::vector<Value> values;
-    for (std::size_t n = 0; n < inputs; ++n) values.push_back(network.load(static_cast<int>(n)));
-    for (std::size_t n = 1; n < inputs; ++n) values.push_back(values.back() + values[n]);
+    Sequence<Value> values;
+    for (int n = 0; n < inputs; ++n) values.push_back(network.load(n));
+    for (int n = 1; n < inputs; ++n) values.push_back(values.back() + values[n]);
     for (int n = 0; n < 12; ++n) {
       const Value a = values[below(values.size())], b = values[below(values.size())];
-      const std::size_t op = below(3);
+      const int op = below(3);
       values.push_back(op == 0 ? a + b : op == 1 ? a - b : network.mul(constant("two", 2), a));
     }
-    const std::vector<Value> chosen = {values.back(), values[inputs + 2], -values[values.size() - 2]};
+    const Sequence<Value> chosen = {values.back(), values[inputs + 2], -values[values.size() - 2]};
 
     Network transposed(1);
     Transposition transposition(network);
-    for (std::size_t k = 0; k < outputs; ++k)
-      transposition.send(
-          chosen[k], {transposed.load(static_cast<int>(k)), transposed.load(static_cast<int>(outputs + k))});
-    std::vector<Value> arrived[2];
+    for (int k = 0; k < outputs; ++k)
+      transposition.send(chosen[k], {transposed.load(k), transposed.load(outputs + k)});
+    Sequence<Value> arrived[2];
     for (const Complex& z : transposition.run(inputs)) {
       arrived[0].push_back(z.p);
       arrived[1].push_back(z.q);
     }
     const auto forward = matrix(network, chosen, inputs);
-    for (const std::size_t half : {0U, 1U}) {
+    for (const int half : {0, 1}) {
       const auto backward = matrix(transposed, arrived[half], 2 * outputs);
-      for (std::size_t n = 0; n < inputs; ++n) {
-        for (std::size_t k = 0; k < outputs; ++k) {
+      for (int n = 0; n < inputs; ++n) {
+        for (int k = 0; k < outputs; ++k) {
           ASSERT_EQ(backward[n][half * outputs + k], forward[k][n]) << "round " << round;
           ASSERT_EQ(backward[n][(1 - half) * outputs + k], 0) << "the halves mix in round " << round;
         }
@@ -73,7 +71,7 @@ TEST(Transposition, AbsentOutputsSendNothing) {
   transposition.send(Value{}, {transposed.load(0), {}});
   transposition.send(x, {transposed.load(1), {}});
   const auto arrived = transposition.run(2);
-  ASSERT_EQ(arrived.size(), 2U);
+  ASSERT_EQ(arrived.size(), 2);
   EXPECT_EQ(arrived[0].p, transposed.load(1));
   EXPECT_TRUE(arrived[0].q.absent());
   EXPECT_TRUE(arrived[1].p.absent());
@@ -81,7 +79,7 @@ TEST(Transposition, AbsentOutputsSendNothing) {
 
 TEST(Transposition, OnlyOfScalarNetworks) {
   Network network(2);
-  const Value v = network.exchange(network.load({0, 1}));
+  const Value v = network.flip_signs(network.load({0, 1}), {1, 0});
   Network transposed(2);
   Transposition transposition(network);
   transposition.send(v, {transposed.load({0, 1}), {}});

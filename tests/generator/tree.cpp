@@ -20,9 +20,9 @@ TEST(Tree, Shape) {
   const Tree tree = parse_tree("PFA*(SR(8),3)");
   EXPECT_FALSE(tree.is_number());
   EXPECT_EQ(tree.rule, "PFA*");
-  ASSERT_EQ(tree.args.size(), 2U);
+  ASSERT_EQ(tree.args.size(), 2);
   EXPECT_EQ(tree.args[0].rule, "SR");
-  ASSERT_EQ(tree.args[0].args.size(), 1U);
+  ASSERT_EQ(tree.args[0].args.size(), 1);
   EXPECT_EQ(tree.args[0].args[0].number, 8);
   EXPECT_TRUE(tree.args[1].is_number());
   EXPECT_EQ(tree.args[1].number, 3);
@@ -31,19 +31,23 @@ TEST(Tree, Shape) {
 TEST(Tree, StagesWithoutARule) {
   const Tree tree = parse_tree("2,2");
   EXPECT_EQ(tree.rule, ",");
-  EXPECT_EQ(tree.args.size(), 2U);
+  EXPECT_EQ(tree.args.size(), 2);
 }
 
 TEST(Tree, PrintsWhatItParsed) {
-  for (const std::string text :
-       {"7", "2,2", "SR(16)", "PFA(2,5,3)", "CT(CT(4,2),CT(4,2))", "PFA*(4,CT(3,3))", "RS(PFA*(SR(8),5))",
-        "B(PFA(CT(4,CT(4,2)),3),PFA(3,CT(4,CT(4,2))))", "4,CT(2,2),4"})
+  for (const std::string text : {"7", "2,2", "SR(16)", "PFA(2,5,3)", "CT(CT(4,2),CT(4,2))", "PFA*(4,CT(3,3))",
+                                 "RS(PFA*(SR(8),5))", "B(PFA(CT(4,CT(4,2)),3),PFA(3,CT(4,CT(4,2))))"})
     EXPECT_EQ(to_string(parse_tree(text)), text);
 }
 
 TEST(Tree, SpacesDoNotCount) {
   EXPECT_EQ(to_string(parse_tree(" R ( 2 , 12 ) ")), "R(2,12)");
   EXPECT_EQ(to_string(parse_tree("2 ,2")), "2,2");
+}
+
+TEST(Tree, RunsBindAsWritten) {
+  for (const std::string text : {"2 x 3 * 3", "(2 x 3) * 3", "(2 * 2) * 2", "2 * (2 * 2)", "F(3 x 2,3 * 2)"})
+    EXPECT_EQ(to_string(parse_tree(text)), text);
 }
 
 TEST(Tree, ErrorsNameTheTextAndThePlace) {

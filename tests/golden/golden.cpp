@@ -1,29 +1,38 @@
 // The kernels of this build against the record of them. XFM_GOLDEN_UPDATE=1 renews the record first.
+#include <fmt/format.h>
 #include <gtest/gtest.h>
 
 #include <cstdlib>
 #include <map>
 #include <set>
 
-#include "gen/network/check.h"
+#include "gen/network/count.h"
 #include "tests/bits/generated.h"
 #include "tests/golden/digest.h"
 #include "tests/golden/table.h"
+#include "tools/promises.h"
 
 namespace xfm::test {
 namespace {
 
-const Row headings = {"kernel",   "tree",      "adds",  "mults",  "packed_adds", "packed_mults",
-                      "shuffles", "exchanges", "loads", "stores", "digest"};
+const Row headings = {"kernel",       "tree",  "adds",   "mults",   "packed_adds", "packed_mults",
+                      "permutations", "loads", "stores", "program", "digest"};
+
+std::string program_digest(const gen::Kernel& kernel) {
+  gen::Programs programs(gen::Equality::bits);
+  return fmt::format("{:016x}", programs.digest(program_of(kernel, programs)));
+}
 
 /// Columns between the tree and the digest of the outputs, which comes last: from the network, or, where a
 /// kernel is written by hand, from the catalogue as far as it goes.
 std::vector<std::string> of_network(const catalogue::Kernel& kernel) {
-  const gen::Counts counts = gen::count(*generated(kernel).network);
+  const gen::Kernel& made = generated(kernel);
+  const gen::Counts counts = gen::count(*made.network);
   std::vector<std::string> cells;
-  for (const int number : {counts.adds, counts.mults, counts.add_nodes, counts.mult_nodes, counts.shuffles,
-                           counts.exchanges, counts.loads, counts.stores})
+  for (const int number : {counts.adds, counts.mults, counts.add_nodes, counts.mult_nodes,
+                           counts.permutations, counts.loads, counts.stores})
     cells.push_back(std::to_string(number));
+  cells.push_back(program_digest(made));
   return cells;
 }
 

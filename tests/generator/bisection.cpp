@@ -1,0 +1,34 @@
+// The order of bisection holds every node, behind its operands.
+#include "gen/order/bisection.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "tests/generator/drafts.h"
+
+namespace xfm::gen {
+namespace {
+
+TEST(Bisection, OrdersAllNodesAfterTheirOperands) {
+  for (unsigned seed = 1; seed <= 50; ++seed) {
+    const Draft draft = test::random_draft(seed);
+    const Network& network = *draft.network;
+    const Sequence<int> used = uses(draft);
+    Sequence<NodeId> nodes;
+    for (NodeId id = 0; id < used.size(); ++id)
+      if (used[id] > 0 && network.node(id).op != Op::load) nodes.push_back(id);
+    Sequence<NodeId> order = bisected(network, nodes);
+    Sequence<bool> done(used.size());
+    for (const NodeId id : order) {
+      for (const NodeId operand : operands(network.node(id)))
+        EXPECT_TRUE(network.node(operand).op == Op::load || done[operand]) << seed;
+      done[id] = true;
+    }
+    std::ranges::sort(order);
+    EXPECT_EQ(order, nodes) << seed;
+  }
+}
+
+}  // namespace
+}  // namespace xfm::gen

@@ -1,0 +1,70 @@
+// Targets as data, which the build reads too.
+#include <gtest/gtest.h>
+
+#include <set>
+#include <stdexcept>
+
+#include "gen/targets/target.h"
+
+namespace xfm::gen {
+namespace {
+
+TEST(Target, TheBaseline) {
+  const Target& target = baseline();
+  EXPECT_EQ(target.name, "x86-64");
+  EXPECT_EQ(target.lanes(Precision::binary32), 4);
+  EXPECT_EQ(target.lanes(Precision::binary64), 2);
+  EXPECT_EQ(target.registers, 16);
+}
+
+TEST(Target, IsFoundByItsName) {
+  EXPECT_EQ(&target("x86-64"), &baseline());
+  for (const Target& known : targets()) EXPECT_EQ(&target(known.name), &known);
+  try {
+    target("vax");
+    FAIL() << "there is a target vax";
+  } catch (const std::out_of_range& error) {
+    EXPECT_STREQ(error.what(), "no target vax");
+  }
+}
+
+TEST(Target, TheBuildReadsTheSameDescription) {
+  EXPECT_EQ(baseline().name, XFM_BASELINE_NAME);
+  EXPECT_EQ(baseline().compile_flags, XFM_BASELINE_COMPILE_FLAGS);
+  EXPECT_EQ(targets().size(), static_cast<std::size_t>(XFM_TARGET_COUNT));
+}
+
+TEST(Target, PermutationsAllowTheirIdlePicks) {
+  for (const Target& target : targets()) {
+    std::set<int> widths;
+    for (const Permutation& permutation : target.permutations) {
+      const int width = permutation.idle.size();
+      widths.insert(width);
+      ASSERT_EQ(permutation.sources.size(), width) << permutation.name;
+      EXPECT_GE(permutation.cost, 1) << permutation.name;
+      int choices = 1;
+      for (int l = 0; l < width; ++l) {
+        EXPECT_TRUE(permutation.allows(l, permutation.idle[l])) << permutation.name << ", lane " << l;
+        int picks = 0;
+        for (int pick = 0; pick < 64; ++pick) {
+          if (!permutation.allows(l, pick)) continue;
+          EXPECT_LT(pick, 2 * width) << permutation.name << ", lane " << l;
+          ++picks;
+        }
+        choices *= picks;
+      }
+      EXPECT_EQ(permutation.fixed(), choices == 1) << permutation.name;
+    }
+    EXPECT_EQ(widths, (std::set<int>{target.lanes(Precision::binary64), target.lanes(Precision::binary32)}));
+  }
+}
+
+TEST(Target, PermutationsRiseInCost) {
+  for (const Target& target : targets()) {
+    for (std::size_t p = 1; p < target.permutations.size(); ++p)
+      EXPECT_LE(target.permutations[p - 1].cost, target.permutations[p].cost) << target.name;
+  }
+}
+
+}  // namespace
+}  // namespace xfm::gen
