@@ -10,7 +10,7 @@ target_compile_options(xfm_options INTERFACE
   $<$<BOOL:${PROJECT_IS_TOP_LEVEL}>:-Werror>)
 
 # Kernels: products and sums must not fuse, no option that changes values may be inherited, and scalar kernels must stay
-# scalar, so the vectorisers are off. What the target's own flags say holds whatever the caller's flags are.
+# scalar, so the vectorisers are off. The target's flags override the caller's.
 function(xfm_add_kernel_options name target)
   xfm_target_field(${target} compile_flags flags)
   xfm_target_field(${target} vocabulary vocabulary)
@@ -19,5 +19,5 @@ function(xfm_add_kernel_options name target)
   target_compile_options(${name} INTERFACE
     -ffp-contract=off -fno-fast-math -fno-tree-vectorize -fno-tree-slp-vectorize ${flags} -fvisibility=hidden
     $<$<CXX_COMPILER_ID:GNU>:-fno-reorder-blocks-and-partition>)  # a kernel is one piece, with its entry tests
-  target_compile_definitions(${name} INTERFACE XFM_VOCABULARY="${vocabulary}")  # what src/simd/simd.h hands on
+  target_compile_definitions(${name} INTERFACE XFM_VOCABULARY="${vocabulary}")  # what src/simd/simd.h includes
 endfunction()

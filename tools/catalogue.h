@@ -14,13 +14,13 @@ enum class Precision { binary32, binary64 };
 /// Which of the scale flags carry 1/N: the forward ones, the inverse ones, or both alike.
 enum class Scaling { forward, inverse, symmetric };
 
-/// Any fixed-length kernel, called through one shape.
+/// Any fixed-length kernel, through one signature.
 using Call = xfmStatus (*)(const void* src, void* dst, std::int32_t flag);
 
-/// Any generic function, called through one shape.
+/// Any generic function, through one signature.
 using GenericCall = xfmStatus (*)(const void* src, void* dst, std::int32_t length, std::int32_t flag);
 
-/// Kernels and generic functions of families with a work buffer, called with it. Through the shapes above
+/// Kernels and generic functions of families with a work buffer, called with it. Through the signatures above
 /// they get a null buffer.
 using BufferedCall = xfmStatus (*)(const void* src, void* dst, std::int32_t flag, void* buffer);
 using BufferedGenericCall = xfmStatus (*)(const void* src, void* dst, std::int32_t length, std::int32_t flag,
@@ -32,19 +32,19 @@ struct Kernel {
   const char* type;    ///< suffix of the element type, "32fc"
   Precision precision;
   Scaling scaling;
-  int length;             ///< transform length, or the order of families that count by it
+  int length;             ///< transform length, or the order in families that count by it
   int points;             ///< the N of the factors
   int read;               ///< real scalars read from src
   int written;            ///< real scalars written to dst
-  int exchanges;          ///< lane exchanges that the body must hold exactly, or -1 where none are prescribed
+  int exchanges;          ///< exact number of lane exchanges in the body, or -1 where it is not prescribed
   bool packed;            ///< vector body: has an aligned and an unaligned variant
   bool packed_math;       ///< false where the body must hold no packed arithmetic at all
   bool straight;          ///< no loop and no call
   const char* tree;       ///< breakdown
   int adds;               ///< bound: real additions without the factor
   int mults;              ///< bound: real multiplications without the factor
-  int add_instructions;   ///< additions and subtractions in a body, as it is written
-  int mult_instructions;  ///< multiplications in a body, the factor's among them
+  int add_instructions;   ///< additions and subtractions in a body as written
+  int mult_instructions;  ///< multiplications in a body, including those by the factor
   int buffer_bytes;       ///< work buffer
   Call call;
   BufferedCall call_with_buffer;  ///< null where the family has none

@@ -10,7 +10,7 @@
 
 namespace xfm {
 
-/// What designs a kernel of a length, by its row or by another tree.
+/// Designs a kernel of a length, by its row or by another tree.
 using Designer = std::function<gen::Design(int length, gen::Precision precision, const std::string& tree,
                                            const gen::Target& target)>;
 
@@ -35,7 +35,7 @@ struct Family {
 
 const std::vector<Family>& families();
 
-/// The exported functions besides: they are declared in the header's hand-written frame.
+/// The other exported functions, which the header's hand-written frame declares.
 const std::vector<std::string>& plain_functions();
 
 }  // namespace xfm

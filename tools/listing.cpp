@@ -128,7 +128,8 @@ std::string generic_functions() {
   return text;
 }
 
-// A register of one complex number exchanges its parts as often as it is joined, and its row says how often.
+// With one complex number per register, each join exchanges the parts once, so the number of permutations is
+// exact.
 std::string catalogue_row(const Family& family, const gen::Kernel& kernel) {
   const gen::Counts counts = count(*kernel.network);
   const bool joined = kernel.network->width() == 2;
@@ -190,7 +191,7 @@ std::string catalogue(const std::string& rows) {
 namespace xfm::catalogue {
 namespace {
 
-// Elements go without their type, so that all kernels have one shape and all generic functions another.
+// Element types are erased, so that all kernels share one signature and all generic functions another.
 template <class T, class... Rest>
 xfmStatus run(xfmStatus (*function)(const T*, T*, Rest...), const void* src, void* dst, Rest... rest) {
   return function(static_cast<const T*>(src), static_cast<T*>(dst), rest...);

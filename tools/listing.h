@@ -16,7 +16,7 @@ std::string export_map();
 /// The generic functions: length to kernel.
 std::string generic_functions();
 
-/// A row of the catalogue (catalogue.h explains the columns), of a generated kernel or of one by hand.
+/// A row of the catalogue (catalogue.h explains the columns), of a generated or a hand-written kernel.
 std::string catalogue_row(const Family& family, const gen::Kernel& kernel);
 std::string catalogue_row(const Family& family, int length, const gen::ElementType& type,
                           const gen::Target& target);

@@ -12,7 +12,7 @@ struct Promise {
   const char *family, *as;
   Equality equality;
   bool parts_exchanged;     ///< real and imaginary parts, of the input and of the output
-  std::vector<int> except;  ///< lengths that promise nothing
+  std::vector<int> except;  ///< lengths without the promise
 };
 
 const std::vector<Promise>& promises() {

@@ -1,4 +1,4 @@
-// What one family promises of another: kernels of a length and precision that are one scalar program.
+// What families promise each other: kernels of one length and precision that are the same scalar program.
 #pragma once
 
 #include <vector>
@@ -7,11 +7,11 @@
 
 namespace xfm {
 
-/// Throws, by the names of two kernels and of the first output that differs, if one of these kernels, which
-/// are those of all families of a length, breaks a promise.
+/// Checks the kernels of all families of one length. Throws at the first broken promise, naming the two
+/// kernels and the first output that differs.
 void check_promises(const std::vector<gen::Kernel>& kernels);
 
-/// The kernel's scalar program in a collection, numbered as the family says.
+/// The kernel's scalar program in a collection, numbered as its family prescribes.
 gen::Program program_of(const gen::Kernel& kernel, gen::Programs& programs);
 
 }  // namespace xfm

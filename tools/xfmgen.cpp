@@ -1,5 +1,5 @@
 // xfmgen: writes the library's kernels and everything that follows from the list of families, and shows what
-// a row of a table comes to.
+// becomes of a table's row.
 #include <fmt/format.h>
 
 #include <CLI/CLI.hpp>
@@ -28,8 +28,8 @@ std::vector<Kernel> kernels_of(const Family& family, int length, const Target& t
   return kernels;
 }
 
-// One file a family and length: a changed row recompiles that file and no other. Length by length, so that
-// the kernels of all families can be compared.
+// One file for each family and length: a changed row recompiles that file and no other. The loop is by
+// length, so that the kernels of all families can be compared.
 void write_all(const std::filesystem::path& out, const Target& target) {
   const auto write = [&](const std::string& name, const std::string& text) {
     xfm::gen::write_if_changed(out / name, text);
@@ -64,7 +64,7 @@ void write_all(const std::filesystem::path& out, const Target& target) {
   write("xfm.map", xfm::export_map());
 }
 
-// The public header stands in the source tree: renewed on demand, and compared by the tests.
+// The public header is part of the source tree: rewritten on demand, and compared by the tests.
 int write_header(const std::filesystem::path& frame, const std::filesystem::path& header, bool check) {
   const std::string text = xfm::public_header(xfm::gen::read_file(frame));
   if (!check) {
@@ -140,7 +140,7 @@ void costs(const Target& target) {
 }
 
 int run(int argc, char** argv) {
-  CLI::App app{"Writes the kernels of xfm, or shows what a row of a table comes to."};
+  CLI::App app{"Writes the kernels of xfm, or shows what becomes of a table's row."};
   std::string out, header, frame, tree, target_name{xfm::gen::baseline().name};
   std::tuple<std::string, int, std::string> shown, program;
   bool check = false, list_costs = false;

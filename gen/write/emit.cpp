@@ -32,7 +32,7 @@ std::string value_type(const Kernel& kernel) {
   return fmt::format("f{}x{}", bits, kernel.network->width());
 }
 
-/// Whether these scalars stand side by side in memory, one for each lane.
+/// Whether these scalars are side by side in memory, one for each lane.
 bool contiguous(std::span<const int> scalars) {
   for (std::size_t l = 0; l < scalars.size(); ++l)
     if (scalars[l] != scalars[0] + static_cast<int>(l)) return false;

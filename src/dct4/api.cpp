@@ -29,7 +29,7 @@ xfmStatus checked_init(State<T>** state, std::int32_t length, void* block) {
   return status;
 }
 
-// Where there is no memory left, init gets a null pointer and refuses it.
+// If no memory is left, init gets a null pointer and rejects it.
 template <class T>
 xfmStatus init_alloc(State<T>** state, std::int32_t length) {
   if (state == nullptr) return xfmStsNullPtr;

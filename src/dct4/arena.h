@@ -7,23 +7,22 @@
 
 namespace xfm::dct4 {
 
-/// The arena is one cell at the start of the block, which points to the next free byte. It has no limit: a
-/// caller must ask for the size first. The block may have any address, and so may the cell; all else is
-/// aligned.
+/// The arena is one cell at the start of the block, which points to the next free byte. It checks no limit:
+/// callers ask for the size first. The block may have any address, and so may the cell; all else is aligned.
 struct __attribute__((packed)) PlanArena {
   unsigned char* top;
 };
 
-/// Objects, list cells and tables stand at multiples of this, as aligned vector loads need.
+/// Objects, list cells and tables are at multiples of this, as aligned vector loads need.
 constexpr std::uint32_t granule = 32;
 
 constexpr std::uint32_t round32(std::uint32_t bytes) { return (bytes + (granule - 1)) & ~(granule - 1); }
 
-/// Makes the block an empty arena. The first object stands 33 to 64 bytes into the block, or up to 95 where
-/// bit 31 of the block's address is set, since the remainder is that of a signed 32-bit number.
+/// Makes the block an empty arena. The first object is 33 to 64 bytes into the block, or up to 95 where bit
+/// 31 of the block's address is set, because the remainder is that of a signed 32-bit number.
 PlanArena* arena_open(void* block);
 
-/// Memory of undetermined content.
+/// Uninitialised memory.
 void* arena_alloc(PlanArena* arena, std::uint32_t bytes);
 
 /// Bookkeeping only: every allocation is matched by one release of the same rounded size, in any order.
@@ -33,7 +32,7 @@ void arena_release(PlanArena* arena, std::uint32_t bytes);
 /// but not its own memory; the other one is init for a stage (0 or a negative status), and evaluate for a
 /// twiddle source.
 struct PlanObject {
-  using Operation = void (*)();  ///< stands for a function type that depends on the object's kind
+  using Operation = void (*)();  ///< cast from a function type that depends on the object's kind
 
   void (*destroy)(PlanObject*);
   std::uint64_t size;  ///< of the whole object before rounding

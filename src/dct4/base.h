@@ -34,7 +34,7 @@ void transform_4(const T* src, T* dst) {
   dst[2] = (b - e) * s - (c + f) * s;
 }
 
-/// The samples of residue t: w(n) stands at 2 r n + t, and at 2 r |n| - 1 - t for negative n.
+/// The samples of residue t: w(n) is at 2 r n + t, and at 2 r |n| - 1 - t for negative n.
 template <class T, int r, int t>
 struct Residue {
   const T* src;

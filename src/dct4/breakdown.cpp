@@ -8,7 +8,7 @@ namespace xfm::dct4 {
 namespace {
 
 /// A sum of bytes in 32 bits, or nothing where the length is refused. The sums of very long lengths wrap
-/// around: a negative one is refused, one that has become positive again is not.
+/// around: a negative sum is refused, one that is positive again is not.
 using Bytes = std::optional<std::uint32_t>;
 
 Bytes sum(std::uint32_t a, std::uint32_t b) {

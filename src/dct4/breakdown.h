@@ -8,7 +8,7 @@
 
 namespace xfm::dct4 {
 
-/// Residues and classes are taken in groups, whose elements stand side by side in tables and work areas. The
+/// Residues and classes are taken in groups, whose elements are side by side in tables and work areas. The
 /// size of a group is part of the plan's format: it is the same on every target, whatever the registers are.
 constexpr std::uint32_t group_bytes = 16;
 template <class T>

@@ -29,7 +29,7 @@ Record* stage_new(PlanArena* arena) {
 
 xfmStatus init_of(PlanObject& object) { return reinterpret_cast<Init>(object.operation)(&object); }
 
-/// Any failure below means that the length cannot be broken down.
+/// Any failure of a child means that the length cannot be broken down.
 xfmStatus init_child(PlanObject& object) { return init_of(object) == xfmStsOk ? xfmStsOk : xfmStsBadSize; }
 
 void append(PlanObject& object, PlanList* owner, PlanList* view) {

@@ -7,7 +7,7 @@
 namespace xfm::dct4 {
 namespace {
 
-/// Where a residue stands in the order of the table.
+/// The place of a residue in the order of the table.
 template <int r>
 constexpr int place_of(int t) {
   int place = 0;
@@ -77,8 +77,8 @@ XFM_INLINE inline void expand_group(const Twisted<T, r>& source, const Out& out)
   }
 }
 
-/// The outputs of L classes q, which may stand at any address: Y(l) to m l + q, ascending with the class; for
-/// negative l as many steps of m down from 2 N - 1 - q, descending.
+/// The outputs of L classes q, at any address: Y(l) to m l + q, ascending with the class; for negative l as
+/// many steps of m down from 2 N - 1 - q, descending.
 template <class T, int r>
 struct Scatter {
   T* ahead;   ///< of l = 0
@@ -122,8 +122,8 @@ struct ToLines {
   }
 };
 
-/// As many groups at a time as fill a line, for outputs that stand so far apart, by powers of two, that they
-/// fall into few sets of the cache: every line of dst is written once.
+/// As many groups at a time as fill a line, for outputs so far apart, by powers of two, that they fall into
+/// few sets of the cache: every line of dst is written once.
 template <class T, int r>
 xfmStatus run_lines(const CombineNode<T>& node, T* dst, const T* work) {
   constexpr int l = lanes_of<Register<T>>;
@@ -147,7 +147,7 @@ xfmStatus run_lines(const CombineNode<T>& node, T* dst, const T* work) {
   return xfmStsOk;
 }
 
-/// From this distance on, in bytes, outputs evict each other from the cache. Only the radix 32 has such
+/// From this distance on, in bytes, outputs evict each other from the cache. Only radix 32 has such
 /// distances.
 constexpr std::size_t far_apart = 2048;
 

@@ -15,7 +15,7 @@ constexpr long double series(int first, long a, long b) {
   for (int k = 1; k < count; ++k)
     terms[k] = -terms[k - 1] * x * x / static_cast<long double>((2 * k + first - 1) * (2 * k + first));
   long double sum = 0;
-  for (int k = count - 1; k >= 0; --k) sum += terms[k];  // the small ones first
+  for (int k = count - 1; k >= 0; --k) sum += terms[k];  // the small terms first
   return sum;
 }
 

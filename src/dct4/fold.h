@@ -3,9 +3,9 @@
 //   Z(q) = sum over n = -m/2 .. m/2 - 1 of w(n) exp(i n (2 q + 1) pi / m).
 //
 // The other classes are conjugates of these. The lengths 2 and 4 are written out, and 8 is made of two of
-// length 4. A longer one falls into its even samples, of half the length, and its samples 4 l + 1 and 4 l +
+// length 4. A longer one splits into its even samples, of half the length, and its samples 4 l + 1 and 4 l +
 // 3, of a quarter each: the split radix (Duhamel and Hollmann 1984), for odd frequencies. Sub-sequences are
-// read where they stand, as w(offset + step l).
+// read in place, as w(offset + step l).
 #pragma once
 
 #include "src/dct4/constants.h"

@@ -61,8 +61,8 @@ xfmStatus fold_batches(const FoldNode& node, T* work, const T* src) {
   return known ? status : fold_batches<T, m>(node, work, src, std::ptrdiff_t{node.part});
 }
 
-// ---- Leaves of a split. Their samples stand so far apart, by powers of two, that most of them fall into a
-// few sets of the cache: a leaf works on a copy, for which every line is read once.
+// ---- Leaves of a split. Their samples are so far apart, by powers of two, that most of them fall into a few
+// sets of the cache: a leaf works on a copy, for which every line is read once.
 
 /// A line for every sample n, those of negative n at n + m.
 template <class T, int m>

@@ -1,5 +1,5 @@
-// Moves of whole cache lines, between memory of policies such as Aligned and Unaligned: in the same order, or
-// last element first.
+// Moves of whole cache lines between two places, each with a policy such as Aligned or Unaligned: in the same
+// order, or last element first.
 #pragma once
 
 #include "src/dct4/stages.h"

@@ -4,8 +4,8 @@
 // Letters, here and in the files that build and run a plan:
 //   N   length; where it is 2^k + 1, quotients such as N / r are truncated
 //   r   outer radix, m = N / r the fold length, c = N / (2 r) the number of spectrum classes
-//   R   product of the radixes above a split; r2 its radix, m2 its inner fold length, c2 its number of
-//   classes L   elements of a group
+//   R   product of the radixes above a split; r2 its radix, m2 its inner fold length, c2 its class count
+//   L   elements of a group
 #pragma once
 
 #include <cstddef>
@@ -17,11 +17,11 @@
 
 namespace xfm::dct4 {
 
-/// Kind of a root that runs a tree; the kinds below are base lengths.
+/// Kind of a root that runs a tree; smaller kinds are base lengths.
 constexpr std::int32_t root_kind_tree = 6;
 /// Kind of a shell or split that was built completely.
 constexpr std::int32_t kind_sound = 1;
-/// Kind of a fold whose length splits; the kinds below are leaves.
+/// Kind of a fold whose length splits; smaller kinds are leaves.
 constexpr std::int32_t fold_kind_split = 7;
 
 /// The root: the state that the caller holds.
@@ -160,7 +160,7 @@ struct OddCombineNode {
   PlanObject* source;          ///< HalfStepSource
 };
 
-// Callers can see the sizes: the size query counts them.
+// The sizes are visible to callers: the size query counts them.
 static_assert(sizeof(PlanObject) == 32 && sizeof(PlanList) == 24);
 static_assert(sizeof(Dct4Plan<float>) == 80 && sizeof(FoldShell) == 88 && sizeof(FoldNode) == 88);
 static_assert(sizeof(CombineShell) == 96 && sizeof(CombineNode<float>) == 96);

@@ -1,6 +1,6 @@
 // One transform by a plan: the whole fold, then the whole combine. A register of the fold holds residues side
-// by side, one of the combine holds classes. In between stands the spectrum, class by class, each with its
-// real parts followed by its imaginary parts, residues fastest.
+// by side, one of the combine holds classes. The spectrum between them is stored class by class, each with
+// its real parts followed by its imaginary parts, residues fastest.
 #include "src/dct4/base.h"
 #include "src/dct4/stages.h"
 

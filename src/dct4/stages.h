@@ -24,7 +24,7 @@ constexpr std::int32_t line = static_cast<std::int32_t>(line_bytes / sizeof(T));
 template <class T>
 constexpr std::int32_t batches_a_line = line<T> / lanes_of<Register<T>>;
 
-/// Where the samples of a fold stand in src. With n + m in place of a negative n, so that n runs from 0 to
+/// Where the samples of a fold are in src. With n + m in place of a negative n, so that n runs from 0 to
 /// m - 1, sample n of the first residue is at forward + step n in the first half and at forward + backward
 /// - step n in the second. The next residues follow upwards in the first half and downwards in the second.
 struct Offsets {

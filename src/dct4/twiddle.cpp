@@ -8,7 +8,7 @@ namespace {
 
 constexpr double pi = 3.141592653589793;
 
-// The angle is rounded to the element's precision before the cosine and sine of that precision see it.
+// The angle is rounded to the element's precision before its cosine and sine are taken in that precision.
 template <class T>
 T cos_pi(T x) {
   return std::cos(static_cast<T>(static_cast<double>(x) * pi));

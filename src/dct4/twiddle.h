@@ -1,5 +1,5 @@
-// Twiddle sources and the tables that are filled from them. A source is a small object with the rule of an
-// angle, so that the code that fills a table only has to know its layout.
+// Twiddle sources and the tables that are filled from them. A source is a small object that holds the rule of
+// an angle, so that the code that fills a table needs to know only its layout.
 #pragma once
 
 #include <cstdint>

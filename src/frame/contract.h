@@ -1,5 +1,5 @@
-// What every kernel does before its body runs: the entry tests in their fixed order, and the way from the
-// flag to the factor.
+// What every kernel does before its body runs: the entry tests in their fixed order, and the lookup of the
+// factor by the flag.
 #pragma once
 
 #include <cstdint>

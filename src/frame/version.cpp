@@ -1,4 +1,4 @@
-// The version of the library: two constant records that differ in the name only.
+// The version of the library: two constant records that differ only in the name.
 #include "xfm.h"
 #include "xfmcore.h"
 

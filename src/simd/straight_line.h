@@ -1,11 +1,11 @@
-// What straight-line code is written with, whatever its registers are.
+// What straight-line code needs, whatever its registers are.
 #pragma once
 
 #include <type_traits>
 #include <utility>
 
-/// For the parts of a body, functions and lambdas alike, which the compiler must merge into it. An
-/// unoptimised build leaves them apart: nobody measures it, and forced inlining would make it take minutes.
+/// Marks the functions and lambdas that a body is made of, which the compiler must inline. An unoptimised
+/// build does not: its speed does not matter, and forced inlining would make it take minutes.
 #ifdef __OPTIMIZE__
 #define XFM_INLINE __attribute__((always_inline))
 #else

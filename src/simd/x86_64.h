@@ -42,7 +42,7 @@ inline constexpr int lanes_of = static_cast<int>(sizeof(V) / sizeof(Element<V>))
 
 // ---- Memory.
 
-/// Whether both pointers suit aligned accesses. A null pointer does: it is refused later, in either body.
+/// Whether both pointers suit aligned accesses. A null pointer does: either body rejects it later.
 static inline bool aligned(const void* src, const void* dst) {
   const auto bits = reinterpret_cast<std::uintptr_t>(src) | reinterpret_cast<std::uintptr_t>(dst);
   return bits % register_bytes == 0;
@@ -111,8 +111,8 @@ static inline f64x2 flip_signs(f64x2 v) {
   return _mm_xor_pd(v, f64x2{a ? -0.0 : 0.0, b ? -0.0 : 0.0});
 }
 
-/// Any lanes by one instruction: the lanes of u count from 0 and those of v go on from there. Lanes that
-/// would take more than one instruction do not compile.
+/// Picks lanes in one instruction: the lanes of u count from 0, and those of v follow. Picks that would take
+/// more than one instruction do not compile.
 template <int a, int b, int c, int d>
 static inline f32x4 permute(f32x4 u, f32x4 v) {
   constexpr auto picks = [](int e, int f, int g, int h) { return a == e && b == f && c == g && d == h; };
@@ -136,7 +136,7 @@ static inline f64x2 permute(f64x2 u, f64x2 v) {
   return _mm_shuffle_pd(u, v, _MM_SHUFFLE2(b - 2, a));
 }
 
-/// The last lane first.
+/// The lanes in reverse order.
 static inline f32x4 reversed(f32x4 v) { return permute<3, 2, 5, 4>(v, v); }
 static inline f64x2 reversed(f64x2 v) { return permute<1, 2>(v, v); }
 
@@ -155,11 +155,11 @@ static inline void transpose(f32x4* v) {
   v[3] = permute<2, 3, 6, 7>(high01, high23);
 }
 
-// The same by instructions that more units can start, for code that is little but shuffles and additions. On
-// Intel's cores two integer shuffles, which move the same bits, start in a cycle where one for floating point
-// does, and a move of a half goes to units that neither shuffles nor additions keep busy: up to a tenth of a
-// whole Walsh-Hadamard kernel. It is assembler because compilers turn the intrinsics back into the usual
-// forms.
+// The same by instructions that more execution units accept, for code that is mostly shuffles and additions.
+// Intel's cores can start two integer shuffles in a cycle, but only one in floating point, though both move
+// the same bits; and a move of half a register goes to units that neither shuffles nor additions keep busy.
+// This gains up to a tenth of a whole Walsh-Hadamard kernel. It is written in assembler because compilers
+// convert the intrinsics back into the usual forms.
 
 /// a0 b0 a1 b1
 XFM_INLINE static inline f32x4 interleave_low(f32x4 a, f32x4 b) {

@@ -10,7 +10,7 @@
 
 namespace xfm::wht {
 
-/// What a block is worked on with: registers, or single elements.
+/// The values that hold a block: registers, or single elements.
 template <class T, int block>
 using BlockValue = std::conditional_t<lanes_in_use(block, lanes_of<Register<T>>) == 1, T, Register<T>>;
 
@@ -26,7 +26,7 @@ struct Single {
   }
 };
 
-/// How many registers of a block are transposed together. Twice as many as they have lanes reach one stage
+/// How many registers of a block are transposed together. Twice as many as they have lanes cover one stage
 /// more, which pays from four lanes on.
 template <class V, int count>
 inline constexpr int group_size = (lanes_of<V> > 2 && count > lanes_of<V> ? 2 : 1) * lanes_of<V>;
@@ -44,7 +44,7 @@ XFM_INLINE inline void block_pass(const T* src, Take take) {
       [&](int i, V v) XFM_INLINE { take(i * width, v); });
 }
 
-/// The stages between `radix` vectors that stand `stride` elements apart.
+/// The stages between `radix` vectors that are `stride` elements apart.
 template <int radix, int stride, class T, class Take>
 XFM_INLINE inline void column_pass(const T* src, Take take) {
   using V = Register<T>;
@@ -106,7 +106,7 @@ XFM_INLINE inline xfmStatus body(const T* src, T* dst, std::int32_t flag, void* 
   if constexpr (p.is_block()) {
     block_pass<p.block, Memory>(src, scale_and_store<Memory>(dst, factor<T, order>(flag)));
   } else {
-    // No status stands for exhausted memory: the result of xfmMalloc is not tested.
+    // No status reports exhausted memory: the result of xfmMalloc is not tested.
     T* const work = static_cast<T*>(buffer != nullptr ? buffer : xfmMalloc(p.template buffer_bytes<T>()));
     fill_main_area<T, order, Memory>(src, work);
     column_pass<p.last, p.super_block()>(work, scale_and_store<Memory>(dst, factor<T, order>(flag)));

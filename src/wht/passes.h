@@ -8,12 +8,11 @@ namespace xfm::wht {
 constexpr int lowest_order = 1, highest_order = 13;
 
 /// The block pass does the low stages, `block` adjacent elements at a time. A column pass does the next ones,
-/// between `middle` or `last` vectors that stand apart by as many elements as the passes before have
-/// combined.
+/// between `middle` or `last` vectors, as many elements apart as the earlier passes have combined.
 struct Passes {
   int block;       ///< elements
-  int middle = 1;  ///< radix; 1: there is no such pass
-  int last = 1;    ///< radix; 1: one block is all
+  int middle = 1;  ///< radix; 1 if there is no such pass
+  int last = 1;    ///< radix; 1 if one block is all
 
   constexpr int length() const { return block * middle * last; }
   constexpr bool is_block() const { return last == 1; }
@@ -30,7 +29,7 @@ struct Passes {
   }
 };
 
-// By order, from 1 on. Each row is chosen by itself; no rule makes them.
+// By order, from 1 on. Each row is a choice of its own; no rule derives it.
 constexpr Passes passes_32f[] = {
     {2},        {4},        {8},         {16},        {32},       {64},        {128},
     {32, 1, 8}, {64, 1, 8}, {64, 1, 16}, {64, 1, 32}, {64, 8, 8}, {64, 8, 16},
@@ -45,8 +44,8 @@ constexpr const Passes& passes(int order) {
   return (sizeof(T) == sizeof(float) ? passes_32f : passes_64f)[order - lowest_order];
 }
 
-/// How many elements of a block go together, of the `lanes` that a register has: blocks of less than four
-/// registers go element by element.
+/// How many elements of a block are processed at once, out of the `lanes` of a register: blocks of fewer than
+/// four registers go element by element.
 constexpr int lanes_in_use(int block, int lanes) { return block < 4 * lanes ? 1 : lanes; }
 
 constexpr bool rows_make_their_orders() {

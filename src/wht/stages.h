@@ -1,7 +1,7 @@
 // Butterfly stages as straight-line code. The order in which an element is added up is part of the family's
 // contract, since it fixes the rounding: ascending distance, the element at the lower index first. The order
 // among elements is not: one half of the registers is finished before the other is loaded, and a result is
-// passed on as soon as it is complete, so that few values are alive at once.
+// passed on as soon as it is complete, so that few values are live at once.
 #pragma once
 
 #include "src/simd/simd.h"
@@ -32,7 +32,7 @@ XFM_INLINE inline void stages(V* v, Make make, int at = 0) {
 /// For registers that are filled already.
 inline constexpr auto filled = [](auto*, int) XFM_INLINE {};
 
-/// All stages of `count` registers, and take(i, register i) of every result.
+/// All stages of `count` registers, then take(i, register i) for every result.
 template <int count, int leaf, class V, class Make, class Take>
 XFM_INLINE inline void transform(Make make, Take take) {
   V v[count];

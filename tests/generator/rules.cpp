@@ -78,7 +78,7 @@ TEST(Rules, RefuseOtherArgumentsByName) {
   EXPECT_EQ(error("R(8)"), "R(8) is not R([root,] forward[, inverse[, skew]])");
   EXPECT_EQ(error("R(2 * 3,12)"), "R(2 * 3,12) is not R([root,] forward[, inverse[, skew]])");
   EXPECT_EQ(error("RS(4,3)"), "RS(4,3) is not RS(tree)");
-  EXPECT_EQ(error("B(8,9)"), "B(8,9) is not B(there, back)");
+  EXPECT_EQ(error("B(8,9)"), "B(8,9) is not B(forward, inverse)");
 }
 
 TEST(CheckLength, AChirpServesShorterOddLengths) {

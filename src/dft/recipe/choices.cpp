@@ -16,7 +16,8 @@ using gen::Rounding;
 
 constexpr auto binary32 = Precision::binary32, binary64 = Precision::binary64;
 
-// Numbers that stand for a block. Every other one is a prime whose inner transform is the row of one less.
+// Numbers that stand for a block. Any other number is a prime, by Rader's algorithm around the row of one
+// less.
 constexpr int blocks[] = {2, 3, 4, 5, 7, 11};
 
 // Binary32 kernels too short for lanes.
@@ -27,7 +28,7 @@ struct Scalar {
 constexpr Scalar scalars[] = {
     {2, Rounding::each}, {3, Rounding::combination}, {4, Rounding::each}, {5, Rounding::combination}};
 
-// Length-5 blocks in another form than that of most kernels; the first row that fits applies.
+// Length-5 blocks in another form than the default; the first row that fits applies.
 constexpr int all = std::numeric_limits<int>::max();
 struct ChosenFive {
   int length;
@@ -35,7 +36,7 @@ struct ChosenFive {
   Five form;
   bool of_complex_too = true;     ///< complex sequences, not only real ones
   bool of_transposed_too = true;  ///< also those that run from outputs to inputs
-  int instances = all;            ///< the first so many of a stage
+  int instances = all;            ///< only the first so many of a stage
 };
 constexpr ChosenFive fives[] = {
     {5, binary32, Five::outer_first},          {62, binary32, Five::six_products, true, false},
@@ -44,8 +45,8 @@ constexpr ChosenFive fives[] = {
     {50, binary64, Five::six_products, false}, {60, binary64, Five::six_products, false},
 };
 
-// Roots whose rounding errors stay lowest in binary32, found by trying all; elsewhere the smallest root
-// serves.
+// The roots with the lowest rounding errors in binary32, found by trying all. Other kernels take the smallest
+// root.
 struct ChosenRoot {
   int length, prime;
   gen::Root root;
@@ -56,8 +57,8 @@ constexpr ChosenRoot roots_binary32[] = {
     {53, 53, {8, 11}}, {57, 19, {3, 0}}, {61, 61, {18, 10}},
 };
 
-// Kernels that were measured to gain some three percent by another order than that of the others: large
-// networks spill less in the order of bisection.
+// Kernels that measurably gain some three percent from another order than the default: large networks spill
+// less in the order of bisection.
 struct ChosenOrder {
   int length;
   Precision precision;

@@ -7,7 +7,7 @@
 
 namespace xfm::dft {
 
-/// What the recipes of one kernel have to know beside its tree.
+/// What the recipes of one kernel need besides its tree.
 class Choices {
  public:
   Choices(int length, gen::Precision precision) : length_(length), precision_(precision) {}
@@ -15,7 +15,7 @@ class Choices {
   /// The tree with its numbers spelled out down to the blocks.
   gen::Tree spelled_out(const gen::Tree& tree) const;
 
-  /// How sums of products round in a binary32 kernel that is scalar code; nothing in a packed one.
+  /// How sums of products round in a binary32 kernel of scalar code; nothing for a packed one.
   std::optional<gen::Rounding> scalar() const;
 
   /// Roots and length-5 blocks.

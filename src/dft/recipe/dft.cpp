@@ -23,7 +23,7 @@ using gen::Tree;
 using gen::Value;
 using gen::Wide;
 
-// One recipe's surroundings.
+// What the networks of one kernel are made from.
 struct Recipe {
   int length;
   Tree tree;
@@ -32,9 +32,8 @@ struct Recipe {
   const Target& target;
 };
 
-// A complex number a register and real coefficients only: pairs (P, Q) join as X[k] = P + i*Q, X[N-k] = P -
-// i*Q with one exchange of the parts, directly in front of the addition and the subtraction. An inverse
-// kernel joins the other way round.
+// One complex number per register, and real coefficients only: X[k] = P + i*Q and X[N-k] = P - i*Q share one
+// exchange of parts, just before the addition and the subtraction. An inverse kernel has the opposite signs.
 std::unique_ptr<Network> joined_network(const Recipe& recipe) {
   constexpr int parts = 2;
   auto network = std::make_unique<Network>(parts);
@@ -58,7 +57,7 @@ std::unique_ptr<Network> joined_network(const Recipe& recipe) {
   }
   if (length % 2 == 0) store(length / 2, out[length / 2].p);
   if (gen::count(*network).permutations != (length - 1) / 2)
-    throw std::logic_error("another number of joins than output pairs");
+    throw std::logic_error("the number of joins is not that of output pairs");
   return network;
 }
 
@@ -74,7 +73,7 @@ std::unique_ptr<Network> packed_network(const Recipe& recipe, int width, Form fo
   return network;
 }
 
-// Lanes in one form or the other.
+// Lanes in one of the two forms, with sign flips absorbed.
 std::unique_ptr<Network> lanes_network(const Recipe& recipe, Form form) {
   const int width = recipe.target.lanes(Precision::binary32);
   return gen::absorb_sign_flips(*packed_network(recipe, width, form, Rounding::each));

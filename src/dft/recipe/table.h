@@ -1,4 +1,4 @@
-// The breakdown of every complex length, settled in advance: data only.
+// The breakdown of every complex length, fixed in advance: data only.
 #pragma once
 
 #include <span>
@@ -17,8 +17,8 @@ struct Row {
 };
 
 /// All rows, in the order of length. Rules, the first argument nearest the input: CT Cooley-Tukey, PFA
-/// Good-Thomas, PFA* with its last stage of two delayed, SR split radix, D direct symmetric, R Rader, RS
-/// Rader in split form, B Bluestein with the trees there and back. A number is a block of that length.
+/// Good-Thomas, PFA* with its last butterfly delayed, SR split radix, D direct symmetric, R Rader, RS Rader
+/// on real sequences, B Bluestein with its forward and inverse trees. A number is a block of that length.
 std::span<const Row> table();
 
 /// The row of a length; throws std::out_of_range if there is none.

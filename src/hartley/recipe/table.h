@@ -1,4 +1,4 @@
-// The breakdown of every Hartley length, settled in advance: data only.
+// The breakdown of every Hartley length, fixed in advance: data only.
 #pragma once
 
 #include <array>
@@ -6,25 +6,25 @@
 
 namespace xfm::hartley {
 
-/// What the network does first: sums and differences of x[j] and x[N-j] and nothing else with them, or small
-/// transforms over inputs at a regular distance.
+/// What the network does first: only sums and differences of x[j] and x[N-j], or small transforms of inputs
+/// at a regular distance.
 enum class Input { none, fold, groups };
 
-/// What it does last: sums and differences that give H[k] and H[N-k], or H[k] and H[k+N/2], or groups of r
-/// outputs of a residue class modulo N/r (of a coset of the subgroup of order r, for a prime N) in pairs, all
-/// but one.
+/// What it does last: sums and differences that give H[k] and H[N-k], or H[k] and H[k+N/2]; or, in each
+/// residue class modulo N/r (for a prime N, each coset of the subgroup of order r), all but one of its r
+/// outputs in pairs.
 enum class Output { conjugate, half, radix };
 
 /// forward: a real transform, then H[k] = Re X[k] - Im X[k]. folded: the fold makes half a Hermitian spectrum
-/// of the input, and an inverse real transform, the transpose of the plan, does the rest.
+/// of the input, and an inverse real transform, the plan transposed, does the rest.
 enum class Design { forward, folded };
 
-/// What becomes of products on the way (gen/passes/merging.h).
+/// How products are merged (gen/passes/merging.h).
 enum class Products {
   merged,
   merged_in_pairs,
-  unrounded,  ///< merged, and in binary64 through the additions behind them, where random data passed the
-              ///< bound of accuracy in one vector of some hundreds
+  unrounded,  ///< merged, and kept in binary64 through the additions that use them: without this, about one
+              ///< random vector in some hundreds exceeds the error bound
 };
 
 struct Row {

@@ -13,8 +13,8 @@ const char* row_tree(Direction direction, int length) {
   return direction == Direction::forward ? row(length).forward.tree : row(length).inverse.tree;
 }
 
-// R(g, L) with the transforms there and back. Those back run transposed, so that they have the plans of the
-// other direction.
+// R(g, L) with its forward and inverse transforms spelled out. The inverse ones run transposed, so they take
+// the plans of the other direction.
 Tree rader(Direction direction, const Tree& tree) {
   const int l = tree.args[1].number;
   const RaderStage stage = rader_stage(l + 1);
@@ -27,7 +27,7 @@ Tree rader(Direction direction, const Tree& tree) {
   return {"R", 0, {tree.args[0], there, back, skew}};
 }
 
-// A run of stages in pairs. The transpose of a network does its stages backwards.
+// A run of stages, nested in pairs. A transposed network runs its stages in reverse.
 Tree nested(Direction direction, const std::string& rule, gen::Sequence<Tree> stages) {
   if (direction == Direction::inverse) std::reverse(stages.begin(), stages.end());
   const bool to_the_right = direction == Direction::inverse || rule == "x";

@@ -10,13 +10,13 @@ namespace xfm::real {
 using gen::Direction;
 
 /// The plan of a row's tree, or of any other tree of that length. The plan of an inverse tree is the one
-/// whose network, transposed, does the tree's stages in their order.
+/// whose network, transposed, runs the tree's stages in their order.
 gen::Tree plan(Direction direction, const gen::Tree& tree);
 
 /// The same, by the length's row.
 gen::Tree plan(Direction direction, int length);
 
-/// The plan with the blocks of a length in another order of their sums.
+/// The plan with its blocks of one length in another order of bins.
 gen::Tree reordered(const gen::Tree& plan, const BlockOrder& order);
 
 }  // namespace xfm::real

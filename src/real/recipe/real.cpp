@@ -31,7 +31,7 @@ Sequence<Half> halves(int length) {
   if (length % 2 == 0) all.push_back({length / 2, 0});
   return all;
 }
-// Bins with a conjugate count twice in a sum over all of them.
+// Bins with a conjugate count twice in a sum over all bins.
 bool counts_twice(const Half& of, int length) { return of.k > 0 && 2 * of.k < length; }
 
 gen::Value half(const Points& bins, const Half& of) { return of.part == 0 ? bins[of.k].p : bins[of.k].q; }

@@ -1,4 +1,4 @@
-// The breakdown of every real length, settled in advance: data only.
+// The breakdown of every real length, fixed in advance: data only.
 #pragma once
 
 #include <span>
@@ -13,7 +13,8 @@ struct Breakdown {
 };
 
 /// Forward trees read from the samples to the bins, inverse ones from the bins to the samples. A number is a
-/// block of that length, or the row of it; a x b Good-Thomas, a * b Cooley-Tukey, R(g, L) Rader with root g.
+/// block of that length or stands for its row; a x b Good-Thomas, a * b Cooley-Tukey, R(g, L) Rader with root
+/// g.
 struct Row {
   int length;
   Breakdown forward, inverse;
@@ -27,8 +28,8 @@ const Row& row(int length);
 /// Whether numbers of this length stand for a block.
 bool is_block(int length, bool forward);
 
-/// The stages of length L = N-1 of a Rader transform, where they are not the rows of L, and the skew stage of
-/// a forward one, where it is not that of the half length.
+/// The stages of length L = N-1 of a Rader transform, where they differ from the rows of L, and the skew
+/// stage of a forward one, where it differs from that of the half length.
 struct RaderStage {
   int length;
   const char* there;    ///< forward: from the samples
@@ -37,12 +38,11 @@ struct RaderStage {
 };
 RaderStage rader_stage(int length);
 
-/// Plans whose primitive roots, and orders of half-length stages, round least in binary32, found by trying
-/// some hundreds; null where the row's own plan does as well.
+/// The plan whose primitive roots and orders of half-length stages have the lowest rounding errors in
+/// binary32, found by trying some hundreds; null where the row's own plan is as good.
 const char* plan_of_least_error(bool forward, int length);
 
-/// Inverse kernels of one layout whose direct blocks sum their bins in another order than those of the
-/// others.
+/// Inverse kernels of one layout whose direct blocks sum their bins in an order of their own.
 struct BlockOrder {
   int length;
   Layout layout;

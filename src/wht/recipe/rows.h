@@ -1,5 +1,4 @@
-// What the catalogue has to know of a kernel that is written by hand: all of it follows from the table of
-// passes.
+// What the catalogue records of a hand-written kernel; all of it follows from the table of passes.
 #pragma once
 
 #include <string>
