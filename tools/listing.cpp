@@ -131,7 +131,7 @@ std::string generic_functions() {
 // A register of one complex number exchanges its parts as often as it is joined, and its row says how often.
 std::string catalogue_row(const Family& family, const gen::Kernel& kernel) {
   const gen::Counts counts = count(*kernel.network);
-  const bool joined = kernel.network->width() == 2;
+  const bool joined = kernel.type.complex && kernel.type.precision == gen::Precision::binary64;
   return text({.name = kernel.name(),
                .family = kernel.family,
                .type = kernel.type,
