@@ -14,16 +14,16 @@ TEST(Baseline, FlagsOfTheProjectAddNoInstructions) {
   for (const std::string library : paths::flagged_libraries) {
     SCOPED_TRACE(library);
     int instructions = 0;
-    std::set<std::string> strangers;
+    std::set<std::string> unexpected;
     for (const std::string& line :
          lines_of(std::string(paths::objdump) + " -d --no-show-raw-insn '" + library + "'")) {
       const auto instruction = parse_instruction(line);
       if (!instruction) continue;
       ++instructions;
-      if (instruction->sort == Sort::stranger) strangers.insert(instruction->mnemonic);
+      if (instruction->sort == Sort::unexpected) unexpected.insert(instruction->mnemonic);
     }
     EXPECT_GT(instructions, 1000);
-    for (const std::string& stranger : strangers) ADD_FAILURE() << stranger;
+    for (const std::string& mnemonic : unexpected) ADD_FAILURE() << mnemonic;
   }
 }
 
