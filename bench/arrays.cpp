@@ -9,7 +9,7 @@ namespace xfm::bench {
 
 namespace {
 
-constexpr std::size_t kPage = 4096;  // also alignment of the memory
+constexpr std::size_t kPage = 4096;  // and the alignment of the memory
 
 std::size_t round_up(std::size_t size, std::size_t unit) { return (size + unit - 1) / unit * unit; }
 
@@ -36,9 +36,9 @@ void Arrays::Free::operator()(std::byte* memory) const { operator delete (memory
 Arrays::Arrays(const catalogue::Kernel& kernel, Placement placement)
     : precision_(kernel.precision), read_(kernel.read), written_(kernel.written) {
   const std::size_t scalar = precision_ == catalogue::Precision::binary32 ? sizeof(float) : sizeof(double);
-  // One more for the unaligned place, and two for the zeros that a rival may hold along with a spectrum.
+  // One more for the unaligned start, and two for the zeros that a rival may store with a spectrum.
   const std::size_t array = scalar * static_cast<std::size_t>(std::max(read_, written_) + 3);
-  // dst stands half a page past a multiple of pages: addresses that agree modulo 4096 would make loads wait
+  // dst starts half a page past a multiple of pages: addresses that agree modulo 4096 would make loads wait
   // for unrelated stores.
   const std::size_t distance = placement.in_place ? 0 : round_up(array, kPage) + kPage / 2;
   const std::size_t to_buffer = round_up(distance + array, kPage) + kPage / 4;

@@ -10,7 +10,7 @@
 namespace xfm::bench {
 
 struct Placement {
-  bool unaligned = false;  ///< both arrays stand one real scalar past an aligned address
+  bool unaligned = false;  ///< both arrays start one real scalar past an aligned address
   bool in_place = false;   ///< dst is src
 };
 
@@ -23,10 +23,10 @@ class Arrays {
   /// Work buffer of the kernel; null where it needs none.
   void* buffer() { return buffer_; }
 
-  /// The same pseudo-random input at every call.
+  /// The same pseudo-random input every time.
   void fill();
-  /// Zeros: repeated transforms in place, or of an input that the last one has destroyed, neither grow nor
-  /// shrink, and take no longer or shorter than others.
+  /// Zeros: repeated transforms in place, or of an input that the last one has destroyed, then neither grow
+  /// nor shrink, and take as long as any others.
   void clear();
   /// The elements of dst as binary64.
   std::vector<double> output() const;

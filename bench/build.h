@@ -16,10 +16,10 @@ struct Build {
 Build this_build();
 
 /// Load average of the last minute. Work on a core that shares its units with ours slows every batch alike,
-/// so no statistics can see it: figures of a run under load deserve a second look.
+/// so no statistic can reveal it: figures of a run under load deserve a second look.
 double load();
 
-/// Why this build must not be measured, or nothing.
+/// Why this build must not be measured; empty if it may be.
 std::string objection();
 
 }  // namespace xfm::bench

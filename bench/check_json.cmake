@@ -1,4 +1,4 @@
-# Reads a report of xfmbench as any program would, and stops where a figure is missing or makes no sense.
+# Reads a report of xfmbench as a program would, and fails if a figure is missing or not positive.
 file(READ ${FILE} report)
 string(JSON groups LENGTH ${report} groups)
 if(groups LESS 1)

@@ -6,19 +6,19 @@
 namespace xfm::bench {
 
 /// The loop over calls belongs to the contestant, so that each call in it is the plain call that a user would
-/// write, with no indirection of the bench inside the timed loop.
+/// write: the bench adds no indirection inside the timed loop.
 class Contestant {
  public:
   virtual ~Contestant() = default;
   virtual void run(int calls) = 0;
 
-  /// A rival that packs its data in another way rearranges the kernel's input to its own before a call whose
-  /// output is looked at, and its output to the kernel's after it. In the race nothing is rearranged.
+  /// A rival with another data layout rearranges the kernel's input into its own before a call whose output
+  /// is checked, and its output into the kernel's afterwards. Nothing is rearranged during the race.
   virtual void take_input() {}
   virtual void give_output() {}
   /// Whether a call overwrites src, so that the next one finds other data there.
   virtual bool destroys_input() const { return false; }
-  /// What the output is to be multiplied by to be the transform.
+  /// What the output must be multiplied by to give the transform.
   virtual double factor() const { return 1; }
 };
 

@@ -25,7 +25,7 @@ using catalogue::Precision;
 
 constexpr int kLongest = 20;
 
-/// A patient plan of a long length takes minutes, so these are measured ones.
+/// A patient plan of a long length takes minutes, so those plans are only measured.
 unsigned effort(int length) { return length <= 1 << 14 ? FFTW_PATIENT : FFTW_MEASURE; }
 
 template <class Real>
@@ -71,7 +71,7 @@ class Dct4 final : public Contestant {
     return library.function<Function>(name + Names<Real>::suffix);
   }
 
-  /// All states start at the same address modulo a page: their place sways the time of a call by some
+  /// All states start at the same offset in a page, because that offset changes the time of a call by several
   /// percent.
   static constexpr std::align_val_t kPage{4096};
   struct Free {

@@ -1,5 +1,5 @@
-// The DCT-IV as a contestant, and its rivals. It is no kernel of the catalogue: a state of each length stands
-// for one.
+// The DCT-IV as a contestant, and its rivals. It is not in the catalogue of kernels: a state of each length
+// takes the place of a kernel.
 #pragma once
 
 #include <span>
@@ -12,14 +12,14 @@
 namespace xfm::bench {
 
 /// The lengths 2 to 2^20 in both precisions, as rows like those of the catalogue; the family is "DCT4". The
-/// operations are what the best algorithms known take.
+/// operation counts are those of the best known algorithms.
 std::span<const catalogue::Kernel> dct4_kernels();
 
 /// A state of the row's length, which the library itself initialises.
 ContestantPtr make_dct4(const Library& library, const catalogue::Kernel& kernel, Arrays& arrays);
 
 /// The fastest of FFTW's own DCT-IV and of two ways to make one from its complex transform of half the
-/// length: with a twist by exp(-i pi (8 n + 1) / (8 N)) before and after, the transform in place or from one
+/// length: with factors exp(-i pi (8 n + 1) / (8 N)) before and after, the transform in place or from one
 /// buffer to another.
 template <class Real>
 ContestantPtr fftw_dct4(int length, Arrays& arrays);

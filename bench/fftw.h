@@ -14,7 +14,7 @@
 
 namespace xfm::bench::fftw {
 
-/// One set of names for the two copies of the library.
+/// One set of names for the two precisions of the library.
 template <class Real>
 struct Api;
 
@@ -50,7 +50,7 @@ struct Api<double> {
   static constexpr auto forget_wisdom = fftw_forget_wisdom;
 };
 
-/// Owns a plan; throws where FFTW made none.
+/// Owns a plan; throws if FFTW made none.
 template <class Real>
 class Plan {
  public:
@@ -68,9 +68,9 @@ class Plan {
   Handle plan_;
 };
 
-/// Patient planning chooses by measuring, so on a busy machine it can choose badly: plans of one length were
-/// seen to differ by an eighth. So it plans afresh a few times, as long as that is quick, and takes the
-/// fastest plan.
+/// Patient planning chooses by measuring, so on a busy machine it can choose badly: plans of one length
+/// differed by an eighth. So this plans afresh several times, as long as that is quick, and takes the fastest
+/// plan.
 template <class Real, class MakePlan>
 ContestantPtr best_plan(MakePlan make_plan) {
   using Clock = std::chrono::steady_clock;
@@ -84,8 +84,8 @@ ContestantPtr best_plan(MakePlan make_plan) {
   return fastest(std::move(plans));
 }
 
-/// Complex transform, one at a time. The new-array form of the call is the faster one: it saves FFTW from
-/// looking its pointers up in the problem.
+/// Complex transform, one at a time. The new-array form of the call is the faster one: FFTW need not look up
+/// its pointers in the problem.
 template <class Real>
 class ComplexDft final : public Contestant {
  public:
@@ -110,8 +110,8 @@ ContestantPtr complex_dft(int length, Arrays& arrays) {
   return best_plan<Real>([&] { return std::make_unique<ComplexDft<Real>>(length, sign, arrays); });
 }
 
-/// Walsh-Hadamard transform: a real transform of rank `order` and 2 x ... x 2 elements, of two elements each
-/// dimension's sum and difference.
+/// Walsh-Hadamard transform: a real transform of rank `order` and 2 x ... x 2 elements, which takes the sum
+/// and difference of two elements in each dimension.
 template <class Real>
 class Hypercube final : public Contestant {
  public:
@@ -131,8 +131,8 @@ class Hypercube final : public Contestant {
   Plan<Real> plan_;
 };
 
-/// Of two elements the half-complex transform and the Hartley transform are the same; the planner treats them
-/// differently, so both have their turns.
+/// For two elements the half-complex transform and the Hartley transform are the same; the planner treats
+/// them differently, so both are tried.
 template <class Real>
 ContestantPtr walsh_hadamard(int order, Arrays& arrays) {
   fftw_r2r_kind kind = FFTW_DHT;

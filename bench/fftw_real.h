@@ -1,5 +1,5 @@
-// FFTW's real transforms as contestants. Its half spectrum is an array of complex numbers, as in CCS; where a
-// kernel has another layout, FFTW still makes its own, and is only compared after rearranging.
+// FFTW's real transforms as contestants. Its half spectrum is an array of complex numbers, as in CCS; if a
+// kernel has another layout, FFTW still uses its own, and its output is rearranged only to be compared.
 #pragma once
 
 #include <cstring>
@@ -10,7 +10,7 @@ namespace xfm::bench::fftw {
 
 enum class Layout { ccs, pack, perm };
 
-/// Elements of a half spectrum of N real samples, moved in their array from one layout to another.
+/// Moves the elements of a half spectrum of N real samples within their array, from one layout to another.
 template <class Real>
 void ccs_to(Layout layout, Real* spectrum, int length) {
   const auto n = static_cast<std::size_t>(length);
@@ -55,8 +55,8 @@ class RealDft final : public Contestant {
   Plan<Real> plan_;
 };
 
-/// FFTW may destroy the input of this one, which is its default: told to preserve it, as our kernels do, it
-/// takes two to three times as long at many even lengths.
+/// FFTW may destroy the input of this one, which is its default: if it has to preserve it, as our kernels do,
+/// it takes two to three times as long at many even lengths.
 template <class Real, Layout layout>
 class InverseRealDft final : public Contestant {
  public:
@@ -80,8 +80,8 @@ class InverseRealDft final : public Contestant {
   Plan<Real> plan_;
 };
 
-/// FFTW's discrete Hartley transform, or its half-complex one and the sums and differences that make a
-/// Hartley transform of it.
+/// FFTW's discrete Hartley transform, or its half-complex one with the sums and differences that convert it
+/// to a Hartley transform.
 template <class Real>
 class Dht final : public Contestant {
  public:

@@ -11,7 +11,7 @@ int lanes(const catalogue::Kernel& kernel) {
   return kernel.precision == catalogue::Precision::binary32 ? 4 : 2;
 }
 
-/// Lane exchanges where the kernel prescribes them; otherwise, in binary32, two shuffles split four complex
+/// The lane exchanges if the kernel prescribes them; otherwise, in binary32, two shuffles split four complex
 /// numbers into real and imaginary parts, and two join them again.
 double shuffles(const catalogue::Kernel& kernel) {
   if (kernel.exchanges >= 0) return kernel.exchanges;
@@ -24,7 +24,7 @@ double limit_in_cycles(const catalogue::Kernel& kernel) {
   constexpr double kCall = 7;
   const double width = lanes(kernel);
   const double additions = kernel.adds / width;
-  const double values = std::min(kernel.read, kernel.written);     // the zeros that a layout stores are none
+  const double values = std::min(kernel.read, kernel.written);     // not the zeros that a layout stores
   const double multiplications = (kernel.mults + values) / width;  // each output times the factor
   const double loads = kernel.read / width;
   const double stores = kernel.written / width;

@@ -1,5 +1,5 @@
-// What a program does that has no library: a plain loop nest, left to a compiler's optimiser. It stands in
-// objects of its own, one for each compiler at hand, made for baseline x86-64 as the kernels are.
+// What a program does without a library: a plain loop nest, left to the compiler's optimiser. Each compiler
+// at hand makes an object file of its own from it, for baseline x86-64, like the kernels.
 #pragma once
 
 #include <vector>

@@ -1,4 +1,4 @@
-// xfmbench: every kernel beside a rival.
+// xfmbench: every kernel against a rival.
 #include <fmt/format.h>
 #include <unistd.h>
 
@@ -37,22 +37,22 @@ struct Options {
 };
 
 void define(CLI::App& app, Options& options) {
-  app.add_option("--only", options.only,
-                 "Only kernels with TEXT in their name, which ends in the type; repeatable")
+  app.add_option("--only", options.only, "Only kernels whose name contains TEXT, such as _64fc; repeatable")
       ->type_name("TEXT")
       ->allow_extra_args(false);
   app.add_option("--against", options.against,
-                 "Race another build of libxfm, its shared library FILE, not FFTW")
+                 "Race another build of libxfm, the shared library FILE, instead of FFTW")
       ->type_name("FILE");
-  app.add_option("--rounds", options.rounds, "Rounds a kernel")
+  app.add_option("--rounds", options.rounds, "Rounds per kernel")
       ->check(CLI::Range(1, 1000000))
       ->capture_default_str();
-  app.add_option("--json", options.json, "Write all figures to FILE as well")->type_name("FILE");
-  app.add_option("--markdown", options.markdown, "Write the ratios to FILE as a page as well")
+  app.add_option("--json", options.json, "Also write all figures to FILE, as JSON")->type_name("FILE");
+  app.add_option("--markdown", options.markdown, "Also write the ratios to FILE, as Markdown")
       ->type_name("FILE");
-  app.add_flag("--list", options.list, "Name the kernels and measure nothing");
-  app.add_flag("--unaligned", options.placement.unaligned, "Arrays one real scalar past an aligned address");
-  app.add_flag("--in-place", options.placement.in_place, "dst is src");
+  app.add_flag("--list", options.list, "List the kernels without measuring them");
+  app.add_flag("--unaligned", options.placement.unaligned,
+               "Start the arrays one real scalar past an aligned address");
+  app.add_flag("--in-place", options.placement.in_place, "Transform in place: dst is src");
 }
 
 /// Pack and Perm are the arithmetic of CCS with other addresses: beside FFTW they run only on request.
@@ -77,7 +77,7 @@ Kernels chosen(const Options& options) {
   return kernels;
 }
 
-/// Planning and racing take a while: says how far they are, if somebody is watching.
+/// Planning and racing take a while: shows how far they are, if somebody is watching.
 void show_progress(const char* work, std::size_t done, std::size_t all) {
   if (!isatty(STDERR_FILENO)) return;
   fmt::print(stderr, "\r{} {}/{}{}", work, done, all, done == all ? "\r\x1b[K" : "");
@@ -120,7 +120,7 @@ File opened(const std::string& path) {
 
 void measure(const Options& options) {
   const Kernels kernels = chosen(options);
-  if (kernels.empty()) throw std::runtime_error("no kernel is named so; --list names them");
+  if (kernels.empty()) throw std::runtime_error("no kernel has such a name; --list shows all names");
   if (options.list) {
     for (const catalogue::Kernel* kernel : kernels) fmt::print("{}\n", kernel->name);
     return;
@@ -144,7 +144,7 @@ void measure(const Options& options) {
 
 int main(int argc, char** argv) try {
   Options options;
-  CLI::App app("Times every kernel beside a rival, in turns, and prints the ratio of their times.");
+  CLI::App app("Races every kernel against a rival, in turns, and prints the ratio of their times.");
   define(app, options);
   CLI11_PARSE(app, argc, argv);
   measure(options);

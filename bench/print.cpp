@@ -67,7 +67,7 @@ void print_heading(const Conditions& conditions) {
   fmt::print("kernels    {}\n", build.kernel_flags);
   fmt::print("processor  {}\n", build.processor);
   fmt::print("rival      {}\n", conditions.rival);
-  fmt::print("data       {}, {}, in the first-level cache where they fit; one transform a call\n",
+  fmt::print("data       {}, {}, in the first-level cache where they fit; one transform per call\n",
              conditions.placement.unaligned ? "unaligned" : "aligned",
              conditions.placement.in_place ? "in place" : "out of place");
   fmt::print("rounds     {}, interleaved; load of the machine at the start {:.2f}\n", conditions.rounds,
@@ -76,8 +76,8 @@ void print_heading(const Conditions& conditions) {
 
 void print_tables(const std::vector<Group>& groups) {
   fmt::print(
-      "\nratio: time of the rival over ours, by least time and by median; above 1 we are ahead.\n"
-      "ours, rival, limit: core cycles a call; the limit is an estimate for 128-bit instructions.\n");
+      "\nratio: the rival's time over ours, by least time and by median; above 1 we are ahead.\n"
+      "ours, rival, limit: core cycles per call; the limit is an estimate for 128-bit instructions.\n");
   for (const Group& group : groups) {
     print_table(group);
     print_others(group);

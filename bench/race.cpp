@@ -89,7 +89,7 @@ double distance(const std::vector<double>& a, const std::vector<double>& b) {
   return std::sqrt(difference / norm);
 }
 
-/// A race between different transforms would mean nothing.
+/// A race between different transforms would be meaningless.
 void check_agreement(const catalogue::Kernel& kernel, Contestant& ours, Contestant& rival, Arrays& arrays) {
   const double tolerance = kernel.precision == catalogue::Precision::binary32 ? 1e-6 : 1e-14;
   const double apart = distance(output_of(ours, arrays), output_of(rival, arrays));

@@ -1,10 +1,10 @@
 // One kernel against its rival.
 //
-// An own loop rather than Google Benchmark: that one times all repetitions of one function and then all of
-// the next, so a change of clock rate or of other load between the two falls on one side only. Here the two
-// take turns within fractions of a millisecond, with the order turned round each time, and the rounds of each
-// race are spread over the whole run, so that a disturbance of seconds spoils some rounds of many races and
-// no race altogether.
+// The loop is our own because Google Benchmark times all repetitions of one function and then all of the
+// next, so a change of clock rate or of other load between the two affects one side only. Here the two take
+// turns within fractions of a millisecond, swapping places every round, and the rounds of each race are
+// spread over the whole run, so that a disturbance of seconds spoils some rounds of many races but no race
+// altogether.
 #pragma once
 
 #include <optional>
@@ -26,7 +26,7 @@ struct Other {
   Summary time;
 };
 
-/// Core cycles a call. A cycle lasts as long as the fastest batch of the cycle chain says.
+/// Core cycles per call. The fastest batch of the cycle chain determines how long a cycle lasts.
 struct Result {
   const catalogue::Kernel* kernel;
   double nanoseconds_per_cycle;
@@ -46,7 +46,7 @@ class Race {
   /// give the same output for the same input: throws if not.
   Race(const catalogue::Kernel& kernel, Placement placement, const Builds& builds);
 
-  /// Some more rounds, each a batch of the kernel, of the rival and of the cycle chain.
+  /// More rounds, each a batch of the cycle chain, of the kernel and of the rival.
   void run(int rounds);
   Result result() const;
 

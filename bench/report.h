@@ -18,10 +18,10 @@ struct Group {
 
   bool has_rival() const { return results.front().rival.has_value(); }
   std::vector<double> ratios() const;
-  /// To further rival number i.
+  /// Against further rival number i.
   std::vector<double> ratios_to_other(std::size_t i) const;
   std::vector<double> ratios_of_medians() const;
-  /// The one with the least ratio.
+  /// The result with the least ratio.
   const Result& weakest() const;
   /// The lengths at which the rival is ahead, by least time.
   std::vector<int> lengths_behind() const;
@@ -30,7 +30,7 @@ struct Group {
 /// By family and type, in the order of first appearance.
 std::vector<Group> grouped(const std::vector<Result>& results);
 
-/// How the figures came about.
+/// How the figures were obtained.
 struct Conditions {
   Build build;
   std::string rival;

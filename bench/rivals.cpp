@@ -20,7 +20,7 @@ struct Rival {
   ContestantPtr (*make)(int length, Arrays& arrays);
 };
 
-// A family joins the bench with one row a type.
+// One row for each family and type.
 constexpr std::array kRivals{
     Rival{"DFTFwd_CToC", "32fc", fftw::complex_dft<float, FFTW_FORWARD>},
     Rival{"DFTFwd_CToC", "64fc", fftw::complex_dft<double, FFTW_FORWARD>},
@@ -54,7 +54,7 @@ ContestantPtr make_rival(const catalogue::Kernel& kernel, Arrays& arrays) {
   return nullptr;
 }
 
-// Loop nests have rows of their own, one for each compiler at hand.
+// One loop nest for each compiler at hand.
 std::vector<NamedContestant> further_rivals(const catalogue::Kernel& kernel, Arrays& arrays) {
   std::vector<NamedContestant> rivals;
   if (std::string_view(kernel.family) != "WHT") return rivals;

@@ -10,7 +10,7 @@
 
 namespace xfm::bench {
 
-/// The rival of a kernel, planned for these very arrays (planning overwrites them), or null if the family has
+/// The rival of a kernel, planned for these arrays (planning overwrites them), or null if the family has
 /// none.
 ContestantPtr make_rival(const catalogue::Kernel& kernel, Arrays& arrays);
 

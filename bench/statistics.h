@@ -6,8 +6,8 @@
 
 namespace xfm::bench {
 
-/// Least and median sample. On a machine that does other work too, the least is the steadier figure: whatever
-/// disturbs a batch makes it longer.
+/// Least and median sample. On a machine that does other work too, the least is the steadier figure, because
+/// any disturbance makes a batch longer.
 struct Summary {
   double least = 0;
   double median = 0;

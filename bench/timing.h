@@ -1,4 +1,4 @@
-// Stop watch, batch sizes, and the yardstick that turns times into core cycles.
+// Stopwatch, batch sizes, and the yardstick that converts times to core cycles.
 #pragma once
 
 #include <vector>
@@ -7,11 +7,11 @@
 
 namespace xfm::bench {
 
-/// A batch lasts about this long: a thousand times the resolution of the clock and its own cost, yet so short
-/// that most batches escape every interrupt and every change of clock rate.
+/// A batch lasts about this long: a thousand times the resolution and the cost of the clock, yet short enough
+/// for most batches to escape every interrupt and every change of clock rate.
 inline constexpr double kBatchNanoseconds = 30'000;
 
-/// Nanoseconds a call, over one batch.
+/// Nanoseconds per call, over one batch.
 double time_batch(Contestant& contestant, int calls);
 
 /// The number of calls that fills a batch.
@@ -21,7 +21,7 @@ int calls_per_batch(Contestant& contestant);
 ContestantPtr fastest(std::vector<ContestantPtr> candidates);
 
 /// A dependent chain of integer additions, one core cycle each whatever the clock rate of the moment: its
-/// time tells how long a core cycle lasts in the unit of the stop watch.
+/// time shows how long a core cycle lasts in the unit of the stopwatch.
 class CycleChain final : public Contestant {
  public:
   static constexpr int kCyclesPerCall = 256;

@@ -21,4 +21,3 @@ function(xfm_add_kernel_options name target)
     $<$<CXX_COMPILER_ID:GNU>:-fno-reorder-blocks-and-partition>)  # a kernel is one piece, with its entry tests
   target_compile_definitions(${name} INTERFACE XFM_VOCABULARY="${vocabulary}")  # what src/simd/simd.h hands on
 endfunction()
-xfm_add_kernel_options(xfm_kernel_options x86-64)

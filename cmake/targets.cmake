@@ -1,6 +1,9 @@
-# The targets that the library is built for, and the CMake target of each one's library.
+# The targets that the library is built for, the baseline first, and the CMake target of each one's library: xfm, xfm_v2.
 set(XFM_TARGET_NAMES x86-64)
-set(XFM_LIBRARY_x86-64 xfm)
+foreach(target ${XFM_TARGET_NAMES})
+  string(REGEX REPLACE "^x86-64-?" "xfm_" XFM_LIBRARY_${target} ${target})
+  string(REGEX REPLACE "_$" "" XFM_LIBRARY_${target} ${XFM_LIBRARY_${target}})
+endforeach()
 
 # xfm_target_field(TARGET FIELD RESULT): what the target's description in gen/targets says. Its lines .field = "value"
 # are read by the compiler and here.

@@ -1,8 +1,8 @@
 // Code channels: the downlink of a mobile network, where one transmitter serves many subscribers at the same
 // time on the same frequency. Each has a Walsh code, a row of the Hadamard matrix, and one bit in every
-// frame: the transform of all bits of a frame is the sum of the codes, each turned by its subscriber's bit.
-// The codes are orthogonal, so the transform of what is received tells the bits apart again, and noise that
-// hits some chips of a frame is shared out among all subscribers.
+// frame: the transform of all bits of a frame is the sum of the codes, each with the sign of its subscriber's
+// bit. The codes are orthogonal, so the transform of the received signal separates the bits again, and noise
+// that hits some chips of a frame is spread over all subscribers.
 #include <xfm.h>
 #include <xfmcore.h>
 
@@ -36,11 +36,11 @@ class Spreader {
   explicit Spreader(int order) : order_(order) {
     std::uint32_t bytes = 0;
     if (xfmWHTGetBufferSize_32f(order, &bytes) != xfmStsOk)
-      throw std::runtime_error(fmt::format("order {} is not served, 1 to 13 are", order));
+      throw std::runtime_error(fmt::format("order {} is not supported, only 1 to 13", order));
     if (bytes > 0) buffer_.reset(xfmMalloc(bytes));
   }
 
-  /// Spreads and despreads: the factor 1/sqrt(N) makes the transform its own inverse, and keeps the power.
+  /// Spreads and despreads: the factor 1/sqrt(N) makes the transform its own inverse and preserves the power.
   void frame(const std::vector<float>& from, std::vector<float>& to, std::size_t at) {
     const xfmStatus status = xfmWHT_32f(&from[at], &to[at], order_, XFM_SCALE_BY_SQRT_N, buffer_.get());
     if (status != xfmStsOk) throw std::runtime_error(fmt::format("status {}", status));
@@ -61,13 +61,13 @@ std::string contents(const std::string& path) {
   return text;
 }
 
-/// How strong a subscriber's code is sent: the far ones need more power than the near ones.
+/// The strength of a subscriber's code: distant subscribers need more power than near ones.
 double gain(std::size_t subscriber, std::size_t subscribers) {
   return 0.5 * std::pow(3, static_cast<double>(subscriber) / static_cast<double>(subscribers));
 }
 
-/// A bit is plus or minus the gain. The text goes bit by bit to one subscriber after the other, and the last
-/// frame is filled up.
+/// A bit is plus or minus the gain. The bits of the text go to one subscriber after another, and the last
+/// frame is padded.
 std::vector<float> symbols_of(const std::string& text, std::size_t subscribers) {
   std::vector<float> symbols((8 * text.size() + subscribers - 1) / subscribers * subscribers);
   for (std::size_t i = 0; i < symbols.size(); ++i) {
@@ -99,8 +99,7 @@ void add_noise(std::vector<float>& chips, double deviation) {
   for (float& chip : chips) chip += noise(bits);
 }
 
-/// The wrong bits that are to be expected: those where noise is greater than the symbol, and of the other
-/// sign.
+/// The expected number of wrong bits: those where the noise exceeds the symbol and has the opposite sign.
 double expected_errors(std::size_t symbols, std::size_t subscribers, double noise) {
   double sum = 0;
   for (std::size_t i = 0; i < symbols; ++i)

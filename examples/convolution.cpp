@@ -1,6 +1,6 @@
-// Fast convolution of two real sequences by Hartley transforms: two transforms there, one product an output,
+// Fast convolution of two real sequences by Hartley transforms: a transform of each, one product per output,
 // one transform back, all in real arithmetic and all by the same function (Bracewell 1983). Here a burst of a
-// tone meets the echoes of a room; both are padded with zeros so that nothing wraps around.
+// tone is convolved with the echoes of a room; both are padded with zeros so that nothing wraps around.
 #include <xfm.h>
 
 #include <algorithm>
@@ -21,11 +21,11 @@ Samples hartley(const Samples& x, int flag) {
   Samples transform(x.size());
   const int length = static_cast<int>(x.size());
   if (xfmHartley_64f(x.data(), transform.data(), length, flag) != xfmStsOk)
-    throw std::runtime_error(fmt::format("length {} is not served, 2 to 64 are", length));
+    throw std::runtime_error(fmt::format("length {} is not supported, only 2 to 64", length));
   return transform;
 }
 
-/// With X and Y the transforms, that of the convolution is
+/// If X and Y are the transforms, that of the convolution is
 ///   Z[k] = X[k] (Y[k] + Y[-k])/2 + X[-k] (Y[k] - Y[-k])/2.
 Samples convolve(const Samples& x, const Samples& y) {
   const Samples a = hartley(x, XFM_SCALE_NONE), b = hartley(y, XFM_SCALE_NONE);

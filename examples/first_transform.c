@@ -1,5 +1,5 @@
-/* The shortest road through the library: one forward transform of eight complex numbers, in place, printed.
- */
+/* The shortest program that uses the library: one forward transform of eight complex numbers, in place,
+ * printed. */
 #include <stdio.h>
 
 #include "xfm.h"

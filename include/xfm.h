@@ -11,9 +11,9 @@
  * Arrays are contiguous; the caller owns them, and no function keeps a pointer. All functions may be called from any
  * number of threads at once, but a state of the DCT-IV serves one thread at a time. NaN and infinity propagate through
  * the arithmetic; no function changes the floating-point control state. Results do not depend on alignment, and
- * src == dst gives the same bits as separate arrays. Wherever bits are promised, the floating-point environment is the
- * default one: rounding to nearest, neither flush-to-zero (FTZ) nor denormals-are-zero (DAZ). The sign and payload of a
- * NaN are not specified.
+ * src == dst gives the same bits as separate arrays. All promises about bits assume the default floating-point
+ * environment, which rounds to nearest and uses neither FTZ (flush to zero) nor DAZ (denormals are zero), and do not
+ * cover the sign and payload of a NaN.
  */
 /* The declarations below are written by xfmgen from the list of families: build the target "header" to renew them. */
 #ifndef XFM_H
@@ -92,9 +92,9 @@ const xfmLibraryVersion* xfmGetLibVersion(void);
  * | XFM_SCALE_BY_SQRT_N   | 1/sqrt(N) |
  * | XFM_SCALE_NONE        | 1         |
  *
- * Every output is multiplied by s as its last operation, even by 1. Both arrays may have any alignment; multiples of 16
- * are fastest, and the bits do not depend on it. src and dst may overlap in any way: all input is read before the first
- * output is written, and dst is never read.
+ * The last operation on every output is the multiplication by s, even if s is 1. Both arrays may have any alignment;
+ * multiples of 16 are fastest, and the bits do not depend on it. src and dst may overlap in any way: all input is read
+ * before the first output is written, and dst is never read.
  * Errors, in the order of the tests: xfmStsBadSize (unsupported length, generic functions only), xfmStsNullPtr (src
  * or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
  * Sources: Cooley and Tukey 1965; Good 1958; Rader 1968; Yavne 1968; Bluestein 1970.
@@ -246,9 +246,9 @@ xfmStatus xfmDFTFwd_CToC_64_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag)
  * | XFM_SCALE_BY_SQRT_N   | 1/sqrt(N) |
  * | XFM_SCALE_NONE        | 1         |
  *
- * Every output is multiplied by s as its last operation, even by 1. Both arrays may have any alignment; multiples of 16
- * are fastest, and the bits do not depend on it. src and dst may overlap in any way: all input is read before the first
- * output is written, and dst is never read.
+ * The last operation on every output is the multiplication by s, even if s is 1. Both arrays may have any alignment;
+ * multiples of 16 are fastest, and the bits do not depend on it. src and dst may overlap in any way: all input is read
+ * before the first output is written, and dst is never read.
  * Errors, in the order of the tests: xfmStsBadSize (unsupported length, generic functions only), xfmStsNullPtr (src
  * or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
  * Sources: Cooley and Tukey 1965; Good 1958; Rader 1968; Yavne 1968; Bluestein 1970.
@@ -387,7 +387,7 @@ xfmStatus xfmDFTInv_CToC_64_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag)
  * xfmDFTFwd_RToCCS_N_TYPE
  * @{ */
 /**
- * Forward real DFT of length N, 2 to 64, in the layout CCS.
+ * Forward real DFT of length N, 2 to 64, in the CCS layout.
  *
  *     X[k] = s * sum over j of src[j] * exp(-2 pi i j k / N),   j = 0 .. N-1,   k = 0 .. N/2
  *
@@ -405,9 +405,9 @@ xfmStatus xfmDFTInv_CToC_64_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag)
  * Scalar code: the arrays may have any alignment. They may overlap in any way: all input is read before the first
  * output is written. In single precision sums are rounded to binary32, and linear combinations with constants are
  * evaluated in binary64 and rounded once.
- * Every output except the zeros that CCS stores is multiplied by s as its last operation, even by 1. Two exceptions: in
- * single precision an output that is itself a linear combination is multiplied in binary64, before it is rounded; and a
- * few outputs are subtracted from zero afterwards, to correct their sign.
+ * The last operation on every output is the multiplication by s, even if s is 1; the zeros of CCS are not multiplied.
+ * There are two exceptions: in single precision an output that is itself a linear combination is multiplied in
+ * binary64, before it is rounded; and a few outputs are subtracted from zero afterwards, to correct their sign.
  * The three layouts hold the same bits for the same input.
  * Errors, in the order of the tests: xfmStsBadSize (unsupported length, generic functions only), xfmStsNullPtr (src
  * or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
@@ -547,7 +547,7 @@ xfmStatus xfmDFTFwd_RToCCS_64_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
  * xfmDFTFwd_RToPack_N_TYPE
  * @{ */
 /**
- * Forward real DFT of length N, 2 to 64, in the layout Pack.
+ * Forward real DFT of length N, 2 to 64, in the Pack layout.
  *
  *     X[k] = s * sum over j of src[j] * exp(-2 pi i j k / N),   j = 0 .. N-1,   k = 0 .. N/2
  *
@@ -564,9 +564,9 @@ xfmStatus xfmDFTFwd_RToCCS_64_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
  * Scalar code: the arrays may have any alignment. They may overlap in any way: all input is read before the first
  * output is written. In single precision sums are rounded to binary32, and linear combinations with constants are
  * evaluated in binary64 and rounded once.
- * Every output except the zeros that CCS stores is multiplied by s as its last operation, even by 1. Two exceptions: in
- * single precision an output that is itself a linear combination is multiplied in binary64, before it is rounded; and a
- * few outputs are subtracted from zero afterwards, to correct their sign.
+ * The last operation on every output is the multiplication by s, even if s is 1; the zeros of CCS are not multiplied.
+ * There are two exceptions: in single precision an output that is itself a linear combination is multiplied in
+ * binary64, before it is rounded; and a few outputs are subtracted from zero afterwards, to correct their sign.
  * The three layouts hold the same bits for the same input.
  * Errors, in the order of the tests: xfmStsBadSize (unsupported length, generic functions only), xfmStsNullPtr (src
  * or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
@@ -706,7 +706,7 @@ xfmStatus xfmDFTFwd_RToPack_64_64f(const xfm64f* src, xfm64f* dst, int32_t flag)
  * xfmDFTFwd_RToPerm_N_TYPE
  * @{ */
 /**
- * Forward real DFT of length N, 2 to 64, in the layout Perm.
+ * Forward real DFT of length N, 2 to 64, in the Perm layout.
  *
  *     X[k] = s * sum over j of src[j] * exp(-2 pi i j k / N),   j = 0 .. N-1,   k = 0 .. N/2
  *
@@ -723,9 +723,9 @@ xfmStatus xfmDFTFwd_RToPack_64_64f(const xfm64f* src, xfm64f* dst, int32_t flag)
  * Scalar code: the arrays may have any alignment. They may overlap in any way: all input is read before the first
  * output is written. In single precision sums are rounded to binary32, and linear combinations with constants are
  * evaluated in binary64 and rounded once.
- * Every output except the zeros that CCS stores is multiplied by s as its last operation, even by 1. Two exceptions: in
- * single precision an output that is itself a linear combination is multiplied in binary64, before it is rounded; and a
- * few outputs are subtracted from zero afterwards, to correct their sign.
+ * The last operation on every output is the multiplication by s, even if s is 1; the zeros of CCS are not multiplied.
+ * There are two exceptions: in single precision an output that is itself a linear combination is multiplied in
+ * binary64, before it is rounded; and a few outputs are subtracted from zero afterwards, to correct their sign.
  * The three layouts hold the same bits for the same input.
  * Errors, in the order of the tests: xfmStsBadSize (unsupported length, generic functions only), xfmStsNullPtr (src
  * or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
@@ -865,7 +865,7 @@ xfmStatus xfmDFTFwd_RToPerm_64_64f(const xfm64f* src, xfm64f* dst, int32_t flag)
  * xfmDFTInv_CCSToR_N_TYPE
  * @{ */
 /**
- * Inverse real DFT of length N, 2 to 64, from the layout CCS.
+ * Inverse real DFT of length N, 2 to 64, from the CCS layout.
  *
  *     dst[j] = s * sum over k of X[k] * exp(+2 pi i j k / N),   j, k = 0 .. N-1,   X[N-k] = conj(X[k])
  *
@@ -883,7 +883,7 @@ xfmStatus xfmDFTFwd_RToPerm_64_64f(const xfm64f* src, xfm64f* dst, int32_t flag)
  * Scalar code: the arrays may have any alignment. They may overlap in any way: all input is read before the first
  * output is written. In single precision sums are rounded to binary32, and linear combinations with constants are
  * evaluated in binary64 and rounded once.
- * Every output is multiplied by s as its last operation, even by 1.
+ * The last operation on every output is the multiplication by s, even if s is 1.
  * The three layouts give the same bits, except for the last bit at N = 7, 20, 40, 49 and 50.
  * Errors, in the order of the tests: xfmStsBadSize (unsupported length, generic functions only), xfmStsNullPtr (src
  * or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
@@ -1023,7 +1023,7 @@ xfmStatus xfmDFTInv_CCSToR_64_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
  * xfmDFTInv_PackToR_N_TYPE
  * @{ */
 /**
- * Inverse real DFT of length N, 2 to 64, from the layout Pack.
+ * Inverse real DFT of length N, 2 to 64, from the Pack layout.
  *
  *     dst[j] = s * sum over k of X[k] * exp(+2 pi i j k / N),   j, k = 0 .. N-1,   X[N-k] = conj(X[k])
  *
@@ -1040,7 +1040,7 @@ xfmStatus xfmDFTInv_CCSToR_64_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
  * Scalar code: the arrays may have any alignment. They may overlap in any way: all input is read before the first
  * output is written. In single precision sums are rounded to binary32, and linear combinations with constants are
  * evaluated in binary64 and rounded once.
- * Every output is multiplied by s as its last operation, even by 1.
+ * The last operation on every output is the multiplication by s, even if s is 1.
  * The three layouts give the same bits, except for the last bit at N = 7, 20, 40, 49 and 50.
  * Errors, in the order of the tests: xfmStsBadSize (unsupported length, generic functions only), xfmStsNullPtr (src
  * or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
@@ -1180,7 +1180,7 @@ xfmStatus xfmDFTInv_PackToR_64_64f(const xfm64f* src, xfm64f* dst, int32_t flag)
  * xfmDFTInv_PermToR_N_TYPE
  * @{ */
 /**
- * Inverse real DFT of length N, 2 to 64, from the layout Perm.
+ * Inverse real DFT of length N, 2 to 64, from the Perm layout.
  *
  *     dst[j] = s * sum over k of X[k] * exp(+2 pi i j k / N),   j, k = 0 .. N-1,   X[N-k] = conj(X[k])
  *
@@ -1197,7 +1197,7 @@ xfmStatus xfmDFTInv_PackToR_64_64f(const xfm64f* src, xfm64f* dst, int32_t flag)
  * Scalar code: the arrays may have any alignment. They may overlap in any way: all input is read before the first
  * output is written. In single precision sums are rounded to binary32, and linear combinations with constants are
  * evaluated in binary64 and rounded once.
- * Every output is multiplied by s as its last operation, even by 1.
+ * The last operation on every output is the multiplication by s, even if s is 1.
  * The three layouts give the same bits, except for the last bit at N = 7, 20, 40, 49 and 50.
  * Errors, in the order of the tests: xfmStsBadSize (unsupported length, generic functions only), xfmStsNullPtr (src
  * or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
@@ -1354,7 +1354,7 @@ xfmStatus xfmDFTInv_PermToR_64_64f(const xfm64f* src, xfm64f* dst, int32_t flag)
  * Scalar code: the arrays may have any alignment. They may overlap in any way: all input is read before the first
  * output is written. In single precision sums are rounded to binary32, and linear combinations with constants are
  * evaluated in binary64 and rounded once.
- * Every output is multiplied by s as its last operation, even by 1.
+ * The last operation on every output is the multiplication by s, even if s is 1.
  * Errors, in the order of the tests: xfmStsBadSize (unsupported length, generic functions only), xfmStsNullPtr (src
  * or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
  * Sources: Hartley 1942; Bracewell 1983; Sorensen, Jones, Burrus and Heideman 1985; Rader 1968.
@@ -1507,8 +1507,9 @@ xfmStatus xfmHartley_64_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
  * | XFM_SCALE_BY_SQRT_N   | 1/sqrt(N) |
  * | XFM_SCALE_NONE        | 1         |
  *
- * Stages run in ascending order, additions and subtractions are in the precision of the elements, and every output is
- * multiplied by s as its last operation, even by 1: the bits are those of a plain loop nest over strides 1, 2, 4, ...
+ * Stages run in ascending order, additions and subtractions are in the precision of the elements, and the last
+ * operation on every output is the multiplication by s, even if s is 1: the bits are those of a plain loop nest over
+ * strides 1, 2, 4, ...
  * 1/sqrt(N) is a stored constant: a power of two at even orders. At odd orders it is the nearest value in binary32; in
  * binary64 it is 1 divided by the rounded root of N, which is one unit in the last place below the nearest value.
  *
@@ -1582,7 +1583,7 @@ typedef struct xfmDCT4State_64f xfmDCT4State_64f;
  * Stores the size in bytes of a state of this length in *size. It includes what aligning the block costs, so the
  * block may have any address.
  *
- * Accepted lengths: N = 2^k with 1 <= k <= 26, in double precision k <= 25. At these the result is the DCT-IV.
+ * Accepted lengths: N = 2^k with 1 <= k <= 26, in double precision k <= 25. For these the transform is the DCT-IV.
  * Hazards: some other lengths are accepted and are NOT a DCT-IV of any length. They stay as they are; do not use them.
  * - N = 2^k + 1 with 5 <= k <= 26, in double precision 3 <= k <= 25. Such a state runs the plan of 2^k with a wrong map
  *   of the indices, leaves elements of dst unwritten, and reads and writes src[N] and dst[N], one past the end.

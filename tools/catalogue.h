@@ -37,7 +37,7 @@ struct Kernel {
   int read;               ///< real scalars read from src
   int written;            ///< real scalars written to dst
   int exchanges;          ///< lane exchanges that the body must hold exactly, or -1 where none are prescribed
-  bool packed;            ///< vector body: has an aligned body and an unaligned twin
+  bool packed;            ///< vector body: has an aligned and an unaligned variant
   bool packed_math;       ///< false where the body must hold no packed arithmetic at all
   bool straight;          ///< no loop and no call
   const char* tree;       ///< breakdown

@@ -16,14 +16,14 @@ Reads N complex elements of src, writes N complex elements of dst, in natural or
 | XFM_SCALE_BY_SQRT_N   | 1/sqrt(N) |
 | XFM_SCALE_NONE        | 1         |
 
-Every output is multiplied by s as its last operation, even by 1. Both arrays may have any alignment; multiples of 16
-are fastest, and the bits do not depend on it. src and dst may overlap in any way: all input is read before the first
-output is written, and dst is never read.
+The last operation on every output is the multiplication by s, even if s is 1. Both arrays may have any alignment;
+multiples of 16 are fastest, and the bits do not depend on it. src and dst may overlap in any way: all input is read
+before the first output is written, and dst is never read.
 @ERRORS@
 Sources: Cooley and Tukey 1965; Good 1958; Rader 1968; Yavne 1968; Bluestein 1970.)";
 
 const char* const forward_real_text =
-    R"(Forward real DFT of length N, 2 to 64, in the layout @LAYOUT@.
+    R"(Forward real DFT of length N, 2 to 64, in the @LAYOUT@ layout.
 
     X[k] = s * sum over j of src[j] * exp(-2 pi i j k / N),   j = 0 .. N-1,   k = 0 .. N/2
 
@@ -38,15 +38,15 @@ Reads N elements of src; writes the half spectrum, @ELEMENTS@ elements of dst:
 | XFM_SCALE_NONE        | 1         |
 
 @COMMON@
-Every output except the zeros that CCS stores is multiplied by s as its last operation, even by 1. Two exceptions: in
-single precision an output that is itself a linear combination is multiplied in binary64, before it is rounded; and a
-few outputs are subtracted from zero afterwards, to correct their sign.
+The last operation on every output is the multiplication by s, even if s is 1; the zeros of CCS are not multiplied.
+There are two exceptions: in single precision an output that is itself a linear combination is multiplied in
+binary64, before it is rounded; and a few outputs are subtracted from zero afterwards, to correct their sign.
 The three layouts hold the same bits for the same input.
 @ERRORS@
 Sources: Sorensen, Jones, Heideman and Burrus 1987; Good 1958; Cooley and Tukey 1965; Rader 1968.)";
 
 const char* const inverse_real_text =
-    R"(Inverse real DFT of length N, 2 to 64, from the layout @LAYOUT@.
+    R"(Inverse real DFT of length N, 2 to 64, from the @LAYOUT@ layout.
 
     dst[j] = s * sum over k of X[k] * exp(+2 pi i j k / N),   j, k = 0 .. N-1,   X[N-k] = conj(X[k])
 
@@ -61,7 +61,7 @@ Writes N elements of dst; src holds the bins 0 .. N/2 in @ELEMENTS@ elements:
 | XFM_SCALE_NONE        | 1         |
 
 @COMMON@
-Every output is multiplied by s as its last operation, even by 1.
+The last operation on every output is the multiplication by s, even if s is 1.
 The three layouts give the same bits, except for the last bit at N = 7, 20, 40, 49 and 50.
 @ERRORS@
 Sources: those of the forward transforms, whose networks run transposed here (Bernstein 2006).)";
@@ -86,7 +86,7 @@ factor N, so the flags have no direction:
 | XFM_SCALE_NONE        | 1         |
 
 @COMMON@
-Every output is multiplied by s as its last operation, even by 1.
+The last operation on every output is the multiplication by s, even if s is 1.
 @ERRORS@
 Sources: Hartley 1942; Bracewell 1983; Sorensen, Jones, Burrus and Heideman 1985; Rader 1968.)";
 
@@ -109,8 +109,9 @@ factor N, so both 1/N flags mean the same here. The number in a kernel's name is
 | XFM_SCALE_BY_SQRT_N   | 1/sqrt(N) |
 | XFM_SCALE_NONE        | 1         |
 
-Stages run in ascending order, additions and subtractions are in the precision of the elements, and every output is
-multiplied by s as its last operation, even by 1: the bits are those of a plain loop nest over strides 1, 2, 4, ...
+Stages run in ascending order, additions and subtractions are in the precision of the elements, and the last
+operation on every output is the multiplication by s, even if s is 1: the bits are those of a plain loop nest over
+strides 1, 2, 4, ...
 1/sqrt(N) is a stored constant: a power of two at even orders. At odd orders it is the nearest value in binary32; in
 binary64 it is 1 divided by the rounded root of N, which is one unit in the last place below the nearest value.
 

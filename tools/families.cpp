@@ -35,10 +35,8 @@ Making real_of(Direction direction, Layout layout) {
 }
 
 Making hartley_of() {
-  return {hartley_documentation(),
-          [](int length, Precision precision, const std::string& plan, const Target&) {
-            return hartley::design(length, precision, plan);
-          }};
+  return {hartley_documentation(), [](int length, Precision precision, const std::string& plan,
+                                      const Target&) { return hartley::design(length, precision, plan); }};
 }
 
 Family generated(const char* name, int lowest, int highest, bool complex, Making making) {
@@ -65,7 +63,8 @@ gen::Kernel Family::make(int length, Precision precision, const std::string& tre
 const std::vector<Family>& families() {
   static const std::vector<Family> all = {
 #define GENERATED(name, lowest, highest, complex, making) generated(#name, lowest, highest, complex, making),
-#define BY_HAND(name, lowest, highest, documentation) Family{#name, lowest, highest, false, documentation, {}},
+#define BY_HAND(name, lowest, highest, documentation) \
+  Family{#name, lowest, highest, false, documentation, {}},
 #include "tools/families.def"
   };
   return all;

@@ -34,9 +34,8 @@ gen::Numbering exchanged(const Kernel& kernel) {
 
 void check(const Promise& promise, const Kernel& kernel, const Kernel& other) {
   gen::Programs programs(promise.equality);
-  const gen::Program own =
-      programs.read(*kernel.network, kernel.type.precision,
-                    promise.parts_exchanged ? exchanged(kernel) : kernel.numbering);
+  const gen::Program own = programs.read(*kernel.network, kernel.type.precision,
+                                         promise.parts_exchanged ? exchanged(kernel) : kernel.numbering);
   check_same(own, kernel.name(), program_of(other, programs), other.name());
 }
 

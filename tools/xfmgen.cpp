@@ -28,8 +28,8 @@ std::vector<Kernel> kernels_of(const Family& family, int length, const Target& t
   return kernels;
 }
 
-// One file a family and length: a changed row recompiles that file and no other. Length by length, so that the
-// kernels of all families can be compared.
+// One file a family and length: a changed row recompiles that file and no other. Length by length, so that
+// the kernels of all families can be compared.
 void write_all(const std::filesystem::path& out, const Target& target) {
   const auto write = [&](const std::string& name, const std::string& text) {
     xfm::gen::write_if_changed(out / name, text);
@@ -45,7 +45,8 @@ void write_all(const std::filesystem::path& out, const Target& target) {
     for (const Family* const family : all) {
       std::string& family_rows = rows[family->name];
       if (family->by_hand()) {
-        for (const auto& type : family->types()) family_rows += xfm::catalogue_row(*family, length, type, target);
+        for (const auto& type : family->types())
+          family_rows += xfm::catalogue_row(*family, length, type, target);
         continue;
       }
       std::vector<Kernel> of_family = kernels_of(*family, length, target);
@@ -105,10 +106,11 @@ void show(const Named& what, const std::string& tree, const Target& target) {
   const xfm::gen::Tree parsed = xfm::gen::parse_tree(kernel.tree);
   fmt::print("{}\n  tree       {}\n  adds       {} (row {})\n  mults      {} (row {})\n", kernel.name(),
              to_string(parsed), counts.adds, kernel.adds, counts.mults, kernel.mults);
-  fmt::print("  lanes      {}\n  packed     {} additions, {} multiplications with the factor, {} permutations, "
-             "{} loads, {} stores\n",
-             kernel.network->width(), counts.add_nodes, counts.mult_nodes, counts.permutations, counts.loads,
-             counts.stores);
+  fmt::print(
+      "  lanes      {}\n  packed     {} additions, {} multiplications with the factor, {} permutations, "
+      "{} loads, {} stores\n",
+      kernel.network->width(), counts.add_nodes, counts.mult_nodes, counts.permutations, counts.loads,
+      counts.stores);
   std::set<std::string_view> shown;
   show_rules(parsed, shown);
   xfm::gen::SharedConstants shared;

@@ -1,4 +1,4 @@
-// The loop nest itself. XFM_LOOPS_COMPILER is the part of the functions' names that tells who compiled it.
+// The loop nest itself. XFM_LOOPS_COMPILER is the part of the functions' names that identifies the compiler.
 #define XFM_PASTE(a, b, c) a##b##c
 #define XFM_NAME(compiler, suffix) XFM_PASTE(loops_, compiler, suffix)
 

@@ -13,8 +13,8 @@ void check(xfmStatus status) {
   if (status != xfmStsOk) throw std::runtime_error(fmt::format("transform failed with status {}", status));
 }
 
-/// x times h, bin by bin, both in the Perm layout: the bins without an imaginary part come first, bin 0 and
-/// for even lengths that of half the rate, then the others as pairs.
+/// x times h, bin by bin, both in the Perm layout: first the bins without an imaginary part, bin 0 and for
+/// even lengths that of half the sampling rate, then the others as pairs.
 void multiply(const std::vector<float>& h, std::vector<float>& x) {
   std::size_t e = 0;
   for (const std::size_t real = x.size() % 2 == 0 ? 2 : 1; e < real; ++e) x[e] *= h[e];
@@ -37,8 +37,8 @@ FastConvolution::FastConvolution(const std::vector<float>& h, int length)
   check(xfmDFTFwd_RToPerm_32f(spectrum_.data(), spectrum_.data(), length, XFM_SCALE_NONE));
 }
 
-// Whatever lies behind the block's samples is zero before the transform, so that the filtered block, which is
-// longer by the filter's tail, does not run into itself.
+// The block's samples are padded with zeros before the transform, so that the filtered block, which is longer
+// by the filter's tail, does not wrap around.
 void FastConvolution::run(std::span<const float> x, std::span<float> y) {
   const auto start = std::chrono::steady_clock::now();
   const auto block = static_cast<std::size_t>(block_);

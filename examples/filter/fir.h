@@ -3,7 +3,7 @@
 
 #include <vector>
 
-/// A band pass with linear phase: the ideal one under a Hamming window, sin(x)/x times a raised cosine. The
-/// band's edges are shares of the sampling rate, 0 to 1/2; the number of taps is odd. The signal comes out
-/// (taps-1)/2 samples late.
+/// A band pass with linear phase: the ideal one times a Hamming window, sin(x)/x times a raised cosine. The
+/// band's edges are fractions of the sampling rate, 0 to 1/2; the number of taps is odd. The signal is
+/// delayed by (taps-1)/2 samples.
 std::vector<float> band_pass(double low, double high, int taps);

@@ -1,5 +1,5 @@
-// Filters a sound file, and tells what the transforms cost and how right they are: forward, multiply,
-// inverse.
+// Filters a sound file by forward transform, product and inverse transform, and reports the time and the
+// accuracy of the transforms.
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
@@ -23,7 +23,7 @@
 namespace {
 
 struct Options {
-  // A reader's voice, of Debian's pocketsphinx-testdata.
+  // A reader's voice, from Debian's pocketsphinx-testdata.
   std::string sound =
       "/usr/share/pocketsphinx/test/data/librivox/sense_and_sensibility_01_austen_64kb-0870.wav";
   std::string output = "filtered.wav";
@@ -31,7 +31,7 @@ struct Options {
   int taps = 33, length = 64;
 };
 
-/// What was done, over all channels.
+/// What was done, in all channels.
 struct Work {
   std::int64_t blocks = 0, samples = 0;
   std::chrono::nanoseconds spent{};
@@ -60,7 +60,7 @@ class Channel {
     work.spent += fast_.spent();
   }
 
-  std::vector<float> x, y;  ///< the stretch at work, and what the transforms make of it
+  std::vector<float> x, y;  ///< the current stretch, and its filtered samples
 
  private:
   std::vector<double> exact_;
@@ -68,7 +68,7 @@ class Channel {
   DirectConvolution direct_;
 };
 
-/// The next samples into all channels, zeros behind the last one.
+/// Reads the next samples of all channels, with zeros after the last one.
 void read(Audio& audio, std::vector<Channel>& channels, std::int64_t done) {
   std::vector<std::span<float>> signals;
   for (Channel& channel : channels) {
@@ -83,7 +83,7 @@ void read(Audio& audio, std::vector<Channel>& channels, std::int64_t done) {
                                          audio.seconds()));
 }
 
-/// The output is as long as the input and in time with it: what the filter's delay puts in front is left out.
+/// The output is as long as the input and in time with it: the samples of the filter's delay are left out.
 Work filter(Audio& audio, Wav& wav, const Options& options, const std::vector<float>& h) {
   constexpr int blocks = 128;  // few enough to stay in the cache
   const auto stretch = static_cast<std::size_t>(blocks * (options.length - options.taps + 1));
@@ -116,10 +116,10 @@ void report(const Options& options, const Audio& audio, const Work& work) {
   fmt::print("sound    {}\n", options.sound);
   fmt::print("         {}, {} channel{}, {} Hz, {:.2f} s\n", audio.format(), audio.channels(),
              audio.channels() == 1 ? "" : "s", audio.rate(), audio.seconds());
-  fmt::print("filter   {:.0f} to {:.0f} Hz, of length {}\n", options.low, options.high, options.taps);
+  fmt::print("filter   {:.0f} to {:.0f} Hz, {} taps\n", options.low, options.high, options.taps);
   fmt::print("blocks   {} of {} samples, each xfmDFTFwd_RToPerm_32f and xfmDFTInv_PermToR_32f of {} points\n",
              work.blocks, options.length - options.taps + 1, options.length);
-  fmt::print("time     {:.1f} ns a block, {:.2f} ms in all: {:.0f} times as fast as the sound plays\n",
+  fmt::print("time     {:.1f} ns per block, {:.2f} ms in all: {:.0f} times as fast as the sound plays\n",
              ns / static_cast<double>(work.blocks), ns * 1e-6, audio.seconds() * 1e9 / ns);
   fmt::print("error    {:.1e} at most, {:.1e} r.m.s., against direct convolution in double\n", work.worst,
              std::sqrt(work.squares / static_cast<double>(work.samples)));
@@ -127,17 +127,17 @@ void report(const Options& options, const Audio& audio, const Work& work) {
 }
 
 void check(const Options& options) {
-  // The length is tested first, so null pointers are enough to ask.
+  // The length is tested first, so null pointers will do.
   if (xfmDFTFwd_RToPerm_32f(nullptr, nullptr, options.length, XFM_SCALE_NONE) == xfmStsBadSize)
-    throw std::runtime_error(fmt::format("length {} is not served", options.length));
+    throw std::runtime_error(fmt::format("length {} is not supported", options.length));
   if (options.taps < 1 || options.taps % 2 == 0 || options.taps > options.length)
     throw std::runtime_error(
-        fmt::format("{} taps: an odd number is wanted, {} at most", options.taps, options.length));
+        fmt::format("{} taps: must be an odd number, {} at most", options.taps, options.length));
   if (!(0 <= options.low && options.low < options.high))
-    throw std::runtime_error(fmt::format("{} to {} Hz is no band", options.low, options.high));
-  std::error_code missing;  // then it is another file
+    throw std::runtime_error(fmt::format("{} to {} Hz is not a band", options.low, options.high));
+  std::error_code missing;  // a missing file is another file
   if (std::filesystem::equivalent(options.sound, options.output, missing))
-    throw std::runtime_error(options.output + ": is the sound itself");
+    throw std::runtime_error(options.output + ": is the input file");
 }
 
 void run(const Options& options) {
@@ -156,12 +156,12 @@ int main(int argc, char** argv) {
   try {
     Options options;
     CLI::App app("Filters a sound file by overlap and add: real transform, product, inverse real transform.");
-    app.add_option("sound", options.sound, "WAV, FLAC, OGG or whatever libsndfile reads")
+    app.add_option("sound", options.sound, "WAV, FLAC, OGG or any other format that libsndfile reads")
         ->capture_default_str();
     app.add_option("-o,--output", options.output, "WAV to write")->capture_default_str();
     app.add_option("--from", options.low, "lower edge of the band in Hz")->capture_default_str();
     app.add_option("--to", options.high, "upper edge of the band in Hz")->capture_default_str();
-    app.add_option("-t,--taps", options.taps, "taps of the filter, an odd number")->capture_default_str();
+    app.add_option("-t,--taps", options.taps, "number of taps of the filter, odd")->capture_default_str();
     app.add_option("-n,--length", options.length, "points of a transform")->capture_default_str();
     CLI11_PARSE(app, argc, argv);
     run(options);

@@ -11,9 +11,9 @@ Dct4::Dct4(int length)
     : length_(static_cast<std::size_t>(length)), scale_(std::sqrt(2.0F / static_cast<float>(length))) {
   constexpr int longest = 1 << 16;
   xfmDCT4State_32f* state = nullptr;
-  // The library takes some lengths that are no DCT-IV; a power of two always is one.
+  // The library accepts some lengths that give no DCT-IV; powers of two are safe.
   if (length < 4 || length > longest || !std::has_single_bit(static_cast<unsigned>(length)))
-    throw std::runtime_error(fmt::format("length {} is no power of two from 4 to {}", length, longest));
+    throw std::runtime_error(fmt::format("length {} is not a power of two from 4 to {}", length, longest));
   if (xfmDCT4InitAlloc_32f(&state, length) != xfmStsOk)
     throw std::runtime_error("no memory for the transform");
   state_.reset(state);
@@ -35,8 +35,8 @@ Lapped::Lapped(Dct4& transform)
     window_[i] = static_cast<float>(std::sin(std::numbers::pi * (static_cast<double>(i) + 0.5) / (2 * n)));
 }
 
-// With the block before as (a, b) and this one as (c, d), each under its half of the window, the DCT-IV takes
-// (-reverse(c) - d, a - reverse(b)).
+// If the previous block is (a, b) and this one (c, d), each times its half of the window, the input of the
+// DCT-IV is (-reverse(c) - d, a - reverse(b)).
 const std::vector<float>& Lapped::analyse(std::span<const float> block) {
   const std::size_t n = window_.size(), half = n / 2;
   for (std::size_t i = 0; i < half; ++i) {
@@ -49,9 +49,9 @@ const std::vector<float>& Lapped::analyse(std::span<const float> block) {
   return coefficients_;
 }
 
-// What comes back is (p, q) = (-reverse(c) - d, a - reverse(b)). It unfolds to (q, -reverse(q)) for the block
-// before and
-// (-reverse(p), -p) for this one; under the window again, the mirrored parts of neighbours cancel.
+// The DCT-IV returns (p, q) = (-reverse(c) - d, a - reverse(b)). This unfolds to (q, -reverse(q)) for the
+// previous block and (-reverse(p), -p) for this one; after the window the mirrored parts of neighbours
+// cancel.
 void Lapped::synthesise(std::vector<float>& coefficients, std::span<float> block) {
   const std::size_t n = window_.size(), half = n / 2;
   transform_(coefficients);

@@ -1,4 +1,4 @@
-// A round trip of a sound through the MDCT: what a lossy codec does, without its bit stream.
+// A round trip of a sound through the MDCT: a lossy codec without its bit stream.
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
@@ -23,7 +23,7 @@
 namespace {
 
 struct Options {
-  // A reader's voice, 8.2 s, of Debian's pocketsphinx-testdata.
+  // A reader's voice, 8.2 s, from Debian's pocketsphinx-testdata.
   std::string sound =
       "/usr/share/pocketsphinx/test/data/librivox/sense_and_sensibility_01_austen_64kb-0870.wav";
   std::string output = "mdct.wav";
@@ -31,7 +31,7 @@ struct Options {
   double step = 0;
 };
 
-/// Rounds coefficients to multiples of a step, and keeps account of what a code for them would take.
+/// Rounds coefficients to multiples of a step, and counts the levels to estimate the size of a code for them.
 class Quantiser {
  public:
   explicit Quantiser(double step) : step_(static_cast<float>(step)) {}
@@ -47,7 +47,7 @@ class Quantiser {
     return coefficients;
   }
 
-  /// Entropy of the levels, if each stood for itself.
+  /// Entropy of the levels, each coded by itself.
   double bits_a_sample() const {
     double bits = 0;
     for (const auto& [level, times] : levels_) {
@@ -91,7 +91,7 @@ class RoundTrip {
         before_(block_),
         copy_(block_) {}
 
-  // What comes out is one block behind what goes in, so a block of silence follows the last one.
+  // The output is one block behind the input, so a block of silence follows the last one.
   void run(Progress& progress) {
     std::size_t before = read(before_);
     pass(before_);
@@ -111,7 +111,7 @@ class RoundTrip {
   const Quantiser& quantiser() const { return quantise_; }
 
  private:
-  /// Behind the end of the sound there is silence.
+  /// Silence follows the end of the sound.
   std::size_t read(Signals& signals) {
     const std::vector<std::span<float>> channels(signals.begin(), signals.end());
     const std::size_t got = from_.read(channels);
@@ -145,12 +145,12 @@ class RoundTrip {
 };
 
 void run(const Options& options) {
-  if (!(options.step >= 0)) throw std::runtime_error("a step is not negative");
+  if (!(options.step >= 0)) throw std::runtime_error("the step must not be negative");
   Dct4 transform(options.length);
   Audio from = about(options.sound, [&] { return Audio(options.sound); });
   std::error_code nothing_there;
   if (std::filesystem::equivalent(options.sound, options.output, nothing_there))
-    throw std::runtime_error(options.output + ": is the sound itself");
+    throw std::runtime_error(options.output + ": is the input file");
   Wav to = about(options.output, [&] { return Wav(options.output, from.rate(), from.channels()); });
   RoundTrip trip(from, to, transform, options.step);
   Progress progress(from.seconds());
@@ -163,7 +163,7 @@ void run(const Options& options) {
   fmt::print("blocks   {} samples, {} coefficients each\n", options.length, options.length);
   if (options.step > 0) {
     const double bits = trip.quantiser().bits_a_sample();
-    fmt::print("step     {}: {:.3f} bits a sample, {:.1f} kbit/s by their entropy\n", options.step, bits,
+    fmt::print("step     {}: {:.3f} bits per sample, {:.1f} kbit/s by entropy\n", options.step, bits,
                bits * from.rate() * from.channels() / 1000);
   } else {
     fmt::print("step     none\n");
@@ -177,14 +177,14 @@ void run(const Options& options) {
 int main(int argc, char** argv) {
   try {
     Options options;
-    CLI::App app("Sends a sound through the MDCT and back, its coefficients rounded on the way.");
-    app.add_option("sound", options.sound, "WAV, FLAC, OGG or whatever libsndfile reads")
+    CLI::App app("Sends a sound through the MDCT and back, and rounds its coefficients on the way.");
+    app.add_option("sound", options.sound, "WAV, FLAC, OGG or any other format that libsndfile reads")
         ->capture_default_str();
     app.add_option("-o,--output", options.output, "WAV to write")->capture_default_str();
-    app.add_option("-n,--length", options.length, "coefficients in a block, a power of two")
+    app.add_option("-n,--length", options.length, "coefficients per block, a power of two")
         ->capture_default_str();
     app.add_option("-s,--step", options.step,
-                   "round coefficients to multiples of this; full scale is 1, 0 is not at all")
+                   "round coefficients to multiples of this; full scale is 1; 0: do not round")
         ->capture_default_str();
     CLI11_PARSE(app, argc, argv);
     run(options);

@@ -1,10 +1,10 @@
-// Messages that say which file they are about.
+// Error messages that name the file.
 #pragma once
 
 #include <stdexcept>
 #include <string>
 
-/// Puts the file's name before whatever went wrong with it.
+/// Prefixes the message of any error with the file's name.
 template <typename Work>
 auto about(const std::string& file, Work work) {
   try {

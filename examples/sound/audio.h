@@ -1,4 +1,4 @@
-// A sound file as real signals, one a channel.
+// A sound file as real signals, one per channel.
 #pragma once
 
 #include <cstdint>
@@ -9,7 +9,7 @@
 
 #include <sndfile.h>
 
-/// An open sound file. All failures are std::runtime_error with a message of one line.
+/// An open sound file. All failures are std::runtime_error with a one-line message.
 class Audio {
  public:
   explicit Audio(const std::string& path);
@@ -20,8 +20,8 @@ class Audio {
   double seconds() const { return static_cast<double>(info_.frames) / info_.samplerate; }
   std::string format() const;
 
-  /// Reads the next samples of the first channels, each into an array of its own; the arrays are equally
-  /// long. Says how many there were: fewer than asked for only at the end.
+  /// Reads the next samples of the first channels, each into its own array; the arrays are equally long.
+  /// Returns how many there were: fewer than requested only at the end.
   std::size_t read(std::span<const std::span<float>> signals);
 
  private:

@@ -21,7 +21,7 @@ void Progress::operator()(double seconds) {
     if (Clock::now() - drawn_ < redraw) return;
     drawn_ = Clock::now();
     draw(seconds);
-  } else if (seconds >= next_ * whole_ && seconds < whole_) {  // the end is finish()'s to tell
+  } else if (seconds >= next_ * whole_ && seconds < whole_) {  // finish() reports the end
     draw(seconds);
     while (seconds >= next_ * whole_) next_ += quiet_step;
   }

@@ -1,4 +1,4 @@
-// How far the work has come: a live bar on a terminal, a quiet line every quarter elsewhere.
+// Progress of the work: a live bar on a terminal, a line for every quarter elsewhere.
 #pragma once
 
 #include <chrono>
@@ -8,7 +8,7 @@ class Progress {
   /// `whole` is the length of the sound in seconds.
   explicit Progress(double whole);
 
-  /// Says that the sound up to `seconds` is done.
+  /// Reports that the sound up to `seconds` is done.
   void operator()(double seconds);
 
   /// Ends the line.
@@ -20,7 +20,7 @@ class Progress {
   using Clock = std::chrono::steady_clock;
   double whole_;
   bool live_;
-  double next_ = 0;  ///< share of the whole at which the next quiet line is due
+  double next_ = 0;  ///< fraction of the whole at which the next line is due
   Clock::time_point start_ = Clock::now();
   Clock::time_point drawn_{};
 };

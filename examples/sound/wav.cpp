@@ -7,7 +7,7 @@
 #include <stdexcept>
 
 Wav::Wav(const std::string& path, int rate, int channels) {
-  std::error_code ignored;  // opening the file tells what is wrong
+  std::error_code ignored;  // opening the file reports what is wrong
   std::filesystem::create_directories(std::filesystem::path(path).parent_path(), ignored);
   if (!std::ofstream(path)) throw std::runtime_error(std::strerror(errno));
   SF_INFO info{};

@@ -1,4 +1,4 @@
-// A WAV file of 32-bit floating-point samples, to be written.
+// Writes a WAV file of 32-bit floating-point samples.
 #pragma once
 
 #include <memory>
@@ -8,15 +8,15 @@
 
 #include <sndfile.h>
 
-/// All failures are std::runtime_error with a message of one line.
+/// All failures are std::runtime_error with a one-line message.
 class Wav {
  public:
-  /// Folders that the path names are made.
+  /// Creates the folders in the path.
   Wav(const std::string& path, int rate, int channels);
 
-  /// The next samples of all channels; the arrays are equally long.
+  /// Writes the next samples of all channels; the arrays are equally long.
   void write(std::span<const std::span<const float>> signals);
-  /// Says whether all of it has reached the file.
+  /// Throws unless everything has reached the file.
   void close();
 
  private:

@@ -1,4 +1,4 @@
-// Draws the spectrogram of a sound file, and tells what the transforms cost.
+// Draws the spectrogram of a sound file, and reports the time of the transforms.
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
@@ -20,7 +20,7 @@
 namespace {
 
 struct Options {
-  // An orchestra in stereo, 310 s: first movement of the second Brandenburg concerto, of Debian's
+  // An orchestra in stereo, 310 s: first movement of the second Brandenburg concerto, from Debian's
   // gamine-data.
   std::string sound = "/usr/share/games/gamine/sounds/BachJSBrandenburgConcertNo2inFMajorBWV1047mvmt1.ogg";
   std::string picture = "spectrogram.png";
@@ -32,7 +32,7 @@ struct Band {
   double level;      ///< dB
 };
 
-/// The band that holds most power over the whole time.
+/// The band with the most power over the whole time.
 Band loudest(const Spectrogram& s, int channel, int rate) {
   Band best{};
   double most = -1;
@@ -55,7 +55,7 @@ void report(const Options& options, const Audio& audio, const Spectrogram& s) {
              audio.channels() == 1 ? "" : "s", audio.rate(), audio.seconds());
   fmt::print("frames   {} of {} samples, one every {}\n", s.frames, s.length, s.hop);
   const std::int64_t calls = s.frames * s.channels();
-  fmt::print("calls    {} of xfmDFTFwd_RToCCS_32f, {:.1f} ns a call, {:.2f} ms in all\n", calls,
+  fmt::print("calls    {} of xfmDFTFwd_RToCCS_32f, {:.1f} ns per call, {:.2f} ms in all\n", calls,
              ns / static_cast<double>(calls), ns * 1e-6);
   for (int channel = 0; channel < s.channels(); ++channel) {
     const Band band = loudest(s, channel, audio.rate());
@@ -70,7 +70,7 @@ void report(const Options& options, const Audio& audio, const Spectrogram& s) {
 void run(const Options& options) {
   if (!served(options.length))
     throw std::runtime_error(
-        fmt::format("length {} is not served, the longest is {}", options.length, longest_length()));
+        fmt::format("length {} is not supported, the longest is {}", options.length, longest_length()));
 
   Audio audio = about(options.sound, [&] { return Audio(options.sound); });
   const Spectrogram spectrogram = about(options.sound, [&] {
@@ -93,7 +93,7 @@ int main(int argc, char** argv) {
   try {
     Options options;
     CLI::App app("Draws the spectrogram of a sound file: every window of a channel is one real transform.");
-    app.add_option("sound", options.sound, "WAV, FLAC, OGG or whatever libsndfile reads")
+    app.add_option("sound", options.sound, "WAV, FLAC, OGG or any other format that libsndfile reads")
         ->capture_default_str();
     app.add_option("-o,--output", options.picture, "PNG to write")->capture_default_str();
     app.add_option("-n,--length", options.length, "samples in a window, points of a transform")

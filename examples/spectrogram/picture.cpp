@@ -24,7 +24,7 @@ constexpr int canvas_width = left + widest + right;
 
 constexpr float silence = 1e-12F;  // power below which all is -120 dB
 
-// "Inferno": equal steps in decibels look like equal steps, also in print and to the colour-blind.
+// "Inferno": equal steps in decibels look like equal steps, even in print and to the colour-blind.
 constexpr const char* palette =
     "0 '#000004', 1 '#1b0c42', 2 '#4b0c6b', 3 '#781c6d', 4 '#a52c60', 5 '#cf4446', 6 '#ed6925', 7 '#fb9a06', "
     "8 '#f7d03c', 9 '#fcffa4'";
@@ -35,7 +35,7 @@ struct Range {
   double low, high;
 };
 
-/// From the loudest cell down to where only two in a hundred are quieter, 20 to 80 dB in all, in whole fives.
+/// From the loudest cell down to where only two in a hundred are quieter: 20 to 80 dB, in multiples of five.
 Range colours(const Spectrogram& s, int channels) {
   std::vector<float> all;
   for (int channel = 0; channel < channels; ++channel)
@@ -54,7 +54,7 @@ std::string quoted(const std::string& text) {
   return out + "'";
 }
 
-/// A pipe to gnuplot that tells, once and in words, when gnuplot could not do its work.
+/// A pipe to gnuplot, which throws a readable message if gnuplot fails.
 class Gnuplot {
  public:
   Gnuplot() : pipe_(popen("gnuplot 2>/dev/null", "w")) {  // NOLINT(cert-env33-c): a fixed command
@@ -83,9 +83,9 @@ class Gnuplot {
   std::FILE* pipe_;
 };
 
-/// Two rows for every bin but one for the zero frequency and for half the sampling rate, whose bands are cut
-/// in the middle by the edges of the axis: `length` rows of equal height in all, for even and odd lengths
-/// alike.
+/// Two rows for every bin, but one each for the zero frequency and for half the sampling rate, whose bands
+/// are cut in the middle by the edges of the axis: `length` rows of equal height in all, for even and odd
+/// lengths alike.
 std::vector<float> bands(const Spectrogram& s, int channel) {
   std::vector<float> rows;
   for (int row = 0; row < s.length; ++row)
@@ -94,7 +94,7 @@ std::vector<float> bands(const Spectrogram& s, int channel) {
   return rows;
 }
 
-/// Where things stand on the canvas: pixels from the top left, told to gnuplot as shares of the whole.
+/// Positions on the canvas: pixels from the top left, which gnuplot takes as fractions of the whole.
 double across(int pixels) { return static_cast<double>(pixels) / canvas_width; }
 
 struct Layout {
@@ -134,7 +134,7 @@ void draw_scale(Gnuplot& plot, const Layout& layout, const Range& range) {
            layout.down(foot), across(18), layout.down(top) - layout.down(foot));
 }
 
-/// One channel. Time runs from the first sample to the last; a column stands where its windows do.
+/// One channel. Time runs from the first sample to the last; a column is drawn where its windows are.
 void draw_panel(Gnuplot& plot, const Layout& layout, const Spectrogram& s, const Caption& caption,
                 int channel) {
   const bool last = channel == layout.panels - 1;
@@ -161,7 +161,7 @@ void draw_panel(Gnuplot& plot, const Layout& layout, const Spectrogram& s, const
 void draw(const Spectrogram& s, const Caption& caption, const std::string& path) {
   std::signal(SIGPIPE, SIG_IGN);  // a gnuplot that ends early is reported below, not fatal
   const auto file = std::filesystem::absolute(path);
-  std::error_code ignored;  // what matters is whether the file can be written
+  std::error_code ignored;  // it matters only whether the file can be written
   std::filesystem::create_directories(file.parent_path(), ignored);
   if (!std::ofstream(file)) throw std::runtime_error(std::strerror(errno));
 

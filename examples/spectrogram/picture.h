@@ -5,7 +5,7 @@
 
 #include "spectrum.h"
 
-/// What the picture says besides the data.
+/// The text around the data.
 struct Caption {
   std::string title;
   int channels = 1;  ///< panels: one, or left above right
@@ -13,8 +13,8 @@ struct Caption {
   double seconds = 0;
 };
 
-/// Widest picture in columns of time, each drawn as one pixel.
+/// Width of the picture in columns of time, at most; each is one pixel.
 constexpr int widest = 1400;
 
-/// Writes a PNG. Each bin is a flat band as high as its share of the frequency axis: nothing is interpolated.
+/// Writes a PNG. Each bin is a flat band as high as its part of the frequency axis: nothing is interpolated.
 void draw(const Spectrogram& spectrogram, const Caption& caption, const std::string& path);

@@ -15,7 +15,7 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 constexpr std::int64_t batch =
-    128;  // windows between two looks at the clock: few enough to stay in the cache
+    128;  // windows between two readings of the clock: few enough to stay in the cache
 
 std::vector<float> hann(int length) {
   std::vector<float> window(static_cast<std::size_t>(length));
@@ -28,14 +28,14 @@ std::vector<float> hann(int length) {
 /// Elements of a half spectrum in the CCS layout: bins 0 to length/2 as pairs.
 int spectrum_elements(int length) { return 2 * (length / 2 + 1); }
 
-/// Lays the windows of a stretch of signal side by side, each weighted, with room for its spectrum.
+/// Copies the windows of a stretch of signal side by side, each weighted, with room for its spectrum.
 void cut(const float* signal, std::int64_t frames, int hop, const std::vector<float>& window, float* out) {
   const int stride = spectrum_elements(static_cast<int>(window.size()));
   for (std::int64_t frame = 0; frame < frames; ++frame, signal += hop, out += stride)
     for (std::size_t n = 0; n < window.size(); ++n) out[n] = signal[n] * window[n];
 }
 
-/// All transforms of a batch, in place, with nothing else between the two looks at the clock.
+/// All transforms of a batch, in place, with nothing else between the two readings of the clock.
 std::chrono::nanoseconds transform(float* data, std::int64_t frames, int length) {
   xfmStatus status = xfmStsOk;
   const int stride = spectrum_elements(length);
@@ -47,7 +47,7 @@ std::chrono::nanoseconds transform(float* data, std::int64_t frames, int length)
   return spent;
 }
 
-/// In CCS a bin is a complex number, bin 0 and that of half the rate too.
+/// In CCS every bin is a complex number, even bin 0 and that of half the sampling rate.
 void add_powers(const float* spectrum, Spectrogram& picture, std::size_t channel, int column) {
   for (int k = 0; k < picture.bins; ++k) {
     const float re = *spectrum++, im = *spectrum++;
@@ -55,7 +55,7 @@ void add_powers(const float* spectrum, Spectrogram& picture, std::size_t channel
   }
 }
 
-/// What is left of each signal behind its first samples.
+/// The rest of each signal after its first samples.
 std::vector<std::span<float>> behind(std::vector<std::vector<float>>& signals, std::size_t first) {
   std::vector<std::span<float>> rest;
   rest.reserve(signals.size());
@@ -87,7 +87,7 @@ void normalise(Spectrogram& picture, const std::vector<std::int64_t>& windows) {
 }  // namespace
 
 bool served(int length) {
-  // The length is tested first, so null pointers are enough to ask.
+  // The length is tested first, so null pointers will do.
   return xfmDFTFwd_RToCCS_32f(nullptr, nullptr, length, XFM_SCALE_NONE) != xfmStsBadSize;
 }
 

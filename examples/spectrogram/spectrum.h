@@ -8,14 +8,14 @@
 
 #include "sound/audio.h"
 
-/// What the analysis found: for each channel the mean power of every bin 0..length/2 in every column of time.
-/// A sine of full scale in the middle of a bin has the power 1.
+/// The result of the analysis: for each channel the mean power of every bin 0..length/2 in each column of
+/// time. A sine of full scale in the middle of a bin has the power 1.
 struct Spectrogram {
   int length = 0;  ///< samples in a window, points of a transform
   int hop = 0;     ///< samples from one window to the next
   int bins = 0;
   int columns = 0;
-  std::int64_t frames = 0;            ///< windows of a channel, each of them one call of the library
+  std::int64_t frames = 0;            ///< windows of a channel, each one call of the library
   std::chrono::nanoseconds inside{};  ///< time spent in the calls
   std::vector<std::vector<float>>
       power;  ///< left and right, or the only one: power[channel][bin * columns + column]
@@ -27,10 +27,10 @@ struct Spectrogram {
   }
 };
 
-/// Whether the library serves a length, and the longest that it serves: it is asked, nothing is assumed.
+/// Whether the library supports a length, and the longest that it supports: nothing is assumed.
 bool served(int length);
 int longest_length();
 
-/// Analyses the whole file with Hann windows that overlap by three quarters, into no more columns than given.
+/// Analyses the whole file with Hann windows that overlap by three quarters, into at most `columns` columns.
 /// Calls `progress` now and then with the seconds of sound that are done.
 Spectrogram analyse(Audio& audio, int length, int columns, const std::function<void(double)>& progress);

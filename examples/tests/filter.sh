@@ -8,7 +8,7 @@ trap 'rm -rf "$PWD"' EXIT
 
 fail() { echo "FAILED: $*"; exit 1; }
 
-# filters ARGUMENT... : the run succeeds, and what it says of its error is that of binary32.
+# filters ARGUMENT... : the run succeeds, and reports an error as small as binary32 allows.
 filters() {
   "$filter" "$@" -o out.wav >report 2>errors || fail "status $?: $(cat errors)"
   cat report
@@ -18,7 +18,7 @@ filters() {
 
 says() { grep -Eq "$1" report || fail "the report lacks: $1"; }
 
-# hears PATTERN... : what the spectrogram says of the result.
+# hears PATTERN... : the report of the spectrogram of the result.
 hears() {
   "$spectrogram" out.wav -o out.png --length 16 >report 2>errors || fail "status $?: $(cat errors)"
   cat report
@@ -37,7 +37,7 @@ refuses() {
 }
 
 case $case in
-  wav | flac | ogg) # The tone of the left channel passes as it is, that of the right one is gone.
+  wav | flac | ogg) # The tone of the left channel passes unchanged, that of the right one is gone.
     "$tones" "tones.$case" 2
     filters "tones.$case" --to 3500
     says '2 channels, 16000 Hz, 1.00 s'
@@ -62,7 +62,7 @@ case $case in
     done
     ;;
   missing) refuses 'nothing.wav: No such file or directory' nothing.wav ;;
-  damaged) # The head promises a second of sound, the rest was lost.
+  damaged) # The header promises a second of sound, but the rest is missing.
     "$tones" whole.flac 2
     head -c 6000 whole.flac >half.flac
     refuses 'half.flac: damaged: .+' half.flac
@@ -73,14 +73,14 @@ case $case in
     ;;
   itself)
     "$tones" tones.wav 1
-    refuses 'tones.wav: is the sound itself' tones.wav -o ./tones.wav
+    refuses 'tones.wav: is the input file' tones.wav -o ./tones.wav
     ;;
   unserved)
     "$tones" tones.wav 1
-    refuses 'length 65 is not served' tones.wav --length 65
-    refuses '65 taps: an odd number is wanted, 64 at most' tones.wav --taps 65
-    refuses '4 taps: an odd number is wanted, 64 at most' tones.wav --taps 4
-    refuses '3000 to 2000 Hz is no band' tones.wav --from 3000 --to 2000
+    refuses 'length 65 is not supported' tones.wav --length 65
+    refuses '65 taps: must be an odd number, 64 at most' tones.wav --taps 65
+    refuses '4 taps: must be an odd number, 64 at most' tones.wav --taps 4
+    refuses '3000 to 2000 Hz is not a band' tones.wav --from 3000 --to 2000
     ;;
   *) fail "no such case" ;;
 esac

@@ -8,8 +8,8 @@ trap 'rm -rf "$PWD"' EXIT
 
 fail() { echo "FAILED: $*"; exit 1; }
 
-# travels SOUND ARGUMENT... : the run succeeds, leaves a copy as long as the sound, and tells the truth about it. The
-# ratio is left in $ratio.
+# travels SOUND ARGUMENT... : the run succeeds, writes a copy as long as the sound, and reports its true ratio, which is
+# left in $ratio.
 travels() {
   "$mdct" "$@" -o out/copy.wav >report 2>errors || fail "status $?: $(cat errors)"
   cat report
@@ -35,23 +35,23 @@ refuses() {
 [ "$case" = missing ] || "$tones" tones.wav 2
 
 case $case in
-  exact) # Without rounding only the arithmetic is left.
+  exact) # Without rounding only the error of the arithmetic remains.
     travels tones.wav
     says '2 channels, 16000 Hz, 1.00 s'
     says '^step     none$'
     holds "$ratio > 120"
     ;;
-  lengths) # Blocks that end with the sound, that do not, and one that is longer.
+  lengths) # Blocks that end with the sound, blocks that do not, and one that is longer.
     for length in 4 8 32 64 128 2048 4096 65536; do
       travels tones.wav --length "$length"
       holds "$ratio > 120"
     done
     ;;
-  rounded) # The noise of rounding is at most what it is where all remainders are equally likely.
+  rounded) # Rounding makes at most as much noise as when all remainders are equally likely.
     signal=-9.03 last=0
     for step in 0.3 0.03 0.003 0.0003 0.0001; do
       travels tones.wav --length 256 --step "$step"
-      says "^step     $step: [0-9.]+ bits a sample"
+      says "^step     $step: [0-9.]+ bits per sample"
       holds "$ratio > $signal + 10 * log(12 / ($step * $step)) / log(10) - 0.5"
       holds "$ratio > $last + 5"
       last=$ratio
@@ -81,11 +81,11 @@ case $case in
   unwritable) refuses 'tones.wav/copy.wav: Not a directory' tones.wav -o tones.wav/copy.wav ;;
   unserved)
     for length in 0 2 3 65 1000 131072; do
-      refuses "length $length is no power of two from 4 to 65536" tones.wav --length "$length"
+      refuses "length $length is not a power of two from 4 to 65536" tones.wav --length "$length"
     done
     ;;
   itself)
-    refuses 'tones.wav: is the sound itself' tones.wav -o ./tones.wav
+    refuses 'tones.wav: is the input file' tones.wav -o ./tones.wav
     travels tones.wav
     ;;
   *) fail "no such case" ;;

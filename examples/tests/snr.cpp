@@ -1,4 +1,4 @@
-// Tells how far a copy of a sound is from it: the signal-to-noise ratio in dB, over all channels.
+// Prints how far a copy is from a sound: the signal-to-noise ratio in dB, over all channels.
 #include <cmath>
 #include <stdexcept>
 #include <string>

@@ -8,7 +8,7 @@ trap 'rm -rf "$PWD"' EXIT
 
 fail() { echo "FAILED: $*"; exit 1; }
 
-# draws ARGUMENT... : the run succeeds and leaves a PNG as wide as it should be.
+# draws ARGUMENT... : the run succeeds and writes a PNG of the right width.
 draws() {
   "$spectrogram" "$@" -o out/picture.png >report 2>errors || fail "status $?: $(cat errors)"
   cat report
@@ -31,7 +31,7 @@ refuses() {
 }
 
 case $case in
-  wav | flac | ogg) # The two channels come apart: each has its own tone at half of the full scale.
+  wav | flac | ogg) # The two channels are separate: each has its own tone at half of full scale.
     "$tones" "tones.$case" 2
     draws "tones.$case" --length 16
     says '2 channels, 16000 Hz, 1.00 s'
@@ -44,7 +44,7 @@ case $case in
     draws tones.wav --length 16
     says '^loudest  1500 to 2500 Hz, -6.[01] dB$'
     ;;
-  lengths) # The longest length there is, and odd and tiny ones.
+  lengths) # The longest length, and odd and tiny ones.
     "$tones" tones.wav 2
     for length in '' 2 3 5 9; do draws tones.wav ${length:+--length $length}; done
     ;;
@@ -53,7 +53,7 @@ case $case in
     yes 'not a sound' | head -c 10000 >text.wav || true
     refuses 'text.wav: .+' text.wav
     ;;
-  damaged) # The head promises a second of sound, the rest was lost.
+  damaged) # The header promises a second of sound, but the rest is missing.
     "$tones" whole.flac 2
     head -c 6000 whole.flac >half.flac
     refuses 'half.flac: damaged: .+' half.flac
@@ -69,7 +69,7 @@ case $case in
     ;;
   unserved)
     "$tones" tones.wav 1
-    refuses 'length 65 is not served, the longest is [0-9]+' tones.wav --length 65
+    refuses 'length 65 is not supported, the longest is [0-9]+' tones.wav --length 65
     ;;
   gnuplot)
     "$tones" tones.wav 1

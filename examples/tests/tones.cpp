@@ -1,5 +1,5 @@
 // Makes a sound file for the tests: one second at 16 kHz, 2 kHz on the left, 5 kHz on the right, both at half
-// of the full scale. The file's name says the format.
+// of full scale. The extension of the file selects the format.
 #include <cmath>
 #include <numbers>
 #include <string>

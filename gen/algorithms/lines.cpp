@@ -15,8 +15,8 @@ Lines LineTransform::run(const Tree& tree, const Lines& x, Direction direction) 
 
 // The block on all instances, as many at a time as there are lanes. Instances whose inputs are zero at the
 // same places go together, so that a block computes nothing with zeros. The blocks are forward; an inverse
-// one is the exchange of real and imaginary parts around it, or the conjugate of its points in the interleaved
-// form.
+// one is the exchange of real and imaginary parts around it, or the conjugate of its points in the
+// interleaved form.
 Lines LineTransform::each(const Lines& x, const Block& block, Direction direction) {
   Lines out(x.size());
   for (const Sequence<int>& group : groups(x)) {

@@ -3,8 +3,8 @@
 // A stage that has I like transforms of length a*b runs I*b transforms of length a, then I*a of length b, and
 // so on down; only the base blocks are packed. So the parallelism inside a transform fills lanes that the
 // stage around it leaves idle, and the operation tree of every output stays. Instances are ordered with the
-// outer index fastest, which keeps neighbours in neighbouring lanes and saves most permutations. With one lane
-// this is the plain composition.
+// outer index fastest, which keeps neighbours in neighbouring lanes and saves most permutations. With one
+// lane this is the plain composition.
 #pragma once
 
 #include <functional>

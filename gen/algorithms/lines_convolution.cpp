@@ -1,6 +1,6 @@
-// Complex transforms as convolutions: Rader's algorithm for primes (Rader 1968; rader.cpp has its formulas) and
-// Bluestein's chirp algorithm (Bluestein 1970). With j*k = (j^2 + k^2 - (k-j)^2)/2 a transform of odd length N
-// becomes a convolution with a chirp, done by two transforms of a convenient length L >= 2N-1:
+// Complex transforms as convolutions: Rader's algorithm for primes (Rader 1968; rader.cpp has its formulas)
+// and Bluestein's chirp algorithm (Bluestein 1970). With j*k = (j^2 + k^2 - (k-j)^2)/2 a transform of odd
+// length N becomes a convolution with a chirp, done by two transforms of a convenient length L >= 2N-1:
 //   h[j] = exp(-2 pi i e(j)/N),  e(j) = j^2 (N+1)/2 mod N,  X[k] = h[k] sum_j (x[j] h[j]) conj(h[k-j]).
 // The zeros behind the N inputs are never read or multiplied, and outputs beyond the first N are never
 // computed.
@@ -11,8 +11,8 @@
 
 namespace xfm::gen {
 
-// 1/M is folded into B, and x0 joins at the bin of frequency zero, X0 = x0 + A[0] and Y[0] = x0 + B[0]*A[0], so
-// that the transform back spreads it over all outputs.
+// 1/M is folded into B, and x0 joins at the bin of frequency zero, X0 = x0 + A[0] and Y[0] = x0 + B[0]*A[0],
+// so that the transform back spreads it over all outputs.
 Lines LineTransform::rader(const Tree& tree, const Lines& x, Direction direction) {
   const Tree& inner = *rader_arguments(tree).there;
   const int m = length_of(inner), n = m + 1;

@@ -1,5 +1,5 @@
-// The rules of the breakdowns: what a name in a tree means. A rule is a record, and parsing, lengths, dispatch
-// and what xfmgen shows of a tree follow from the table of records.
+// The rules of the breakdowns: what a name in a tree means. A rule is a record, and parsing, lengths,
+// dispatch and what xfmgen shows of a tree follow from the table of records.
 #pragma once
 
 #include <span>
@@ -13,12 +13,12 @@ namespace xfm::gen {
 
 struct Rule {
   std::string_view name;
-  std::string_view children;          ///< the shape of its arguments, for messages
-  bool (*applicable)(const Tree&);    ///< whether a tree's arguments have that shape
-  int (*length)(const Tree&);         ///< the length that it transforms
-  bool shorter = false;               ///< and any shorter odd one
+  std::string_view children;        ///< the shape of its arguments, for messages
+  bool (*applicable)(const Tree&);  ///< whether a tree's arguments have that shape
+  int (*length)(const Tree&);       ///< the length that it transforms
+  bool shorter = false;             ///< and any shorter odd one
   Points (Transform::*on_points)(const Tree&, const Points&, int instance) const = nullptr;
-  bool by_halves = false;             ///< complex sequences as two real ones, joined at the end
+  bool by_halves = false;  ///< complex sequences as two real ones, joined at the end
   Points (Transform::*on_skew)(const Tree&, const Points&) const = nullptr;
   Lines (LineTransform::*on_lines)(const Tree&, const Lines&, Direction) = nullptr;  ///< or as a block
   std::string_view formula;

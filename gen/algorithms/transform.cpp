@@ -92,8 +92,8 @@ Points Transform::fork(const Tree& tree, const Points& x, int /*instance*/) cons
   return out;
 }
 
-// z times exp(-2 pi i t). Quarter turns cost nothing. As linear combinations, eighths take two products, a sum
-// and a difference.
+// z times exp(-2 pi i t). Quarter turns cost nothing. As linear combinations, eighths take two products, a
+// sum and a difference.
 Complex Transform::rotated(const Complex& z, Turn t) const {
   const ComplexConstant w = root_of_unity(t);
   if (!combines() || 4 % t.den == 0) return w * z;

@@ -3,8 +3,8 @@
 // Points are p + i*q; a sequence whose q are all absent is real, its spectrum is Hermitian, and only half of
 // each stage is computed: the other bins are conjugates, which cost nothing. A complex sequence is either
 // carried through the stages as it is, or taken as two real ones that join at the end, as the rule says.
-// Where a value is a whole complex number in two lanes and all coefficients are real, its complex sequences are
-// "real" in this sense too.
+// Where a value is a whole complex number in two lanes and all coefficients are real, its complex sequences
+// are "real" in this sense too.
 //
 // A transform run from its bins to its samples is its network transposed (transposition.h).
 #pragma once
@@ -75,14 +75,13 @@ Points halves(const Points& x, Value Complex::*half);
 /// places.
 Points open_split_radix(const Points& x);
 
-/// The bins of a real sequence, or those halfway between: each is put with its mirror image, the conjugate, and
-/// what is there already stays.
+/// The bins of a real sequence, or those halfway between: each is put with its mirror image, the conjugate,
+/// and what is there already stays.
 class Spectrum {
  public:
   /// Bin k mirrors bin -k of a plain spectrum, -k - 1 of a skew one.
   enum class Kind { plain, skew };
-  explicit Spectrum(int length, Kind kind = Kind::plain)
-      : kind_(kind), bins_(length), known_(length) {}
+  explicit Spectrum(int length, Kind kind = Kind::plain) : kind_(kind), bins_(length), known_(length) {}
 
   void put(int k, const Complex& z);
   const Points& bins() const { return bins_; }

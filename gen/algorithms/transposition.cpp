@@ -13,9 +13,7 @@ Complex product(const ScaledComplex& term) {
 
 }  // namespace
 
-void Transposition::receive(NodeId node, const ScaledComplex& weight) {
-  sent_[node].push_back(weight);
-}
+void Transposition::receive(NodeId node, const ScaledComplex& weight) { sent_[node].push_back(weight); }
 
 void Transposition::send(Value output, const Complex& weight) {
   if (!output.absent()) receive(output.node, output.negative ? -weight : weight);

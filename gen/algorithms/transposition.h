@@ -3,8 +3,8 @@
 // For y = A x the transpose computes A^T w at the same cost (Tellegen's principle; Bernstein 2006 for its
 // history). Walking from the outputs to the inputs, each node's value is the sum of what its users send: an
 // addition sends its value to both operands, a subtraction sends it to one and its negative to the other, a
-// product or a linear combination sends it multiplied. Where linear combinations round once, so does such a sum
-// with products.
+// product or a linear combination sends it multiplied. Where linear combinations round once, so does such a
+// sum with products.
 #pragma once
 
 #include "gen/network/complex.h"

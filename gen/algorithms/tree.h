@@ -20,9 +20,9 @@
 namespace xfm::gen {
 
 struct Tree {
-  std::string rule;        ///< "PFA", "PFA*", "CT", "SR", "R", "B", "x", "*", ...; empty for a plain number
-  int number = 0;          ///< the number, where rule is empty
-  Sequence<Tree> args{};   ///< the rule's arguments
+  std::string rule;       ///< "PFA", "PFA*", "CT", "SR", "R", "B", "x", "*", ...; empty for a plain number
+  int number = 0;         ///< the number, where rule is empty
+  Sequence<Tree> args{};  ///< the rule's arguments
 
   bool is_number() const { return rule.empty(); }
 };
@@ -44,8 +44,8 @@ void check_length(const Tree& tree, int length);
 Tree first_of(const Tree& tree);
 Tree rest_of(const Tree& tree);
 
-/// Rader's arguments, R([root,] there [, back [, skew]]): the root where it is given, the transform there, and
-/// those back, which are that of the real parts and that of the imaginary parts.
+/// Rader's arguments, R([root,] there [, back [, skew]]): the root where it is given, the transform there,
+/// and those back, which are that of the real parts and that of the imaginary parts.
 struct RaderArguments {
   std::optional<int> root;
   const Tree *there, *back, *skew;

@@ -6,8 +6,8 @@
 // the transform is truly two-dimensional, and the twiddles W_N^(c*k1) are gone.
 //
 // Of real sequences the rows above a/2 are conjugates of those below (Sorensen, Jones, Heideman and Burrus
-// 1987). Cooley-Tukey turns the row a/2 of an even a by half a bin: it is a real sequence's skew transform, or
-// a complex one after its twiddles.
+// 1987). Cooley-Tukey turns the row a/2 of an even a by half a bin: it is a real sequence's skew transform,
+// or a complex one after its twiddles.
 #include "gen/algorithms/transform.h"
 #include "gen/math/number.h"
 

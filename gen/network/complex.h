@@ -1,8 +1,8 @@
 // Complex values in a network: p + i*q, each half a value of its own or absent.
 //
 // In the planar form p and q are the real and the imaginary part. In the interleaved form a node holds whole
-// complex numbers, the network has real coefficients only, and p + i*q carries a factor i that is never formed
-// before the last step. The same recipes serve both.
+// complex numbers, the network has real coefficients only, and p + i*q carries a factor i that is never
+// formed before the last step. The same recipes serve both.
 #pragma once
 
 #include <initializer_list>

@@ -61,7 +61,9 @@ class Counter {
   void lane(NodeId id, int l) {
     const Node& node = network_.node(id);
     const int width = network_.width();
-    const auto zero = [&](int operand) -> bool { return zero_[node.in[static_cast<std::size_t>(operand)]][l]; };
+    const auto zero = [&](int operand) -> bool {
+      return zero_[node.in[static_cast<std::size_t>(operand)]][l];
+    };
     if (node.op == Op::add || node.op == Op::sub) {
       zero_[id][l] = zero(0) && zero(1);
       if (live_[id][l] && !zero(0) && !zero(1)) ++counts_.adds;
@@ -75,9 +77,9 @@ class Counter {
 
   void combination(const Node& node) {
     const int adds = node.terms.size() - 1;
-    const auto mults = static_cast<int>(std::count_if(node.terms.begin(), node.terms.end(), [](const Term& t) {
-      return !magnitude(t.coefficient).is_one();
-    }));
+    const auto mults =
+        static_cast<int>(std::count_if(node.terms.begin(), node.terms.end(),
+                                       [](const Term& t) { return !magnitude(t.coefficient).is_one(); }));
     const int minus = node.finish == Finish::negated ? 1 : 0;
     counts_.adds += adds + minus;
     counts_.mults += mults;

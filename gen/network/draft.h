@@ -1,4 +1,5 @@
-// A scalar network before it is bound to memory: its loads are numbered inputs, its outputs values with signs.
+// A scalar network before it is bound to memory: its loads are numbered inputs, its outputs values with
+// signs.
 #pragma once
 
 #include <memory>

@@ -22,9 +22,9 @@ using NodeId = int;
 using PerLane = Sequence<int>;
 
 enum class Op {
-  load,         ///< lanes from memory
-  permute,      ///< lanes picked from one or two nodes
-  sign_flip,    ///< the signs of some lanes change
+  load,       ///< lanes from memory
+  permute,    ///< lanes picked from one or two nodes
+  sign_flip,  ///< the signs of some lanes change
   add,
   sub,
   mul,          ///< times a constant, the same in all lanes or one for each lane
@@ -66,7 +66,8 @@ inline bool scales(Finish finish) { return finish == Finish::scaled || finish ==
 struct Node {
   Op op;
   std::array<NodeId, 2> in{-1, -1};
-  PerLane lanes{};  ///< load: scalar index or -1; permute: lane of in[0], from the width on of in[1]; sign_flip: 0 or 1
+  PerLane lanes{};  ///< load: scalar index or -1; permute: lane of in[0], from the width on of in[1];
+                    ///< sign_flip: 0 or 1
   Sequence<Constant> constants{};  ///< mul: one for all lanes or one for each
   Sequence<Term> terms{};          ///< combination
   Finish finish = Finish::none;    ///< combination
@@ -118,8 +119,8 @@ class Network {
   /// The operation of another network's node on these operands; not for linear combinations, which have more.
   Value repeat(const Node& node, Value a, Value b);
 
-  /// The sum of the products c*v, left to right: one linear combination with this finish, or an operation at a
-  /// time, as the rounding rule says.
+  /// The sum of the products c*v, left to right: one linear combination with this finish, or an operation at
+  /// a time, as the rounding rule says.
   struct Product {
     Constant c;
     Value v;

@@ -56,14 +56,10 @@ class ProgramReader {
         return lane(node.in[node.lanes[l] < network_.width() ? 0 : 1], node.lanes[l] % network_.width());
       case Op::sign_flip:
         return node.lanes[l] == 1 ? -in(0) : in(0);
-      case Op::add: {
-        const Result a = in(0), b = in(1);
-        return programs_.add(a, b, precision_);
-      }
-      case Op::sub: {
-        const Result a = in(0), b = in(1);
-        return programs_.add(a, -b, precision_);
-      }
+      case Op::add:
+        return programs_.add(in(0), in(1), precision_);
+      case Op::sub:
+        return programs_.add(in(0), -in(1), precision_);
       case Op::mul:
         return programs_.mul(rounded(node.constant(l).value, precision_), in(0), precision_);
       case Op::twice:
@@ -150,38 +146,32 @@ Result Programs::mul(double constant, Result a, Precision precision) {
 
 namespace {
 
-/// FNV-1a of 64-bit words, each stirred.
-class Hash {
- public:
-  Hash& add(std::uint64_t word) {
-    word = (word ^ word >> 33U) * 0xff51afd7ed558ccd;
-    value_ = (value_ ^ word ^ word >> 29U) * 0x100000001b3;
-    return *this;
-  }
-  std::uint64_t value() const { return value_; }
-
- private:
-  std::uint64_t value_ = 0xcbf29ce484222325;
-};
+// The finaliser of MurmurHash3 (Appleby 2011) over a running sum.
+std::uint64_t mixed(std::uint64_t hash, std::uint64_t word) {
+  hash = (hash + word) * 0xff51afd7ed558ccd;
+  hash = (hash ^ hash >> 33U) * 0xc4ceb9fe1a85ec53;
+  return hash ^ hash >> 33U;
+}
 
 }  // namespace
 
+std::uint64_t Programs::with(std::uint64_t hash, Result r) const {
+  return r.operation < 0 ? mixed(hash, 0) : mixed(hash, hashes_[r.operation] + (r.negative ? 1 : 0));
+}
+
 std::uint64_t Programs::hash(const Operation& operation) const {
-  Hash hash;
-  hash.add(static_cast<std::uint64_t>(operation.kind)).add(static_cast<std::uint64_t>(operation.precision));
-  hash.add(static_cast<std::uint64_t>(operation.input)).add(std::bit_cast<std::uint64_t>(operation.constant));
-  for (const Result r : {operation.a, operation.b}) {
-    if (r.operation >= 0) hash.add(hashes_[r.operation]).add(r.negative ? 1 : 0);
-  }
-  return hash.value();
+  std::uint64_t hash = 0;
+  hash = mixed(hash, static_cast<std::uint64_t>(operation.kind));
+  hash = mixed(hash, static_cast<std::uint64_t>(operation.precision));
+  hash = mixed(hash, static_cast<std::uint64_t>(operation.input));
+  hash = mixed(hash, std::bit_cast<std::uint64_t>(operation.constant));
+  return with(with(hash, operation.a), operation.b);
 }
 
 std::uint64_t Programs::digest(const Program& program) const {
-  Hash hash;
-  for (const Result r : program) {
-    hash.add(r.operation < 0 ? 0 : hashes_[r.operation]).add(r.negative ? 1 : 0);
-  }
-  return hash.value();
+  std::uint64_t hash = 0;
+  for (const Result r : program) hash = with(hash, r);
+  return hash;
 }
 
 std::string Programs::name(Result r, const Sequence<int>& names) const {
@@ -213,6 +203,10 @@ std::string Programs::line(const Operation& operation, const Sequence<int>& name
 std::string Programs::text(const Program& program) const {
   Sequence<int> names(operations_.size(), -1);
   int next = 0;
+  bool binary32 = false;  // the outputs' precision; operations in another one say so
+  for (const Result r : program) {
+    if (r.operation >= 0) binary32 = operations_[r.operation].precision == Precision::binary32;
+  }
   std::string text;
   const auto write = [&](const auto& self, int id) -> void {
     const Operation& operation = operations_[id];
@@ -222,7 +216,7 @@ std::string Programs::text(const Program& program) const {
     }
     names[id] = next++;
     text += fmt::format("t{} = {}{}\n", names[id], line(operation, names),
-                        operation.precision == Precision::binary64 ? "" : "  (binary32)");
+                        binary32 && operation.precision == Precision::binary64 ? "  (binary64)" : "");
   };
   for (int k = 0; k < program.size(); ++k) {
     const Result r = program[k];

@@ -75,6 +75,7 @@ class Programs {
   Result mul(double constant, Result a, Precision precision);
   std::uint64_t hash(const Operation& operation) const;
   std::string name(Result r, const Sequence<int>& names) const;
+  std::uint64_t with(std::uint64_t hash, Result r) const;
   std::string line(const Operation& operation, const Sequence<int>& names) const;
 
   Equality equality_;

@@ -15,8 +15,10 @@ namespace xfm::gen {
 
 /// How instances fill registers. Both forms take the same arithmetic.
 enum class Form {
-  planar,       ///< an instance a lane: a register of real parts, a register of imaginary parts; a turn by i is free
-  interleaved,  ///< an instance in two lanes, as it stands in memory; a turn by i is a permutation and a sign flip
+  planar,  ///< an instance a lane: a register of real parts, a register of imaginary parts; a turn by i is
+           ///< free
+  interleaved,  ///< an instance in two lanes, as it stands in memory; a turn by i is a permutation and a sign
+                ///< flip
 };
 
 /// A part of a complex number: a lane of a node.
@@ -51,8 +53,8 @@ class Lanes {
   /// How many instances stand side by side.
   int instances(Form form) const { return form == Form::planar ? width() : width() / 2; }
 
-  /// Like elements side by side, each times its weight. In the interleaved form the value is real in the sense
-  /// of a network with real coefficients: its q is absent.
+  /// Like elements side by side, each times its weight. In the interleaved form the value is real in the
+  /// sense of a network with real coefficients: its q is absent.
   Complex gather(Elements elements, Form form);
 
   /// The first `count` instances of a value. In the interleaved form p + i*q is joined here.

@@ -27,8 +27,7 @@ class Binder {
       if (uses_[id] > 0 && !open_[id]) made_nodes_[id] = make(id).node;
     }
     for (const int zero : binding_.zeros) made_->store_zero(zero);
-    for (int k = 0; k < draft_.outputs.size(); ++k)
-      made_->store(output(draft_.outputs[k]), binding_.to[k]);
+    for (int k = 0; k < draft_.outputs.size(); ++k) made_->store(output(draft_.outputs[k]), binding_.to[k]);
     return std::move(made_);
   }
 

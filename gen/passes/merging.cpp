@@ -22,7 +22,8 @@ Constant coefficient(const Node& lone) {
 }
 
 bool only_products(const Node& of) {
-  return is_lone(of) || (of.op == Op::combination && std::all_of(of.terms.begin(), of.terms.end(), is_product));
+  return is_lone(of) ||
+         (of.op == Op::combination && std::all_of(of.terms.begin(), of.terms.end(), is_product));
 }
 
 // A draft made anew, node by node.

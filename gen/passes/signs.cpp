@@ -103,7 +103,7 @@ class Search {
       return after - before;
     };
     negate(*std::min_element(candidates.begin(), candidates.end(),
-                           [&](NodeId a, NodeId b) { return damage(a) < damage(b); }));
+                             [&](NodeId a, NodeId b) { return damage(a) < damage(b); }));
   }
 
   const Draft& draft_;

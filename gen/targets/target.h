@@ -1,5 +1,5 @@
-// A target: a kind of processor that a library is built for, as data. What is not said here or in the target's
-// vocabulary of registers is the same for all.
+// A target: a kind of processor that a library is built for, as data. What is not said here or in the
+// target's vocabulary of registers is the same for all.
 #pragma once
 
 #include <cstdint>

@@ -32,7 +32,6 @@ std::string value_type(const Kernel& kernel) {
   return fmt::format("f{}x{}", bits, kernel.network->width());
 }
 
-
 /// Whether these scalars stand side by side in memory, one for each lane.
 bool contiguous(std::span<const int> scalars) {
   for (std::size_t l = 0; l < scalars.size(); ++l)
@@ -49,8 +48,7 @@ class Body {
   std::string text() {
     std::string lines;
     for (const Step& step : schedule(network_, kernel_.order)) {
-      lines += step.node >= 0 ? compute(step.node)
-                              : store(network_.stores()[step.store]);
+      lines += step.node >= 0 ? compute(step.node) : store(network_.stores()[step.store]);
     }
     return constants() + lines;
   }
@@ -65,7 +63,7 @@ class Body {
   }
 
  private:
-  // Statements carry binary64 constants whatever the kernel's precision.
+  // Linear combinations carry binary64 constants whatever the kernel's precision.
   Precision constant_precision() const {
     return network_.rounding() == Rounding::combination ? Precision::binary64 : kernel_.type.precision;
   }

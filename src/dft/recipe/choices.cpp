@@ -1,9 +1,9 @@
 #include "src/dft/recipe/choices.h"
 
-#include <algorithm>
 #include <limits>
 
 #include "gen/math/number.h"
+#include "gen/math/rows.h"
 #include "src/dft/recipe/table.h"
 
 namespace xfm::dft {
@@ -27,7 +27,7 @@ struct Scalar {
 constexpr Scalar scalars[] = {
     {2, Rounding::each}, {3, Rounding::combination}, {4, Rounding::each}, {5, Rounding::combination}};
 
-// Length-5 blocks in another form than that of most kernels; the first row that fits holds.
+// Length-5 blocks in another form than that of most kernels; the first row that fits applies.
 constexpr int all = std::numeric_limits<int>::max();
 struct ChosenFive {
   int length;
@@ -43,9 +43,6 @@ constexpr ChosenFive fives[] = {
     {35, binary64, Five::six_products},        {41, binary64, Five::six_products, false},
     {50, binary64, Five::six_products, false}, {60, binary64, Five::six_products, false},
 };
-constexpr Five most_fives(Precision precision) {
-  return precision == binary32 ? Five::inner_first : Five::outer_first;
-}
 
 // Roots whose rounding errors stay lowest in binary32, found by trying all; elsewhere the smallest root
 // serves.
@@ -76,52 +73,46 @@ constexpr ChosenOrder orders[] = {
     {61, binary64, Order::bisection},      {62, binary64, Order::bisection},
 };
 
-// The first row of a table that fits.
-template <class Row, std::size_t size, class Fits>
-const Row* find(const Row (&table)[size], Fits fits) {
-  const Row* const found = std::find_if(std::begin(table), std::end(table), fits);
-  return found == std::end(table) ? nullptr : found;
-}
-
 }  // namespace
 
 gen::Tree Choices::spelled_out(const gen::Tree& tree) const {
   return gen::spelled_out(tree, [&](int number) -> std::optional<gen::Tree> {
-    if (find(blocks, [&](int block) { return block == number; }) != nullptr) return std::nullopt;
-    const Row& inner = row(number - 1);
-    const Breakdown& breakdown = precision_ == binary32 ? inner.binary32 : inner.binary64;
-    return gen::Tree{"RS", 0, {gen::parse_tree(breakdown.tree)}};
+    if (gen::find_row(blocks, [&](int block) { return block == number; }) != nullptr) return std::nullopt;
+    const Breakdown& inner = precision_ == binary32 ? row(number - 1).binary32 : row(number - 1).binary64;
+    return gen::Tree{"RS", 0, {gen::parse_tree(inner.tree)}};
   });
 }
 
 std::optional<Rounding> Choices::scalar() const {
-  const Scalar* const found = find(scalars, [&](const Scalar& row) { return row.length == length_; });
+  const auto* const found = gen::find_row(scalars, [&](const Scalar& row) { return row.length == length_; });
   return found == nullptr ? std::nullopt : std::optional(found->rounding);
 }
 
 gen::Choices Choices::open() const {
-  const int length = length_;
-  const Precision precision = precision_;
-  const auto root = [=](int prime) -> gen::Root {
-    const ChosenRoot* const found = find(roots_binary32, [&](const ChosenRoot& row) {
-      return precision == binary32 && row.length == length && row.prime == prime;
-    });
-    return found == nullptr ? gen::Root{gen::smallest_primitive_root(prime), 0} : found->root;
-  };
-  const auto five = [=](bool real, int instance, bool transposed) {
-    const ChosenFive* const found = find(fives, [&](const ChosenFive& row) {
-      return row.length == length && row.precision == precision && (real || row.of_complex_too) &&
-             (!transposed || row.of_transposed_too) && instance < row.instances;
-    });
-    return found == nullptr ? most_fives(precision) : found->form;
-  };
-  return {root, five};
+  return {.root = [own = *this](int prime) { return own.root(prime); },
+          .five = [own = *this](bool real, int instance,
+                                bool transposed) { return own.five(real, instance, transposed); }};
+}
+
+gen::Root Choices::root(int prime) const {
+  const auto* const found = gen::find_row(roots_binary32, [&](const ChosenRoot& row) {
+    return precision_ == binary32 && row.length == length_ && row.prime == prime;
+  });
+  return found == nullptr ? gen::Root{gen::smallest_primitive_root(prime), 0} : found->root;
+}
+
+Five Choices::five(bool real, int instance, bool transposed) const {
+  const auto* const found = gen::find_row(fives, [&](const ChosenFive& row) {
+    return row.length == length_ && row.precision == precision_ && (real || row.of_complex_too) &&
+           (!transposed || row.of_transposed_too) && instance < row.instances;
+  });
+  if (found != nullptr) return found->form;
+  return precision_ == binary32 ? Five::inner_first : Five::outer_first;
 }
 
 Order Choices::order() const {
-  const ChosenOrder* const found = find(orders, [&](const ChosenOrder& row) {
-    return row.length == length_ && row.precision == precision_;
-  });
+  const auto* const found = gen::find_row(
+      orders, [&](const ChosenOrder& row) { return row.length == length_ && row.precision == precision_; });
   return found == nullptr ? Order::windowed : found->order;
 }
 

@@ -1,5 +1,5 @@
-// Choices inside a kernel that its breakdown leaves open: blocks, scalar kernels, forms of the length-5 block,
-// primitive roots, orders of operations.
+// Choices inside a kernel that its breakdown leaves open: blocks, scalar kernels, forms of the length-5
+// block, primitive roots, orders of operations.
 #pragma once
 
 #include "gen/algorithms/transform.h"
@@ -18,11 +18,15 @@ class Choices {
   /// How sums of products round in a binary32 kernel that is scalar code; nothing in a packed one.
   std::optional<gen::Rounding> scalar() const;
 
+  /// Roots and length-5 blocks.
   gen::Choices open() const;
 
   gen::Order order() const;
 
  private:
+  gen::Root root(int prime) const;
+  gen::Five five(bool real, int instance, bool transposed) const;
+
   int length_;
   gen::Precision precision_;
 };

@@ -32,9 +32,9 @@ struct Recipe {
   const Target& target;
 };
 
-// A complex number a register and real coefficients only: pairs (P, Q) join as X[k] = P + i*Q, X[N-k] = P - i*Q
-// with one exchange of the parts, directly in front of the addition and the subtraction. An inverse kernel
-// joins the other way round.
+// A complex number a register and real coefficients only: pairs (P, Q) join as X[k] = P + i*Q, X[N-k] = P -
+// i*Q with one exchange of the parts, directly in front of the addition and the subtraction. An inverse
+// kernel joins the other way round.
 std::unique_ptr<Network> joined_network(const Recipe& recipe) {
   constexpr int parts = 2;
   auto network = std::make_unique<Network>(parts);

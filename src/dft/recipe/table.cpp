@@ -1,8 +1,6 @@
 #include "src/dft/recipe/table.h"
 
-#include <algorithm>
-#include <stdexcept>
-#include <string>
+#include "gen/math/rows.h"
 
 namespace xfm::dft {
 namespace {
@@ -79,11 +77,6 @@ constexpr Row rows[] = {
 
 std::span<const Row> table() { return rows; }
 
-const Row& row(int length) {
-  const auto found =
-      std::find_if(std::begin(rows), std::end(rows), [&](const Row& r) { return r.length == length; });
-  if (found == std::end(rows)) throw std::out_of_range("no breakdown of length " + std::to_string(length));
-  return *found;
-}
+const Row& row(int length) { return gen::row_of(rows, length); }
 
 }  // namespace xfm::dft

@@ -6,7 +6,7 @@
 #include "gen/passes/binding.h"
 #include "gen/passes/merging.h"
 #include "gen/passes/signs.h"
-#include "src/hartley/recipe/structure.h"
+#include "src/hartley/recipe/table.h"
 
 namespace xfm::hartley {
 namespace {
@@ -77,14 +77,16 @@ void definition(const Sequence<Wide>& src, Sequence<Wide>& dst) {
 
 }  // namespace
 
+Draft draft(int length, const std::string& plan) {
+  const Row& of = row(length);
+  const Tree whole = spelled_out(gen::parse_tree(plan.empty() ? of.plan : plan));
+  gen::check_length(whole, length);
+  return finished(of.products, of.design == Design::forward ? forward(whole, length) : folded(whole, length));
+}
+
 gen::Design design(int length, gen::Precision precision, const std::string& plan) {
   const Row& of = row(length);
-  const std::string text = plan.empty() ? of.plan : plan;
-  const Tree whole = spelled_out(gen::parse_tree(text));
-  gen::check_length(whole, length);
-  const Draft draft =
-      finished(of.products, of.design == Design::forward ? forward(whole, length) : folded(whole, length));
-  if (plan.empty()) check_structure(draft, of);
+  const Draft network = draft(length, plan);
   gen::PerLane natural(length);
   std::iota(natural.begin(), natural.end(), 0);
   return {.kernel = {.family = "Hartley",
@@ -93,10 +95,10 @@ gen::Design design(int length, gen::Precision precision, const std::string& plan
                      .length = length,
                      .read = length,
                      .written = length,
-                     .tree = text,
+                     .tree = plan.empty() ? of.plan : plan,
                      .adds = of.adds,
                      .mults = of.mults,
-                     .network = gen::bind(draft, {natural, natural}, gen::negated_values(draft)),
+                     .network = gen::bind(network, {natural, natural}, gen::negated_values(network)),
                      .order = gen::scalar_order(precision)},
           .definition = definition,
           .by_row = plan.empty()};

@@ -1,8 +1,6 @@
 #include "src/hartley/recipe/table.h"
 
-#include <algorithm>
-#include <stdexcept>
-#include <string>
+#include "gen/math/rows.h"
 
 namespace xfm::hartley {
 namespace {
@@ -98,17 +96,11 @@ constexpr Plan plans[] = {
 
 std::span<const Row> table() { return rows; }
 
-const Row& row(int length) {
-  const auto found =
-      std::find_if(std::begin(rows), std::end(rows), [&](const Row& r) { return r.length == length; });
-  if (found == std::end(rows)) throw std::out_of_range("no row of length " + std::to_string(length));
-  return *found;
-}
+const Row& row(int length) { return gen::row_of(rows, length); }
 
 const char* plan_of(int length) {
-  const auto found =
-      std::find_if(std::begin(plans), std::end(plans), [&](const Plan& p) { return p.length == length; });
-  return found == std::end(plans) ? nullptr : found->plan;
+  const auto* const found = gen::find_row(plans, [&](const Plan& p) { return p.length == length; });
+  return found == nullptr ? nullptr : found->plan;
 }
 
 }  // namespace xfm::hartley

@@ -117,27 +117,27 @@ gen::Design design(int length, Precision precision, Direction direction, Layout 
   const Breakdown& breakdown = forwards ? row(length).forward : row(length).inverse;
   const std::string text = tree.empty() ? breakdown.tree : tree;
   const char* const chosen = tree.empty() ? plan_of_least_error(forwards, length) : nullptr;
-  const Tree whole =
-      plan_of(gen::parse_tree(chosen == nullptr ? text : chosen), direction, layout, length);
+  const Tree whole = plan_of(gen::parse_tree(chosen == nullptr ? text : chosen), direction, layout, length);
   gen::check_length(whole, length);
   const Draft draft = gen::merged(forwards ? forward(whole, length) : inverse(whole, length));
   const int size = size_of(layout, length);
   const std::string name = name_of(layout);
-  return {.kernel = {.family = forwards ? "DFTFwd_RTo" + name : "DFTInv_" + name + "ToR",
-                     .type = {precision, false},
-                     .scaling = forwards ? gen::Scaling::forward : gen::Scaling::inverse,
-                     .length = length,
-                     .read = forwards ? length : size,
-                     .written = forwards ? size : length,
-                     .tree = text,
-                     .adds = breakdown.adds,
-                     .mults = breakdown.mults,
-                     .network = gen::bind(draft, binding(direction, layout, length), gen::negated_values(draft)),
-                     .order = gen::scalar_order(precision),
-                     .numbering = numbering(direction, layout, length)},
-          .definition = definition(direction, layout, length),
-          .by_row = tree.empty(),
-          .unread = forwards ? PerLane{} : zeros(layout, length)};
+  return {
+      .kernel = {.family = forwards ? "DFTFwd_RTo" + name : "DFTInv_" + name + "ToR",
+                 .type = {precision, false},
+                 .scaling = forwards ? gen::Scaling::forward : gen::Scaling::inverse,
+                 .length = length,
+                 .read = forwards ? length : size,
+                 .written = forwards ? size : length,
+                 .tree = text,
+                 .adds = breakdown.adds,
+                 .mults = breakdown.mults,
+                 .network = gen::bind(draft, binding(direction, layout, length), gen::negated_values(draft)),
+                 .order = gen::scalar_order(precision),
+                 .numbering = numbering(direction, layout, length)},
+      .definition = definition(direction, layout, length),
+      .by_row = tree.empty(),
+      .unread = forwards ? PerLane{} : zeros(layout, length)};
 }
 
 }  // namespace xfm::real

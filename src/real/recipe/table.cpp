@@ -1,8 +1,6 @@
 #include "src/real/recipe/table.h"
 
-#include <algorithm>
-#include <stdexcept>
-#include <string>
+#include "gen/math/rows.h"
 
 namespace xfm::real {
 namespace {
@@ -129,29 +127,22 @@ constexpr BlockOrder orders[] = {
 
 std::span<const Row> table() { return rows; }
 
-const Row& row(int length) {
-  const auto found =
-      std::find_if(std::begin(rows), std::end(rows), [&](const Row& r) { return r.length == length; });
-  if (found == std::end(rows)) throw std::out_of_range("no row of length " + std::to_string(length));
-  return *found;
-}
+const Row& row(int length) { return gen::row_of(rows, length); }
 
 RaderStage rader_stage(int length) {
-  const auto found = std::find_if(std::begin(stages), std::end(stages),
-                                  [&](const RaderStage& s) { return s.length == length; });
-  return found == std::end(stages) ? RaderStage{length, "", "", ""} : *found;
+  const auto* const found = gen::find_row(stages, [&](const RaderStage& s) { return s.length == length; });
+  return found == nullptr ? RaderStage{length, "", "", ""} : *found;
 }
 
 bool is_block(int length, bool forward) {
-  return std::any_of(std::begin(blocks), std::end(blocks),
-                     [&](const Block& block) { return block.length == length && (forward || block.inverse); });
+  const auto* const found = gen::find_row(blocks, [&](const Block& b) { return b.length == length; });
+  return found != nullptr && (forward || found->inverse);
 }
 
 const char* plan_of_least_error(bool forward, int length) {
-  const auto found = std::find_if(std::begin(chosen), std::end(chosen), [&](const ChosenPlan& p) {
-    return p.length == length && p.forward == forward;
-  });
-  return found == std::end(chosen) ? nullptr : found->plan;
+  const auto* const found =
+      gen::find_row(chosen, [&](const ChosenPlan& p) { return p.length == length && p.forward == forward; });
+  return found == nullptr ? nullptr : found->plan;
 }
 
 std::span<const BlockOrder> block_orders() { return orders; }

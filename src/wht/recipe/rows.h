@@ -9,9 +9,9 @@
 namespace xfm::wht {
 
 struct Facts {
-  int points;         ///< N
-  std::string tree;   ///< "64 x 8 x 16": block, middle radix, last radix
-  int adds;           ///< real operations
+  int points;        ///< N
+  std::string tree;  ///< "64 x 8 x 16": block, middle radix, last radix
+  int adds;          ///< real operations
   int add_instructions, mult_instructions;
   bool vector_code;   ///< packed arithmetic
   bool two_variants;  ///< an aligned and an unaligned one, as functions of their own

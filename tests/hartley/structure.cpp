@@ -1,12 +1,14 @@
-#include "src/hartley/recipe/structure.h"
+// The networks of all rows have the structure that their rows claim: input stage, closed groups of inputs,
+// output stage.
+#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cstdint>
 #include <set>
-#include <stdexcept>
-#include <string>
 
 #include "gen/math/number.h"
+#include "src/hartley/recipe/hartley.h"
+#include "src/hartley/recipe/table.h"
 
 namespace xfm::hartley {
 namespace {
@@ -91,8 +93,7 @@ class Structure {
 
   // The sum and the difference of the same two values.
   bool paired(int k, int l) const {
-    const Node &a = node(draft_.outputs[k].node),
-               &b = node(draft_.outputs[l].node);
+    const Node &a = node(draft_.outputs[k].node), &b = node(draft_.outputs[l].node);
     const auto two = [](const Node& of) { return of.op == Op::add || of.op == Op::sub; };
     return two(a) && two(b) && a.op != b.op && std::set{a.in[0], a.in[1]} == std::set{b.in[0], b.in[1]};
   }
@@ -128,17 +129,28 @@ class Structure {
   std::set<Set> values_;
 };
 
-}  // namespace
+class HartleyStructure : public testing::TestWithParam<int> {};
 
-void check_structure(const gen::Draft& draft, const Row& row) {
-  const Structure structure(draft, row);
-  const auto check = [&](bool holds, const std::string& rule) {
-    if (!holds) throw std::runtime_error("Hartley, N=" + std::to_string(row.length) + ": " + rule);
-  };
-  check(row.input != Input::fold || structure.folds(), "inputs are used outside the fold");
-  for (const int m : row.groups)
-    check(m == 0 || structure.closes(m), "no closed groups of " + std::to_string(m) + " inputs");
-  check(structure.ends_with(row.output), "another output stage");
+TEST_P(HartleyStructure, IsThatOfTheRow) {
+  const Row& of = row(GetParam());
+  const gen::Draft network = draft(of.length);
+  const Structure structure(network, of);
+  EXPECT_TRUE(of.input != Input::fold || structure.folds()) << "inputs are used outside the fold";
+  for (const int m : of.groups) EXPECT_TRUE(m == 0 || structure.closes(m)) << "no closed groups of " << m;
+  EXPECT_TRUE(structure.ends_with(of.output)) << "another output stage";
 }
 
+INSTANTIATE_TEST_SUITE_P(All, HartleyStructure, testing::Range(2, 65));
+
+// The checks see a network that is not the row's: that of another plan.
+TEST(HartleyStructure, OtherNetworksAreSeen) {
+  const gen::Draft forward = draft(8);
+  Row folded = row(8);
+  folded.input = Input::fold;
+  EXPECT_FALSE(Structure(forward, folded).folds());
+  EXPECT_FALSE(Structure(forward, row(8)).closes(3));
+  EXPECT_FALSE(Structure(forward, row(8)).ends_with(Output::half));
+}
+
+}  // namespace
 }  // namespace xfm::hartley
