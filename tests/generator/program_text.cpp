@@ -15,7 +15,7 @@ namespace {
 /// binary64 first.
 class Evaluation {
  public:
-  Evaluation(const Sequence<double>& src, double factor) {
+  Evaluation(const Sequence<double>& src, double factor, Precision precision) : precision_(precision) {
     values_["0"] = 0;
     values_["s"] = factor;
     for (int n = 0; n < src.size(); ++n) values_["x" + std::to_string(n)] = src[n];
@@ -32,7 +32,7 @@ class Evaluation {
   }
 
  private:
-  // "t3 = t1 - t2  (binary32)"
+  // "t3 = t1 - t2", or "t4 = 0x1.8p+0 * t3  (binary64)" in a binary32 kernel.
   void step(const std::string& line) {
     std::istringstream words(line);
     std::string name, equals, first, second, third;
@@ -42,7 +42,8 @@ class Evaluation {
                           : second == "-"  ? value(first) - value(third)
                           : second == "*"  ? value(first) * value(third)
                                            : value(first);
-    values_[name] = line.ends_with("(binary32)") ? static_cast<float>(result) : result;
+    const bool narrow = precision_ == Precision::binary32 && !line.ends_with("(binary64)");
+    values_[name] = narrow ? static_cast<float>(result) : result;
   }
 
   double value(const std::string& word) const {
@@ -50,6 +51,7 @@ class Evaluation {
     return word.starts_with('-') ? -values_.at(word.substr(1)) : values_.at(word);
   }
 
+  Precision precision_;
   std::map<std::string, double> values_;
 };
 
@@ -72,7 +74,7 @@ TEST_P(ProgramOf, AKernelComputesItsOutputs) {
   Sequence<double> src;
   for (int n = 0; n < made.read; ++n) src.push_back(n % 5 == 4 ? -0.0 : input[n]);
   const double factor = static_cast<float>(1) / 3;
-  Evaluation evaluation(src, factor);
+  Evaluation evaluation(src, factor, made.type.precision);
   evaluation.run(text);
   const Sequence<double> expected =
       single ? interpreted(made, src, static_cast<float>(factor)) : interpreted(made, src, factor);
