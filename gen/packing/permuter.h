@@ -19,7 +19,7 @@ class Permuter {
  public:
   Permuter(Network& network, const Target& target) : network_(network), target_(target) {}
 
-  /// A node that has in each lane what stands at its place; idle places may hold anything.
+  /// A node that has in each lane what stands at its place. Idle places come last and may hold anything.
   NodeId bring(const Sequence<Place>& wanted);
 
   /// These lanes of a and b, which one instruction has to bring.

@@ -14,6 +14,8 @@ struct Passes {
   int block;       ///< elements
   int middle = 1;  ///< radix; 1: there is no such pass
   int last = 1;    ///< radix; 1: one block is all
+  /// The kernel holds its unaligned variant itself.
+  bool one_function = false;
 
   constexpr int length() const { return block * middle * last; }
   constexpr bool is_block() const { return last == 1; }
@@ -36,8 +38,8 @@ constexpr Passes passes_32f[] = {
     {32, 1, 8}, {64, 1, 8}, {64, 1, 16}, {64, 1, 32}, {64, 8, 8}, {64, 8, 16},
 };
 constexpr Passes passes_64f[] = {
-    {2},        {4},         {8},         {16},       {32},        {64},        {128},
-    {32, 1, 8}, {32, 1, 16}, {128, 1, 8}, {32, 8, 8}, {32, 8, 16}, {128, 8, 8},
+    {2},        {4},         {8, 1, 1, true}, {16},       {32},        {64},        {128},
+    {32, 1, 8}, {32, 1, 16}, {128, 1, 8},     {32, 8, 8}, {32, 8, 16}, {128, 8, 8},
 };
 
 template <class T>
