@@ -1,4 +1,4 @@
-// A kernel as recipes hand it to the writers: a network, and what the world must know of it.
+// A kernel as recipes hand it to the writers: its network, its name and type, and what its row allows.
 #pragma once
 
 #include <memory>
@@ -28,8 +28,8 @@ struct Kernel {
   ElementType type;
   Scaling scaling;
   int length;
-  int read, written;  ///< real scalars
-  std::string tree;   ///< breakdown, as the row has it
+  int read, written;  ///< counts of real scalars
+  std::string tree;   ///< breakdown, as the row writes it
   int adds, mults;    ///< the row's bounds
   std::unique_ptr<Network> network;
   Order order = Order::windowed;
@@ -39,18 +39,19 @@ struct Kernel {
   bool packed() const { return network->width() > 1; }
 };
 
-/// What a recipe makes of a length: a kernel, and what it is checked against.
+/// What a recipe makes for a length: a kernel, and what to check it against.
 struct Design {
   Kernel kernel;
   Definition definition;
-  bool by_row = true;  ///< rather than by a tree that is being tried, whose costs nothing bounds
+  bool by_row = true;  ///< false for a tree that is only tried out: nothing bounds its costs
   PerLane unread{};    ///< scalars of src that are never read
-  std::unique_ptr<Network> other_form{};  ///< the same kernel with its operations packed in another way
+  std::unique_ptr<Network> other_form{};  ///< the same kernel with its operations packed another way
 };
 
-/// The kernel after all checks: one read an input, one write an output, the transform against its definition,
-/// the row's costs, and its forms against each other: one program, but for the products by 0 that lanes make
-/// together. The first that fails throws, by name.
+/// Checks a design and returns its kernel. Each input must be read once and each output written once; the
+/// network must compute the transform's definition, at no more than the row's costs; and both forms must be
+/// one scalar program, except for products by 0 that lanes compute together. Throws at the first check that
+/// fails, naming the kernel.
 Kernel make_kernel(Design design);
 
 }  // namespace xfm::gen

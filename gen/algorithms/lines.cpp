@@ -13,10 +13,10 @@ Lines LineTransform::run(const Tree& tree, const Lines& x, Direction direction) 
       x, [&](const Points& z) { return blocks_.run(tree, z); }, direction);
 }
 
-// The block on all instances, as many at a time as there are lanes. Instances whose inputs are zero at the
-// same places go together, so that a block computes nothing with zeros. The blocks are forward; an inverse
-// one is the exchange of real and imaginary parts around it, or the conjugate of its points in the
-// interleaved form.
+// Runs the block on all instances, as many at a time as the lanes hold. Instances with zeros in the same
+// places are grouped, so that a block never computes with zeros. Blocks are forward. For an inverse one, real
+// and imaginary parts are exchanged before and after it, or in the interleaved form the outputs p + i*q
+// become p - i*q.
 Lines LineTransform::each(const Lines& x, const Block& block, Direction direction) {
   Lines out(x.size());
   for (const Sequence<int>& group : groups(x)) {
@@ -37,7 +37,7 @@ Lines LineTransform::each(const Lines& x, const Block& block, Direction directio
   return out;
 }
 
-// Instances of the same pattern of zeros, in groups that fill the lanes.
+// Instances with the same pattern of zeros, in groups no larger than the lanes hold.
 Sequence<Sequence<int>> LineTransform::groups(const Lines& x) const {
   Sequence<Sequence<int>> groups;
   std::map<Sequence<bool>, int> open;

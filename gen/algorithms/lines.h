@@ -1,10 +1,10 @@
-// Trees of complex transforms run flat on lines of elements in lanes, several like transforms at a time.
+// Packed complex transforms. A line holds the points of one transform, and every stage runs on many lines.
 //
-// A stage that has I like transforms of length a*b runs I*b transforms of length a, then I*a of length b, and
-// so on down; only the base blocks are packed. So the parallelism inside a transform fills lanes that the
-// stage around it leaves idle, and the operation tree of every output stays. Instances are ordered with the
-// outer index fastest, which keeps neighbours in neighbouring lanes and saves most permutations. With one
-// lane this is the plain composition.
+// A stage with I transforms of length a*b runs I*b transforms of length a, then I*a of length b, and so on
+// down; only the base blocks are packed. The parallelism inside a transform thus fills lanes that the stage
+// around it would leave idle, and each output is still computed by the same operations. Instances are ordered
+// with the outer index fastest: neighbours stay in neighbouring lanes, which saves most permutations. With
+// one lane this is plain composition.
 #pragma once
 
 #include <functional>
@@ -15,7 +15,7 @@
 namespace xfm::gen {
 
 using Line = Elements;         ///< the points of one transform
-using Lines = Sequence<Line>;  ///< like transforms, side by side
+using Lines = Sequence<Line>;  ///< transforms of one length, side by side
 
 class LineTransform {
  public:

@@ -2,7 +2,7 @@
 // and Bluestein's chirp algorithm (Bluestein 1970). With j*k = (j^2 + k^2 - (k-j)^2)/2 a transform of odd
 // length N becomes a convolution with a chirp, done by two transforms of a convenient length L >= 2N-1:
 //   h[j] = exp(-2 pi i e(j)/N),  e(j) = j^2 (N+1)/2 mod N,  X[k] = h[k] sum_j (x[j] h[j]) conj(h[k-j]).
-// The zeros behind the N inputs are never read or multiplied, and outputs beyond the first N are never
+// The zeros that pad the N inputs are never read or multiplied, and outputs beyond the first N are never
 // computed.
 #include <fmt/format.h>
 
@@ -13,8 +13,8 @@
 
 namespace xfm::gen {
 
-// 1/M is folded into B, and x0 joins at the bin of frequency zero, X0 = x0 + A[0] and Y[0] = x0 + B[0]*A[0],
-// so that the transform back spreads it over all outputs.
+// The factor 1/M is part of B. x0 is added at frequency zero, X0 = x0 + A[0] and Y[0] = x0 + B[0]*A[0], and
+// the inverse transform spreads it over all outputs.
 Lines LineTransform::rader(const Tree& tree, const Lines& x, Direction direction) {
   const RaderArguments args = rader_arguments(tree);
   if (args.root)
@@ -55,8 +55,7 @@ namespace {
 
 int exponent(int j, int n) { return modulo(static_cast<long long>(j) * j * ((n + 1) / 2), n); }
 
-// (1/L) times the transform of length L of the conjugate chirp, which stands at the indices -(N-1)..N-1
-// modulo L.
+// Bin r of 1/L times the transform, of length L, of the conjugate chirp at the indices -(N-1)..N-1 modulo L.
 ComplexConstant chirp_spectrum(int n, int length, int r) {
   Wide re = 0, im = 0;
   for (int m = 1 - n; m < n; ++m) {

@@ -1,9 +1,9 @@
-// Rader's algorithm for a prime N (Rader 1968) on real sequences: with g a primitive root and M = N-1 the
-// inputs a[q] = x[g^q] and the outputs X[g^-p] are joined by a cyclic convolution, done by two transforms of
+// Rader's algorithm for a prime N (Rader 1968) on real sequences. With g a primitive root and M = N-1 the
+// inputs a[q] = x[g^q] and the outputs X[g^-p] are related by a cyclic convolution, done by two transforms of
 // length M around a pointwise product with the spectrum of the roots of unity,
 //   b[q] = exp(-2 pi i g^-q/N),  B[r] = (1/M) sum_q b[q] exp(-2 pi i q r/M).
 // Since g^(M/2) = -1, B[M-r] is conj(B[r]) for even r and -conj(B[r]) for odd r: the even bins of the
-// spectrum make the real parts of the outputs and the odd bins their imaginary parts, and the two never meet.
+// spectrum give the real parts of the outputs, the odd bins their imaginary parts, and the two never mix.
 #include <stdexcept>
 
 #include "gen/algorithms/transform.h"
@@ -19,7 +19,7 @@ Points permuted(const Points& x, int g) {
   return inputs;
 }
 
-// A network of real sequences run from its bins to its samples. A bin and its mirror image are one weight.
+// Runs a network of real sequences from bins to samples. A bin and its mirror image share one weight.
 template <class Make>
 Points from_bins(int length, Rounding rounding, Make make, const Points& bins) {
   Network network(1, rounding);
@@ -34,15 +34,15 @@ Points from_bins(int length, Rounding rounding, Make make, const Points& bins) {
 
 }  // namespace
 
-// The transforms back are two of length M/2, a plain one and a skew one, both networks transposed.
+// The inverse transform is two of length M/2, one plain and one skew, both as transposed networks.
 Points Transform::rader_by_halves(const Tree& tree, const Points& x, int /*instance*/) const {
   const RaderArguments args = rader_arguments(tree);
   if (args.skew == nullptr)
-    throw std::invalid_argument(to_string(tree) + " is no tree for sequences of values");
+    throw std::invalid_argument(to_string(tree) + " cannot transform a sequence of values");
   const int g = *args.root, n = x.size(), m = n - 1, h = m / 2;
   const Points a = run(*args.there, permuted(x, g));
 
-  // B[r] of odd r is divided by i: the odd half is then a real network and yields the imaginary parts.
+  // For odd r, B[r] is divided by i, so that the odd half is a real network that yields the imaginary parts.
   const Constant by_m = constant("1/" + std::to_string(m), Wide(1) / Wide(m));
   Points even{combination({x[0], -(by_m * a[0])})}, odd;
   for (int r = 1; r <= h; ++r) {
@@ -62,10 +62,10 @@ Points Transform::rader_by_halves(const Tree& tree, const Points& x, int /*insta
   return out.bins();
 }
 
-// The transform there gives A[r] = C[r] - i*S[r] for r = 0..M/2. With beta, gamma the doubled parts of B[r],
+// The forward transform gives A[r] = C[r] - i*S[r] for r = 0..M/2. With beta and gamma the parts of 2*B[r],
 //   z1 = beta*C + gamma*S,  z2 = gamma*C - beta*S
-// are the weights of cos and sin in the transform back, which is the one there transposed. x0 joins at the
-// bin of frequency zero, so that the transform back spreads it over all outputs.
+// are the weights of cos and sin in the inverse transform, which is the forward one transposed. x0 is added
+// at frequency zero, and the inverse transform spreads it over all outputs.
 Points Transform::rader_transposed(const Tree& tree, const Points& x, int /*instance*/) const {
   const Tree& inner = tree.args.back();
   const int n = x.size(), m = n - 1, h = m / 2;

@@ -64,7 +64,7 @@ bool rader_shape(const Tree& tree) {
   const int half = length_of(*args.there) / 2;
   return args.back == nullptr || (length_of(*args.back) == half && length_of(*args.skew) == half);
 }
-// The longest odd N for which a convolution of L >= 2N-1 points serves.
+// The longest odd N with 2N-1 <= L, the length of the convolution.
 int chirp_length(const Tree& tree) { return (length_of(tree.args[0]) - 1) / 2 | 1; }
 
 // The first argument that is a tree of its own and not a number that means something else.
@@ -86,7 +86,7 @@ const Rule table[] = {
   {"PFA",  "(a,b,..) coprime", coprime_stages, product, all_trees, false, &T::two_stages, false, {}, &L::two_stages,
    "columns of length a, rows of length b, no twiddles", "Good 1958, Thomas 1963"},
   {"PFA*", "(a,b) coprime", coprime_stages, product, all_trees, false, &T::two_stages, false, {}, {},
-   "the same, with the last stage of two of a split radix a behind the rows", "Good 1958, Thomas 1963"},
+   "the same, with the last butterfly of a split-radix a after the rows", "Good 1958, Thomas 1963"},
   {"x",    "a x b coprime", coprime_stages, product, all_trees, false, &T::two_stages, true, &T::skew_good_thomas, {},
    "columns of length a, rows of length b, no twiddles", "Good 1958, Thomas 1963"},
   {"CT",   "(a,b,..)", stages, product, all_trees, false, &T::two_stages, true, {}, &L::two_stages,
@@ -97,11 +97,11 @@ const Rule table[] = {
    "even outputs by half the length, odd ones by two quarters", "Yavne 1968; Duhamel and Hollmann 1984"},
   {"F",    "(even bins, odd bins)", halves, twice_half, all_trees, false, &T::fork, true, {}, {},
    "sums to the even bins, differences to the odd ones", "Gentleman and Sande 1966"},
-  {"R",    "([root,] there[, back[, skew]])", rader_shape, rader_length, behind_root, false, &T::rader_by_halves, true, {}, &L::rader,
+  {"R",    "([root,] forward[, inverse[, skew]])", rader_shape, rader_length, behind_root, false, &T::rader_by_halves, true, {}, &L::rader,
    "a prime length as a cyclic convolution of one less", "Rader 1968"},
   {"RS",   "(tree)", one_tree, one_more, all_trees, false, &T::rader_transposed, true, {}, {},
-   "the same on real sequences, the way back being the way there transposed", "Rader 1968"},
-  {"B",    "(there, back)", halves, chirp_length, all_trees, true, {}, false, {}, &L::bluestein,
+   "the same on real sequences, the inverse transform being the forward one transposed", "Rader 1968"},
+  {"B",    "(forward, inverse)", halves, chirp_length, all_trees, true, {}, false, {}, &L::bluestein,
    "an odd length as a convolution with a chirp, by two transforms of a longer one", "Bluestein 1970"},
 };
 // clang-format on
@@ -115,7 +115,7 @@ const Rule& rule_of(const Tree& tree) {
                                   [&](const Rule& rule) { return rule.name == tree.rule; });
   if (found == std::end(table)) throw std::invalid_argument("no rule " + tree.rule);
   if (!found->applicable(tree)) {
-    const bool in_front = found->children.starts_with('(');  // of its arguments, not between them
+    const bool in_front = found->children.starts_with('(');  // not a sign between the arguments
     throw std::invalid_argument(to_string(tree) + " is not " + std::string(in_front ? found->name : "") +
                                 std::string(found->children));
   }
@@ -127,7 +127,7 @@ int length_of(const Tree& tree) { return rule_of(tree).length(tree); }
 void check_length(const Tree& tree, int length) {
   const int own = length_of(tree);
   if (own != length && !(rule_of(tree).shorter && length < own && length % 2 == 1))
-    throw std::invalid_argument("tree " + to_string(tree) + " is not one of length " +
+    throw std::invalid_argument("tree " + to_string(tree) + " cannot transform length " +
                                 std::to_string(length));
 }
 

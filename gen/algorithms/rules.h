@@ -1,5 +1,5 @@
-// The rules of the breakdowns: what a name in a tree means. A rule is a record, and parsing, lengths,
-// dispatch and what xfmgen shows of a tree follow from the table of records.
+// Breakdown rules: what a name in a tree means. Each rule is one record of a table, and checks, lengths,
+// dispatch and what xfmgen shows of a tree all follow from it.
 #pragma once
 
 #include <span>
@@ -17,20 +17,20 @@ struct Rule {
   bool (*applicable)(const Tree&);  ///< whether a tree's arguments have that shape
   int (*length)(const Tree&);       ///< the length that it transforms
   int (*first_tree)(const Tree&);   ///< the first argument that is a tree of its own
-  bool shorter = false;             ///< and any shorter odd one
+  bool shorter = false;             ///< whether it also serves any shorter odd length
   Points (Transform::*on_points)(const Tree&, const Points&, int instance) const = nullptr;
-  bool by_halves = false;  ///< complex sequences as two real ones, joined at the end
+  bool by_halves = false;  ///< runs a complex sequence as two real ones, added at the end
   Points (Transform::*on_skew)(const Tree&, const Points&) const = nullptr;
-  Lines (LineTransform::*on_lines)(const Tree&, const Lines&, Direction) = nullptr;  ///< or as a block
+  Lines (LineTransform::*on_lines)(const Tree&, const Lines&, Direction) = nullptr;  ///< null: as a block
   std::string_view formula;
   std::string_view source;
 };
 
-/// All of them; the one without a name is that of a plain number.
+/// The table. The rule without a name is that of a plain number.
 std::span<const Rule> rules();
 
-/// The rule of a tree; throws std::invalid_argument, by rule and arguments, if there is none or it is not
-/// applicable.
+/// The rule of a tree; throws std::invalid_argument, naming the rule and its arguments, if there is none or
+/// it does not apply.
 const Rule& rule_of(const Tree& tree);
 
 }  // namespace xfm::gen

@@ -1,8 +1,8 @@
-// Skew transforms, the bins halfway between those of the transform of the same length.
+// Skew transforms: the bins halfway between those of the plain transform of the same length.
 //
-// An odd length is the plain transform of (-1)^n y[n] in another order of bins. A power of two is a complex
-// transform of half the length: (y[n] - i y[n+N/2]) exp(-pi i n/N) has the bins Z[0], Z[2], ... Other lengths
-// are composed of the two, without twiddles or with them.
+// An odd length takes the plain transform of (-1)^n y[n], with its bins reordered. A power of two takes a
+// complex transform of half the length: that of (y[n] - i y[n+N/2]) exp(-pi i n/N) has the bins Z[0], Z[2],
+// ... Other lengths combine the two, with or without twiddles.
 #include <stdexcept>
 
 #include "gen/algorithms/rules.h"
@@ -26,7 +26,7 @@ Points Transform::skew(const Tree& tree, const Points& y) const {
   return out;
 }
 
-// `rest` is the tree of half the length.
+// `rest` is the tree for half the length.
 Points Transform::skew_of_even_length(const Tree& rest, const Points& y) const {
   const int n = y.size(), half = n / 2;
   Points z;
@@ -37,7 +37,7 @@ Points Transform::skew_of_even_length(const Tree& rest, const Points& y) const {
   return out.bins();
 }
 
-// Columns of length p, which are skew themselves, and rows of length q; column r turns by
+// Skew columns of length p and rows of length q; bin f of column r is multiplied by
 // exp(-2 pi i r (f + 1/2)/N).
 Points Transform::skew_cooley_tukey(const Tree& tree, const Points& y) const {
   const Tree first = first_of(tree), rest = rest_of(tree);
@@ -76,8 +76,8 @@ void split(const Tree& tree, Sequence<Tree>& odd, Tree& even) {
 
 }  // namespace
 
-// On the sequence continued to 2N = p * 2q: plain transforms of the odd length p, skew ones of the even
-// length q.
+// Works on the sequence continued with its negative to 2N = p * 2q: plain transforms of the odd length p,
+// skew ones of the even length q.
 Points Transform::skew_good_thomas(const Tree& tree, const Points& y) const {
   Sequence<Tree> odd;
   Tree even;

@@ -1,6 +1,6 @@
-// Split radix (Yavne 1968; Duhamel and Hollmann 1984), decimation in frequency: even outputs are a transform
-// of half the length of the sums a_j = x_j + x_(j+N/2); the differences d_j feed two transforms of a quarter
-// of the length,
+// Split radix (Yavne 1968; Duhamel and Hollmann 1984), decimation in frequency: the even outputs are the
+// transform of half the length of the sums a_j = x_j + x_(j+N/2); the differences d_j feed two transforms of
+// a quarter of the length,
 //   X[4k+1] = DFT((d_j - i d_(j+N/4)) W_N^j),  X[4k+3] = DFT((d_j + i d_(j+N/4)) W_N^(3j)).
 #include "gen/algorithms/transform.h"
 

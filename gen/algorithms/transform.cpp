@@ -35,12 +35,12 @@ void Spectrum::put(int k, const Complex& z) {
 Points Transform::run(const Tree& tree, const Points& x, int instance) const {
   const Rule& rule = rule_of(tree);
   if (rule.on_points == nullptr)
-    throw std::invalid_argument(to_string(tree) + " is no tree for sequences of values");
+    throw std::invalid_argument(to_string(tree) + " cannot transform a sequence of values");
   if ((rule.by_halves || combines()) && !is_real(x)) return by_halves(tree, x);
   return (this->*rule.on_points)(tree, x, instance);
 }
 
-// Joined by linearity. The real and the imaginary parts may stand for sequences that are not there.
+// The transforms of p and of q, added by linearity. p may be absent altogether.
 Points Transform::by_halves(const Tree& tree, const Points& x) const {
   const Points p = halves(x, &Complex::p), q = halves(x, &Complex::q);
   const auto there = [](const Points& half) {
@@ -92,8 +92,8 @@ Points Transform::fork(const Tree& tree, const Points& x, int /*instance*/) cons
   return out;
 }
 
-// z times exp(-2 pi i t). Quarter turns cost nothing. As linear combinations, eighths take two products, a
-// sum and a difference.
+// z times exp(-2 pi i t). Quarter turns cost nothing. Among linear combinations, odd eighths take two
+// products, one sum and one difference.
 Complex Transform::rotated(const Complex& z, Turn t) const {
   const ComplexConstant w = root_of_unity(t);
   if (!combines() || 4 % t.den == 0) return w * z;

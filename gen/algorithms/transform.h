@@ -1,12 +1,12 @@
 // Discrete Fourier transforms of sequences of values, as networks.
 //
 // Points are p + i*q; a sequence whose q are all absent is real, its spectrum is Hermitian, and only half of
-// each stage is computed: the other bins are conjugates, which cost nothing. A complex sequence is either
-// carried through the stages as it is, or taken as two real ones that join at the end, as the rule says.
-// Where a value is a whole complex number in two lanes and all coefficients are real, its complex sequences
-// are "real" in this sense too.
+// each stage is computed: the other bins are conjugates, which cost nothing. The rule decides whether a
+// complex sequence goes through its stages as it is, or as two real ones that are added at the end. In the
+// interleaved form, where a value is a complex number in two lanes and all coefficients are real, complex
+// sequences are "real" in this sense too.
 //
-// A transform run from its bins to its samples is its network transposed (transposition.h).
+// To run a transform from its bins to its samples, transpose its network (transposition.h).
 #pragma once
 
 #include <functional>
@@ -21,23 +21,23 @@ namespace xfm::gen {
 /// What a tree leaves open.
 struct Choices {
   std::function<Root(int prime)> root;
-  /// The form of a length-5 block, on real or complex sequences, in the given column of the stage that it
-  /// belongs to; `transposed` blocks run from outputs to inputs.
+  /// The form of a length-5 block, on real or complex sequences, in the given column of its stage;
+  /// `transposed` blocks run from outputs to inputs.
   std::function<Five(bool real, int instance, bool transposed)> five;
 };
 
 class Transform {
  public:
-  /// Sums of products round once, as linear combinations, or each operation by itself.
+  /// Sums of products are linear combinations, rounded once, or each operation rounds.
   explicit Transform(Rounding rounding, const Choices& choices = {}, bool transposed = false)
       : rounding_(rounding), choices_(choices), transposed_(transposed) {}
 
-  /// The bins X[k] = sum over n of x[n] exp(-2 pi i n k/N), k = 0..N-1; the sequence is number `instance`
-  /// among its like.
+  /// The bins X[k] = sum over n of x[n] exp(-2 pi i n k/N), k = 0..N-1; `instance` is the number of the
+  /// sequence within its stage.
   Points run(const Tree& tree, const Points& x, int instance = 0) const;
 
   /// The bins halfway between, Z[f] = sum over n of y[n] exp(-2 pi i n (f + 1/2)/N), f = 0..N-1, of a real
-  /// sequence: the transform of the sequence continued with its negative.
+  /// sequence: half the odd bins of the sequence continued with its negative.
   Points skew(const Tree& tree, const Points& y) const;
 
   /// @name The rules (rules.h)
@@ -63,20 +63,19 @@ class Transform {
   bool transposed_;
 };
 
-/// Inputs 0..length-1.
+/// The inputs 0..length-1 as a real sequence.
 Points samples(Network& network, int length);
 
 bool is_real(const Points& x);
 
-/// One of the two halves of each point, as a real sequence.
+/// The p or the q of each point, as a real sequence.
 Points halves(const Points& x, Value Complex::*half);
 
-/// Split radix whose last stage of two is left open for outputs 0 and N/2: their operands stand in their
-/// places.
+/// Split radix without its last butterfly, that of outputs 0 and N/2: its two operands take their places.
 Points open_split_radix(const Points& x);
 
-/// The bins of a real sequence, or those halfway between: each is put with its mirror image, the conjugate,
-/// and what is there already stays.
+/// The bins of a real sequence, or those halfway between. put() sets a bin, and its mirror image to the
+/// conjugate; a bin that is set stays as it is.
 class Spectrum {
  public:
   /// Bin k mirrors bin -k of a plain spectrum, -k - 1 of a skew one.

@@ -19,7 +19,7 @@ void Transposition::send(Value output, const Complex& weight) {
   if (!output.absent()) receive(output.node, output.negative ? -weight : weight);
 }
 
-// Sums and terms stand in the order of arrival, the reverse of the recipe's.
+// Terms are added in the order of their arrival, the reverse of the recipe's.
 Complex Transposition::weight(NodeId node) const {
   const Sequence<ScaledComplex>& terms = sent_[node];
   const bool products = std::any_of(terms.begin(), terms.end(),

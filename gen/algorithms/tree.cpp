@@ -19,7 +19,7 @@ class Parser {
   }
 
  private:
-  // "2,2" at the outermost level is a rule without a name.
+  // "2,2" at the outermost level is a rule of its own.
   Tree stages() {
     Tree first = product();
     if (peek() != ',') return first;
@@ -33,7 +33,7 @@ class Parser {
     return run('*', [this] { return stage(); });
   }
 
-  // One operand, or several joined by a sign.
+  // One operand, or several with this sign between them.
   template <class Operand>
   Tree run(char sign, Operand operand) {
     Sequence<Tree> args{operand()};
@@ -63,8 +63,8 @@ class Parser {
     }
     std::string rule;
     while (std::isalpha(static_cast<unsigned char>(peek())) || peek() == '*') rule += text_[at_++];
-    if (rule.empty()) fail("a number or a rule is expected");
-    if (peek() != '(') fail("'(' is expected");
+    if (rule.empty()) fail("expected a number or a rule");
+    if (peek() != '(') fail("expected '('");
     ++at_;
     Sequence<Tree> args = list(product());
     close();
@@ -72,14 +72,14 @@ class Parser {
   }
 
   void close() {
-    if (peek() != ')') fail("')' is expected");
+    if (peek() != ')') fail("expected ')'");
     ++at_;
   }
 
   int number() {
     constexpr int longest = 1000000;
     int value = 0;
-    peek();  // spaces separate numbers: they are passed over in front, never inside
+    peek();  // spaces are skipped in front of a number, never inside it
     for (; at_ < text_.size() && std::isdigit(static_cast<unsigned char>(text_[at_])) != 0; ++at_) {
       value = 10 * value + (text_[at_] - '0');
       if (value > longest) fail("the number is too large");
@@ -93,8 +93,8 @@ class Parser {
   }
 
   [[noreturn]] void fail(const std::string& what) const {
-    throw std::invalid_argument("tree \"" + std::string(text_) + "\", place " + std::to_string(at_) + ": " +
-                                what);
+    throw std::invalid_argument("tree \"" + std::string(text_) + "\", position " + std::to_string(at_) +
+                                ": " + what);
   }
 
   std::string_view text_;
@@ -114,7 +114,7 @@ void check_rules(const Tree& tree) {
 
 bool is_run(const Tree& tree) { return tree.rule == "x" || tree.rule == "*"; }
 
-// A run in parentheses where the text would not bind that way by itself.
+// A run in parentheses where the grammar would bind it differently without them.
 std::string operand(const Tree& tree, const std::string& sign) {
   const bool binds = !is_run(tree) || (sign == "x" && tree.rule == "*");
   return binds ? to_string(tree) : "(" + to_string(tree) + ")";

@@ -1,4 +1,4 @@
-// Breakdown trees: the text of a table's row as a tree, and back.
+// Breakdown trees: how the text of a table's row is parsed, and written again.
 //
 //   tree    = product { "," product }    "2,2": stages in turn
 //   product = power { "x" power }        "3 x 5": coprime stages in turn, no twiddles between them
@@ -27,35 +27,35 @@ struct Tree {
   bool is_number() const { return rule.empty(); }
 };
 
-/// Throws std::invalid_argument with the place of the mistake, also where a rule is unknown or its arguments
-/// do not fit.
+/// Throws std::invalid_argument with the position of a syntax error, and also where a rule is unknown or its
+/// arguments do not fit.
 Tree parse_tree(std::string_view text);
 
-/// The text that parses to this tree, identical to the one it came from but for spaces.
+/// The text that parses to this tree.
 std::string to_string(const Tree& tree);
 
 /// The length that a tree transforms.
 int length_of(const Tree& tree);
 
-/// Throws std::invalid_argument if the tree does not serve the length.
+/// Throws std::invalid_argument if the tree does not transform this length.
 void check_length(const Tree& tree, int length);
 
 /// A rule with more than two arguments is nested to the right: PFA(a,b,c) is PFA(a,PFA(b,c)).
 Tree first_of(const Tree& tree);
 Tree rest_of(const Tree& tree);
 
-/// Rader's arguments, R([root,] there [, back [, skew]]): the root where it is given, the transform there,
-/// and those back, which are that of the real parts and that of the imaginary parts.
+/// Rader's arguments, R([root,] there [, back [, skew]]): the root if it is given, the forward transform, and
+/// the inverse ones of the real and of the imaginary parts.
 struct RaderArguments {
   std::optional<int> root;
   const Tree *there, *back, *skew;
 };
 RaderArguments rader_arguments(const Tree& tree);
 
-/// The tree with every number that `expand` knows replaced by its tree, and so on down to the blocks.
+/// The tree with every number that `expand` knows replaced by its tree, recursively down to the blocks.
 Tree spelled_out(const Tree& tree, const std::function<std::optional<Tree>(int)>& expand);
 
-/// Whether the rule stands anywhere in the tree.
+/// Whether the rule occurs anywhere in the tree.
 bool uses_rule(const Tree& tree, std::string_view rule);
 
 }  // namespace xfm::gen

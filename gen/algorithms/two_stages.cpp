@@ -2,12 +2,12 @@
 //
 // Cooley-Tukey (Cooley and Tukey 1965): with input n = c + b*m and output k = k1 + a*k2,
 //   X[k1 + a*k2] = sum_c W_b^(c*k2) W_N^(c*k1) sum_m W_a^(m*k1) x[c + b*m],   W_N = exp(-2 pi i/N).
-// Good-Thomas (Good 1958, Thomas 1963), a and b coprime: by the index maps of the Chinese remainder theorem
-// the transform is truly two-dimensional, and the twiddles W_N^(c*k1) are gone.
+// Good-Thomas (Good 1958, Thomas 1963), a and b coprime: the index maps of the Chinese remainder theorem make
+// the transform two-dimensional, without the twiddles W_N^(c*k1).
 //
-// Of real sequences the rows above a/2 are conjugates of those below (Sorensen, Jones, Heideman and Burrus
-// 1987). Cooley-Tukey turns the row a/2 of an even a by half a bin: it is a real sequence's skew transform,
-// or a complex one after its twiddles.
+// For real sequences the rows above a/2 are conjugates of those below (Sorensen, Jones, Heideman and Burrus
+// 1987). In Cooley-Tukey with an even a the twiddles of row a/2 shift it by half a bin: "*" makes it the skew
+// transform of a real sequence, "CT" a complex transform after its twiddles.
 #include "gen/algorithms/transform.h"
 #include "gen/math/number.h"
 
@@ -35,7 +35,7 @@ Points Transform::two_stages(const Tree& tree, const Points& x, int /*instance*/
   Sequence<Points> rows;
   for (int k1 = 0; k1 <= (real ? a / 2 : a - 1); ++k1) rows.push_back(row(k1));
   if (open) {
-    // The last stage of two of the split radix comes after the rows of its operands.
+    // The butterfly that the split radix left open comes after the rows of its operands.
     Points &low = rows[0], &middle = rows[a / 2];
     for (int k2 = 0; k2 < b; ++k2) {
       const Complex sum = low[k2] + middle[k2], difference = low[k2] - middle[k2];

@@ -13,7 +13,7 @@ Wide two_pi() {
   return Wide(0x1.921fb54442d18p+2) + Wide(0x1.1a62633145c07p-52) + Wide(-0x1.f1976b7ed8fbcp-108);
 }
 
-// Taylor series on the first octant, summed from the small end for the last bits.
+// Taylor series on the first octant, evaluated from the smallest term up for accuracy.
 Wide series(Wide x, int first_power) {
   constexpr int terms = 18;
   Wide tail = 0;
@@ -26,7 +26,7 @@ Wide series(Wide x, int first_power) {
 
 std::string fraction(Turn t) { return std::to_string(t.num) + "/" + std::to_string(t.den); }
 
-// The named constant cos or sin of t for 0 <= t <= 1/8. The three algebraic cases keep their exact values.
+// The named constant cos or sin of t for 0 <= t <= 1/8. 0, 1, 1/2 and sqrt(1/2) need no series.
 Constant octant(bool is_cosine, Turn t) {
   if (t.num == 0) return is_cosine ? Constant{"1", 1} : Constant{"0", 0};
   if (!is_cosine && t.num == 1 && t.den == 12) return {"0.5", Wide(1) / 2};
@@ -63,7 +63,7 @@ namespace {
 
 constexpr std::string_view times = " x ";
 
-// "a x b x c" in the order of the factors' names, however it was multiplied.
+// "a x b x c" with the factors sorted by name, so that the order of multiplication does not matter.
 std::string product_name(const std::string& a, const std::string& b) {
   std::multiset<std::string> factors;
   for (std::string rest : {a, b}) {

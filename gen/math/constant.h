@@ -1,4 +1,4 @@
-// Constants of the networks: a rule, its value to 113 bits, and a name that says what it is.
+// Constants of the networks: a value to 113 bits, and a name that says what it is.
 //
 // A constant is rounded exactly once, to the precision of the kernel. Evaluating it in binary64 would not do:
 // cosl or cos of 2 pi a/b is wrong in the last place of binary64 for most of the angles of the lengths up to
@@ -43,7 +43,7 @@ Constant operator*(const Constant& a, const Constant& b);
 Constant cosine(Turn t);
 Constant sine(Turn t);
 
-/// A constant known by a rule of its own.
+/// A constant that is not a cosine or a sine.
 Constant constant(std::string name, Wide value);
 
 /// c + i*s.
@@ -52,7 +52,7 @@ struct ComplexConstant {
   bool is_one() const { return re.is_one() && im.is_zero(); }
 };
 
-/// The sign of i in the exponent: forward transforms have -.
+/// The sign of the exponent: minus in forward transforms.
 enum class Direction { forward, inverse };
 
 inline Direction opposite(Direction d) {

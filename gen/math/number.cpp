@@ -31,8 +31,7 @@ bool is_prime(int n) {
 }
 
 int smallest_primitive_root(int p) {
-  if (!is_prime(p))
-    throw std::invalid_argument(std::to_string(p) + " has no primitive root here: it is not a prime");
+  if (!is_prime(p)) throw std::invalid_argument(std::to_string(p) + " is not a prime");
   for (int g = 1; g < p; ++g) {
     int order = 1;
     for (long long power = g % p; power != 1 % p; power = power * g % p) ++order;

@@ -24,8 +24,8 @@ int smallest_primitive_root(int p);
 struct TwoStages {
   int a, b;
   /// Good-Thomas (Good 1958), a and b coprime: x[(b*m + a*c) mod N], X[(b*B*k1 + a*A*k2) mod N] with B the
-  /// inverse of b modulo a and A the inverse of a modulo b, no twiddles. Else Cooley-Tukey: x[c + b*m], X[k1
-  /// + a*k2], and the column outputs are multiplied by W_N^(c*k1) in between.
+  /// inverse of b modulo a and A the inverse of a modulo b, no twiddles. Otherwise Cooley-Tukey: x[c + b*m],
+  /// X[k1 + a*k2], and the column outputs are multiplied by W_N^(c*k1) in between.
   bool good_thomas;
 
   int input(int m, int c) const;

@@ -14,8 +14,8 @@ struct Root {
 
 /// The spectrum of the roots of unity in the order of the convolution, of length M = N-1,
 ///   B[r] = (1/M) sum_q exp(-2 pi i g^-q/N) exp(-2 pi i q r/M).
-/// |B[0]| is 1/M exactly, and B[M/2] is real or imaginary; the other halves are true numbers. `times` doubles
-/// what both halves of a conjugate pair share.
+/// B[0] is -1/M, and B[M/2] is real or imaginary: those parts that vanish are exact zeros. `times` is 2 where
+/// one factor stands for a conjugate pair.
 ComplexConstant rader_spectrum(int n, Root root, int r, int times = 1);
 
 }  // namespace xfm::gen

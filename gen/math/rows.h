@@ -1,4 +1,4 @@
-// Rows of tables.
+// How to find a row of a table.
 #pragma once
 
 #include <algorithm>

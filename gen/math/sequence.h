@@ -1,4 +1,4 @@
-// A vector indexed by int, because formulas count with numbers that are subtracted, negated and reduced.
+// A vector indexed by int, because formulas subtract, negate and reduce their indices.
 #pragma once
 
 #include <vector>

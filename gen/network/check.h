@@ -1,4 +1,4 @@
-// Checks of a finished network while building: a kernel that fails one stops the build by name.
+// Checks of a finished network during the build. A kernel that fails one stops the build by name.
 #pragma once
 
 #include <functional>
@@ -8,15 +8,16 @@
 
 namespace xfm::gen {
 
-/// Every scalar of 0..read-1 is read exactly once, but for the `unread`, which never are; every one of
-/// 0..written-1 is written exactly once.
+/// Every scalar of 0..read-1 must be read exactly once, except the `unread`, which must never be; every one
+/// of 0..written-1 must be written exactly once.
 void check_memory(const Network& network, int read, int written, const std::string& name,
                   const PerLane& unread = {});
 
-/// Counts against the row.
+/// The counts must not exceed the row's.
 void check_counts(const Counts& counts, int adds, int mults, const std::string& name);
 
-/// The network against a definition, in binary128 on a few fixed vectors. The definition maps src to dst.
+/// The network must agree with a definition, in binary128 on a few fixed vectors. The definition maps src to
+/// dst.
 using Definition = std::function<void(const Sequence<Wide>& src, Sequence<Wide>& dst)>;
 void check_definition(const Network& network, const Definition& definition, int read, int written,
                       const std::string& name);

@@ -63,8 +63,8 @@ Complex combination(const Sequence<ScaledComplex>& terms) {
 }
 
 Complex operator*(const ComplexConstant& w, const Complex& z) {
-  // One by one: compilers evaluate the operands of a sign in different orders, and would make different
-  // texts.
+  // Named one by one: compilers evaluate the operands of an operator in different orders, and would number
+  // the nodes differently.
   const Value cp = product(w.re, z.p), sq = product(w.im, z.q), sp = product(w.im, z.p),
               cq = product(w.re, z.q);
   return {cp - sq, sp + cq};

@@ -1,8 +1,8 @@
 // Complex values in a network: p + i*q, each half a value of its own or absent.
 //
-// In the planar form p and q are the real and the imaginary part. In the interleaved form a node holds whole
-// complex numbers, the network has real coefficients only, and p + i*q carries a factor i that is never
-// formed before the last step. The same recipes serve both.
+// In the planar form p and q are the real and the imaginary part. In the interleaved form a node holds
+// complex numbers, the network has only real coefficients, and the factor i of p + i*q is not applied before
+// the last step. The same recipes serve both.
 #pragma once
 
 #include <initializer_list>
@@ -23,9 +23,9 @@ Complex operator+(const Complex& a, const Complex& b);
 Complex operator-(const Complex& a, const Complex& b);
 Complex times_i(const Complex& z);
 Complex conjugate(const Complex& z);
-Complex exchanged(const Complex& z);  ///< real and imaginary part change places
+Complex exchanged(const Complex& z);  ///< real and imaginary parts exchanged
 
-/// A product with a real constant, not yet rounded: it becomes a value by itself or a term of a sum.
+/// A product with a real constant, not yet rounded: it becomes a value of its own or a term of a sum.
 struct ScaledComplex {
   Constant c{"1", 1};
   Complex z;
@@ -38,13 +38,13 @@ struct ScaledComplex {
 };
 inline ScaledComplex operator*(const Constant& c, const Complex& z) { return {c, z}; }
 
-/// The terms added from left to right, as the network's rounding rule says.
+/// The terms added from left to right, rounded by the network's rule.
 Complex sum(std::initializer_list<ScaledComplex> terms);
 Complex sum(const Sequence<ScaledComplex>& terms);
 
-/// One linear combination, written with a positive term first where it has one: a leading negative term gives
-/// way to the plain operand, or else to the first positive product. Without any positive term it is the
-/// negative of the linear combination of the negated terms. So a zero comes out as +0.
+/// One linear combination that begins with a positive term, so that a zero comes out as +0. If its first term
+/// is negative, the first positive plain operand moves to the front, or else the first positive product. If
+/// all terms are negative, the result is the negative of the combination of the negated terms.
 Value combination(Products terms, Finish finish = Finish::none);
 Complex combination(const Sequence<ScaledComplex>& terms);
 

@@ -7,7 +7,7 @@
 namespace xfm::gen {
 namespace {
 
-// A lane works unless it is idle, multiplies by 0, 1 or -1, or adds such a zero.
+// A lane counts unless it is idle, multiplies by 0, 1 or -1, or adds a product by 0.
 class Counter {
  public:
   explicit Counter(const Network& network)
@@ -44,7 +44,7 @@ class Counter {
         ++counts_.adds;
         ++counts_.add_nodes;
         break;
-      case Op::twice:  // a multiplication by its row, an addition by its instruction
+      case Op::twice:  // the row counts a multiplication, the instruction is an addition
         ++counts_.mults;
         ++counts_.add_nodes;
         break;

@@ -5,7 +5,7 @@
 namespace xfm::gen {
 namespace {
 
-// Operands have smaller numbers than the nodes that use them, so one walk down meets all users first.
+// Operands have smaller numbers than the nodes that use them, so one walk down visits all users first.
 Sequence<int> spread(const Network& network, Sequence<int> uses) {
   for (NodeId id = uses.size() - 1; id >= 0; --id) {
     if (uses[id] == 0) continue;

@@ -1,4 +1,4 @@
-// What of a network is live: how often each node is used, and which of its lanes some output depends on.
+// Liveness: how often each node of a network is used, and which of its lanes some output depends on.
 #pragma once
 
 #include "gen/network/network.h"
@@ -8,10 +8,10 @@ namespace xfm::gen {
 /// For each node the number of live nodes and outputs that use it; 0 for a dead one.
 Sequence<int> uses(const Network& network);
 
-/// The same of a network whose outputs are these values, before it is bound to memory.
+/// The same for a network whose outputs are these values, before it is bound to memory.
 Sequence<int> uses(const Network& network, const Sequence<Value>& outputs);
 
-/// Live nodes and stores: what a processor has to issue, but for register copies and spills.
+/// Live nodes and stores: the instructions of a kernel, except register copies and spills.
 int instructions(const Network& network);
 
 /// For each node the lanes that some store depends on.

@@ -42,7 +42,7 @@ Value Network::add(Value a, Value b) {
   if (b.absent()) return a;
   if (a.negative != b.negative)
     return a.negative ? difference(b.node, a.node, false) : difference(a.node, b.node, false);
-  if (b.node < a.node) std::swap(a, b);  // addition commutes to the bit: one node for both orders
+  if (b.node < a.node) std::swap(a, b);  // addition commutes bit for bit: one node for both orders
   return make({.op = Op::add, .in = {a.node, b.node}}, a.negative);
 }
 
@@ -94,7 +94,7 @@ Value Network::repeat(const Node& node, Value a, Value b) {
     case Op::combination:
       break;
   }
-  throw std::logic_error("a linear combination is not repeated on two operands");
+  throw std::logic_error("a linear combination cannot be repeated on two operands");
 }
 
 Value Network::sum(std::span<const Product> products, Finish finish) {

@@ -1,8 +1,8 @@
 // The network: what a kernel computes, from its loads to its stores, as a graph of rounded operations.
 //
 // A network has a width: how many lanes a value carries (1: scalar; 2: the parts of one complex number; more:
-// numbers side by side). An operation acts alike on all lanes; only loads, permutations, sign flips and lane
-// constants tell lanes apart. A value is a node and a sign, so a negation costs nothing until an output needs
+// numbers side by side). Operations treat all lanes alike, except loads, stores, permutations, sign flips and
+// products by lane constants. A value is a node and a sign, so a negation costs nothing until an output needs
 // it. Equal operations are one node (hash-consing), and nothing else is ever simplified, reassociated or
 // merged by value: what a recipe writes is what rounds.
 #pragma once
@@ -31,7 +31,7 @@ enum class Op {
   twice,        ///< times 2, exact: an addition to itself
   combination,  ///< a linear combination in binary64, rounded once to the kernel's precision
   factor,       ///< times the scale factor
-  minus,        ///< 0 - v, so that a zero leaves as +0
+  minus,        ///< 0 - v, so that a zero comes out as +0
 };
 
 class Network;
@@ -47,7 +47,7 @@ struct Value {
   bool operator==(const Value&) const = default;
 };
 
-/// One term of a linear combination, coefficient * node; the coefficient 1 stands for a plain operand.
+/// One term of a linear combination, coefficient * node; a coefficient of 1 marks a plain operand.
 struct Term {
   Constant coefficient;
   NodeId node;
@@ -59,14 +59,14 @@ enum class Finish {
   none,
   scaled,     ///< times the scale factor
   negated,    ///< times the scale factor, and 0 minus that
-  unrounded,  ///< nothing, and it is not rounded either: only linear combinations may use it
+  unrounded,  ///< not scaled and not rounded: only linear combinations may use it
 };
 inline bool scales(Finish finish) { return finish == Finish::scaled || finish == Finish::negated; }
 
 struct Node {
   Op op;
   std::array<NodeId, 2> in{-1, -1};
-  PerLane lanes{};  ///< load: scalar index or -1; permute: lane of in[0], from the width on of in[1];
+  PerLane lanes{};  ///< load: scalar index or -1; permute: lane of in[0], or width + lane of in[1];
                     ///< sign_flip: 0 or 1
   Sequence<Constant> constants{};  ///< mul: one for all lanes or one for each
   Sequence<Term> terms{};          ///< combination
@@ -81,7 +81,7 @@ struct Node {
 Sequence<NodeId> operands(const Node& node);
 
 struct Store {
-  NodeId node;    ///< or -1: zero bits, whatever the data
+  NodeId node;    ///< or -1: stores +0, whatever the data
   PerLane lanes;  ///< for each lane the scalar index in dst, or -1
 };
 
@@ -116,11 +116,12 @@ class Network {
   Value factor(Value v);
   Value minus(Value v);  ///< -v as an operation, for the outputs that need it
 
-  /// The operation of another network's node on these operands; not for linear combinations, which have more.
+  /// Applies the operation of another network's node to these operands; not for linear combinations, which
+  /// may have more.
   Value repeat(const Node& node, Value a, Value b);
 
-  /// The sum of the products c*v, left to right: one linear combination with this finish, or an operation at
-  /// a time, as the rounding rule says.
+  /// The sum of the products c*v, left to right: one linear combination with this finish, or one operation at
+  /// a time, by the rounding rule.
   struct Product {
     Constant c;
     Value v;
@@ -131,7 +132,7 @@ class Network {
   void store(Value v, int scalar) { store(v, PerLane{scalar}); }
   void store_zero(int scalar) { stores_.push_back({-1, {scalar}}); }
 
-  /// Another network's store, of this value unless it is one of zeros.
+  /// Another network's store, now of this value; a store of zero stays one.
   void repeat(const Store& store, Value v);
 
  private:

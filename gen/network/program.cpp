@@ -9,7 +9,7 @@
 
 namespace xfm::gen {
 
-// Values of a network's lanes, each read once.
+// Reads the lanes of a network into a program, each lane once.
 class ProgramReader {
  public:
   ProgramReader(Programs& programs, const Network& network, Precision precision, const Numbering& numbering)
@@ -78,12 +78,12 @@ class ProgramReader {
     const Result plain = programs_.make({.kind = Kind::scale, .precision = precision, .a = {v.operation}});
     return v.negative ? -plain : plain;
   }
-  // In the values' sense 0 - v is -v.
+  // Under Equality::values 0 - v is -v.
   Result minus(Result v, Precision precision) {
     return programs_.add(programs_.zero(precision), -v, precision);
   }
 
-  // Products and sums in binary64, and a rounding where the kernel's precision is less.
+  // Products and sums in binary64, rounded once if the kernel's precision is lower.
   Result combination(const Node& node, int l) {
     constexpr Precision inner = Precision::binary64;
     std::optional<Result> total;
@@ -120,7 +120,7 @@ Result Programs::make(Operation operation) {
   return {place->second, false};
 }
 
-// Operands stand in the order of their hashes, which does not depend on what was read before.
+// Operands are in the order of their hashes, which does not depend on what was read before.
 Result Programs::add(Result a, Result b, Precision precision) {
   const auto order = [&](Result r) { return std::pair(hashes_[r.operation], r.negative); };
   if (order(b) < order(a)) std::swap(a, b);
@@ -186,7 +186,7 @@ std::string Programs::line(const Operation& operation, const Sequence<int>& name
   const auto operand = [&](Result r) { return name(r, names); };
   switch (operation.kind) {
     case Kind::add: {
-      // A plain operand first, so that a difference reads as one.
+      // A positive operand first, so that a difference reads as one.
       const bool exchanged = operation.a.negative && !operation.b.negative;
       const Result a = exchanged ? operation.b : operation.a, b = exchanged ? operation.a : operation.b;
       return fmt::format("{} {} {}", operand(a), b.negative ? "-" : "+", operand({b.operation}));
@@ -230,7 +230,7 @@ std::string Programs::text(const Program& program) const {
 void check_same(const Program& one, const std::string& name, const Program& other,
                 const std::string& other_name) {
   if (one.size() != other.size())
-    throw std::runtime_error(fmt::format("{}: another number of outputs than {}", name, other_name));
+    throw std::runtime_error(fmt::format("{}: the number of outputs is not that of {}", name, other_name));
   for (int k = 0; k < one.size(); ++k) {
     if (one[k] != other[k])
       throw std::runtime_error(fmt::format("{}: output {} is not computed as in {}", name, k, other_name));

@@ -1,12 +1,11 @@
-// Scalar programs: what a network promises, whatever its form.
+// Scalar programs: what a network computes, whatever its form.
 //
 // Read lane by lane, a network of any width is a graph of rounded scalar operations between numbered inputs
-// and outputs. Permutations are only names of lanes and vanish, sign flips become signs, and a product by 1
-// is its operand. Two networks give the same bits exactly if their graphs are equal, given that addition
-// commutes, c*(-v) is -(c*v) and a - b is a + (-b); the sign and payload of NaN excepted. An equal value has
-// an equal number however it was written (hash-consing over all programs of a collection), so that comparing
-// two programs is comparing the numbers of their outputs.
-#pragma once
+// and outputs. Permutations only rename lanes and vanish, sign flips become signs, and a product by 1 is its
+// operand. Two networks give the same bits exactly if their graphs are equal, given that addition commutes,
+// c*(-v) is -(c*v) and a - b is a + (-b); the sign and payload of NaN excepted. Equal values have equal
+// numbers however they were written (hash-consing over all programs of a collection), so two programs are
+// compared by the numbers of their outputs.
 
 #include <compare>
 #include <cstdint>
@@ -27,11 +26,11 @@ struct Result {
   auto operator<=>(const Result&) const = default;
 };
 
-/// The results in the order of the outputs, without an operation where nothing is stored but zeros.
+/// The results in the order of the outputs; where only zeros are stored there is no operation.
 using Program = Sequence<Result>;
 
-/// How inputs and outputs are numbered in a program, by the scalar's place in memory; places that are not
-/// listed keep their number. Kernels that are to be equal number what they share alike.
+/// The numbers of inputs and outputs in a program, by the scalar's place in memory; places that are not
+/// listed keep their own. Kernels that must be equal give the same quantity the same number.
 struct Numbering {
   PerLane inputs{}, outputs{};
 };
@@ -39,7 +38,8 @@ struct Numbering {
 /// Where two programs may differ.
 enum class Equality {
   bits,    ///< nowhere
-  values,  ///< in products by 0 and in the signs of zeros: equal bits of finite data, but for zeros' signs
+  values,  ///< in products by 0 and in the signs of zeros: finite data give equal results, up to the signs of
+           ///< zeros
 };
 
 /// A collection of programs that can be compared.
@@ -52,7 +52,7 @@ class Programs {
   /// 64 bits that depend on the program alone.
   std::uint64_t digest(const Program& program) const;
 
-  /// The program as text, an operation a line.
+  /// The program as text, one operation a line.
   std::string text(const Program& program) const;
 
  private:
@@ -84,7 +84,7 @@ class Programs {
   std::map<Operation, int> known_;
 };
 
-/// Throws, by the names of the two and of the first output that differs, if the programs are not equal.
+/// Throws if the programs differ, naming both and the first output that differs.
 void check_same(const Program& one, const std::string& name, const Program& other,
                 const std::string& other_name);
 

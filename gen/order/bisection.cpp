@@ -25,7 +25,7 @@ class Bisection {
  private:
   int& part(NodeId id) { return part_[id]; }
 
-  // A number that marks these nodes as one set.
+  // Marks these nodes as one set and returns its number.
   int mark(const Nodes& nodes) {
     ++marks_;
     for (const NodeId id : nodes) part(id) = marks_;
@@ -69,7 +69,8 @@ class Bisection {
     return components;
   }
 
-  // What can be reached from either side first, a layer at a time from the inputs and from the outputs.
+  // Peels off layers, alternately from the inputs and from the outputs: a node goes to the side that reaches
+  // it first.
   std::pair<Nodes, Nodes> halves(const Nodes& nodes) {
     const int whole = mark(nodes), near_inputs = ++marks_, near_outputs = ++marks_;
     Nodes left = nodes;

@@ -46,11 +46,10 @@ class Scheduler {
     return nodes;
   }
 
-  // The recipe's order, but no operation before those that can start a window earlier: what waits for long
-  // chains does not hold up what is ready. Within a window the order of the stages stays, for few live
-  // values.
+  // The recipe's order, sorted by the window in which an operation can start: what waits for a long chain
+  // does not hold up what is ready. Within a window the recipe's order keeps few values live.
   Sequence<NodeId> by_start(Order of) const {
-    // Cycles; 12 spills more, 48 is the recipe's order up to a few hundred operations.
+    // In cycles. 12 spills more; 48 leaves the recipe's order as it is up to a few hundred operations.
     const int window = of == Order::earliest_start ? 1 : 24;
     Sequence<int> start(size()), end(size());
     for (NodeId id = 0; id < size(); ++id) {
@@ -78,7 +77,7 @@ class Scheduler {
     return loads;
   }
 
-  // Cycles, typical of current processors. A linear combination converts, multiplies, adds up and converts
+  // In cycles, typical of current processors. A linear combination converts, multiplies, adds up and converts
   // back.
   static int latency(const Node& node) {
     switch (node.op) {
@@ -98,8 +97,8 @@ class Scheduler {
     }
   }
 
-  // A node belongs to the output stage if it leads to factor multiplications and to nothing else within two
-  // steps: the factor itself, a sign, an interleaving, a join.
+  // The output stage is the factor multiplications, and the sign flips, permutations and joins whose results
+  // go nowhere else.
   void mark_output_stage() {
     Sequence<bool> other(size());
     for (NodeId id = size() - 1; id >= 0; --id) {
@@ -112,12 +111,12 @@ class Scheduler {
     }
   }
 
-  // P + i Q or P - i Q.
+  // A join: P + i*Q or P - i*Q.
   bool is_join(NodeId id) const {
     const Node& node = network_.node(id);
     return (node.op == Op::add || node.op == Op::sub) && (times_i(node.in[0]) || times_i(node.in[1]));
   }
-  // The parts of complex numbers exchanged, and the sign flip behind that unless constants carry it.
+  // An exchange of the parts of complex numbers, or the sign flip behind it unless constants carry that.
   bool times_i(NodeId id) const {
     const Node& node = network_.node(id);
     if (node.op == Op::sign_flip) return true;

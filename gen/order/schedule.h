@@ -1,4 +1,4 @@
-// The order in which a kernel's operations are written. Never changes an operation.
+// The order in which a kernel's operations are written. It never changes an operation.
 #pragma once
 
 #include "gen/math/precision.h"
@@ -15,8 +15,8 @@ enum class Order {
   bisection,       ///< few values in flight (bisection.h)
 };
 
-/// Of scalar networks: plain operations run short of registers, while chains of linear combinations keep each
-/// other waiting.
+/// For scalar networks: plain operations run short of registers, chains of linear combinations wait for each
+/// other.
 inline Order scalar_order(Precision precision) {
   return precision == Precision::binary64 ? Order::bisection : Order::earliest_start;
 }
@@ -27,8 +27,8 @@ struct Step {
   int store = -1;
 };
 
-/// The live operations in an order: loads at their first use, all of them before the first store, and each
-/// output finished and stored as soon as its operands are there and the last load is done.
+/// The live operations in this order: loads at their first use, all of them before the first store, and each
+/// output finished and stored as soon as its operands are ready and the last load is done.
 Sequence<Step> schedule(const Network& network, Order order);
 
 }  // namespace xfm::gen

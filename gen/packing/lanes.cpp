@@ -22,7 +22,7 @@ bool all_real(const Elements& elements) {
                      [](const Element& e) { return e.weight.im.is_zero(); });
 }
 
-// A quarter turn by its parts alone: they change places and signs, and nothing is computed.
+// A quarter turn exchanges the parts or changes their signs; nothing is computed.
 Element turned(const Element& e) {
   const Constant &c = e.weight.re, &s = e.weight.im;
   const auto with_sign = [](Part part, bool negative) {
@@ -39,13 +39,13 @@ Element turned(const Element& e) {
 Element source_element(int n) { return {.at = n}; }
 
 Element weighted(Element e, const ComplexConstant& w) {
-  if (!e.weight.is_one()) throw std::logic_error("an element waits for two multiplications");
+  if (!e.weight.is_one()) throw std::logic_error("an element cannot wait for two multiplications");
   e.weight = w;
   return e;
 }
 
 Complex Lanes::gather(Elements elements, Form form) {
-  // Quarter turns that differ by the lane need no product.
+  // Quarter turns need no product, even if they differ from lane to lane.
   const bool turns = std::all_of(elements.begin(), elements.end(), [](const Element& e) {
     return !e.in_memory() && is_quarter_turn(e.weight);
   });
@@ -75,7 +75,7 @@ Elements Lanes::scatter(const Complex& z, int count, Form form) {
   return elements;
 }
 
-// Of every complex number in an interleaved register.
+// Exchanges the parts of every complex number in an interleaved register.
 Value Lanes::with_parts_exchanged(Value z) {
   PerLane picks(width());
   for (int l = 0; l < width(); ++l) picks[l] = l ^ 1;
@@ -88,7 +88,8 @@ Value Lanes::times_i(Value z) {
   return network_.flip_signs(with_parts_exchanged(z), real_parts);
 }
 
-// Lane constants where the lanes differ, trivial ones included, since the lanes are multiplied together.
+// Where the weights differ, the constants are those of the lanes, trivial ones included: all lanes are
+// multiplied at once.
 Complex Lanes::weigh_planar(const Elements& elements, const Complex& z) {
   const ComplexConstant& first = elements.front().weight;
   if (weighed_alike(elements)) return first * z;
@@ -104,7 +105,7 @@ Complex Lanes::weigh_planar(const Elements& elements, const Complex& z) {
   return {cp - sq, sp + cq};
 }
 
-// c*(re, im) + s*(-im, re), the sign in the constants. Idle lanes repeat the last number's.
+// c*(re, im) + s*(-im, re), with the sign in the constants. Idle lanes repeat the last number's constants.
 Value Lanes::weigh_interleaved(const Elements& elements, Value z) {
   const ComplexConstant& first = elements.front().weight;
   if (std::all_of(elements.begin(), elements.end(), [](const Element& e) { return e.weight.is_one(); }))
@@ -123,7 +124,7 @@ Value Lanes::weigh_interleaved(const Elements& elements, Value z) {
   return all_real(elements) ? in_phase : in_phase + network_.mul(sines, with_parts_exchanged(z));
 }
 
-// A register of complex numbers as they stand in memory, from elements[first] on.
+// A register of consecutive elements, each loaded as a complex number, from elements[first] on.
 NodeId Lanes::load(const Elements& elements, int first) {
   PerLane scalars(width(), -1);
   for (int l = 0; l < width() && first + l / 2 < elements.size(); ++l)
@@ -173,7 +174,7 @@ Value Lanes::gather_parts(const Sequence<Part>& parts) {
   return count == parts.size() ? -gathered : network_.flip_signs(gathered, negative);
 }
 
-// All outputs that share registers leave together: planar ones are interleaved, the others go as they are.
+// Outputs that share registers are stored together: planar ones are interleaved first.
 void Lanes::store(const Elements& elements) {
   std::map<std::pair<NodeId, NodeId>, PerLane> groups;
   for (int k = 0; k < elements.size(); ++k) {
@@ -188,7 +189,7 @@ void Lanes::store(const Elements& elements) {
   }
 }
 
-// The numbers of half a planar register, or of an interleaved one: what one store takes.
+// One store: the numbers of half a planar register, or of an interleaved one.
 void Lanes::store_register(const PerLane& outputs, int first, NodeId re, NodeId im) {
   const auto scaled = [&](NodeId node) { return network_.factor({&network_, node, false}); };
   if (width() == 1) {

@@ -1,8 +1,8 @@
-// Packing: like sub-transforms side by side in the lanes of registers.
+// Packing: equal sub-transforms side by side in the lanes of registers.
 //
-// A packed recipe keeps complex numbers as elements: where each one lives, not a value of its own. Before a
-// block of the recipe runs, gather() brings the elements of like instances into lanes; afterwards each lane
-// is an element again. Gathering is where transpositions arise. With a width of one the same recipe gives the
+// A packed recipe handles complex numbers as elements, which record where a number is. Before a block runs,
+// gather() brings the elements of several instances into lanes; afterwards scatter() makes each lane an
+// element again. Transpositions arise from gathering alone. With a width of one the same recipe gives the
 // plain scalar network.
 #pragma once
 
@@ -13,12 +13,11 @@
 
 namespace xfm::gen {
 
-/// How instances fill registers. Both forms take the same arithmetic.
+/// How instances fill registers. The arithmetic is the same in both forms.
 enum class Form {
-  planar,  ///< an instance a lane: a register of real parts, a register of imaginary parts; a turn by i is
+  planar,  ///< one lane per instance: a register of real parts and one of imaginary parts; a product by i is
            ///< free
-  interleaved,  ///< an instance in two lanes, as it stands in memory; a turn by i is a permutation and a sign
-                ///< flip
+  interleaved,  ///< two lanes per instance, as in memory; a product by i is a permutation and a sign flip
 };
 
 /// A part of a complex number: a lane of a node.
@@ -31,7 +30,7 @@ struct Part {
 struct Element {
   int at = -1;  ///< index in the source array, or -1
   Part re{}, im{};
-  ComplexConstant weight{{"1", 1}, {"0", 0}};  ///< a multiplication that waits for the next gathering
+  ComplexConstant weight{{"1", 1}, {"0", 0}};  ///< a factor that the next gathering applies
 
   bool in_memory() const { return at >= 0; }
   bool absent() const { return !in_memory() && re.value.absent(); }
@@ -50,14 +49,14 @@ class Lanes {
 
   int width() const { return network_.width(); }
 
-  /// How many instances stand side by side.
+  /// How many instances one value holds.
   int instances(Form form) const { return form == Form::planar ? width() : width() / 2; }
 
-  /// Like elements side by side, each times its weight. In the interleaved form the value is real in the
-  /// sense of a network with real coefficients: its q is absent.
+  /// The elements side by side, each times its weight. In the interleaved form q is absent, as in a real
+  /// sequence: the network's coefficients are real.
   Complex gather(Elements elements, Form form);
 
-  /// The first `count` instances of a value. In the interleaved form p + i*q is joined here.
+  /// The first `count` instances of a value. In the interleaved form p + i*q is formed here.
   Elements scatter(const Complex& z, int count, Form form);
 
   /// Stores elements[k] times the factor as complex number k of the destination.

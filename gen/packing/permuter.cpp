@@ -76,7 +76,7 @@ NodeId Permuter::by_one(const Places& wanted) {
   return -1;
 }
 
-// Where a node holds a and b, as far as it does.
+// Where a node holds a and b; idle places for what it does not hold.
 Permuter::Places Permuter::within(NodeId node, const Place& a, const Place& b) const {
   Places places(2);
   for (int l = width() - 1; l >= 0; --l) {
@@ -86,8 +86,8 @@ Permuter::Places Permuter::within(NodeId node, const Place& a, const Place& b) c
   return places;
 }
 
-// a and b in one node: one that is there, or one made by a permutation without choice if there is such a one,
-// for that is the form that transpositions share.
+// a and b in one node: an existing one, or a new one. Fixed permutations are preferred, because
+// transpositions can share their results.
 Permuter::Places Permuter::beside(const Place& a, const Place& b) {
   const auto complete = [&](const Places& p) { return !p[0].idle() && (b.idle() || !p[1].idle()); };
   if (const Places p = within(a.node, a, b); complete(p)) return p;
@@ -107,7 +107,7 @@ PerLane Permuter::side_by_side(const Place& a, const Place& b) const {
     if (p.fixed() && has(p.idle, a.lane) && has(p.idle, width() + b.lane)) return p.idle;
     if (!p.fixed() && free == nullptr) free = &p;
   }
-  // Each with the other part of its complex number.
+  // Each brings the other part of its complex number along.
   PerLane picks = free->idle, places(2);
   for (int l = 0; l < width(); ++l) {
     const bool first = free->allows(l, a.lane);
@@ -117,7 +117,7 @@ PerLane Permuter::side_by_side(const Place& a, const Place& b) const {
   return picks;
 }
 
-// Two by two, and then the pairs.
+// First in pairs, then the pairs together.
 NodeId Permuter::bring(const Places& wanted) {
   if (const NodeId node = find(wanted); node >= 0) return node;
   if (const NodeId node = by_one(wanted); node >= 0) return node;

@@ -1,5 +1,5 @@
-// Lanes brought together: which registers hold what, and how a wanted one is made of them by the permutations
-// that the target has.
+// Bringing lanes together: which nodes hold what, and how the target's permutations make a wanted register of
+// them.
 #pragma once
 
 #include "gen/targets/target.h"
@@ -19,13 +19,14 @@ class Permuter {
  public:
   Permuter(Network& network, const Target& target) : network_(network), target_(target) {}
 
-  /// A node that has in each lane what stands at its place. Idle places come last and may hold anything.
+  /// A node with the contents of these places in its lanes. Idle places come last, and their lanes may hold
+  /// anything.
   NodeId bring(const Sequence<Place>& wanted);
 
-  /// These lanes of a and b, which one instruction has to bring.
+  /// These lanes of a and b by one instruction; throws std::logic_error if the target has none for them.
   NodeId permuted(NodeId a, NodeId b, PerLane picks);
 
-  /// Where the content of a lane was computed: through permutations to the arithmetic node behind them.
+  /// Where the content of a lane was computed, traced back through permutations.
   Place content(Place place) const;
 
  private:
@@ -42,7 +43,7 @@ class Permuter {
 
   Network& network_;
   const Target& target_;
-  Sequence<NodeId> made_;  // permutations, in the order in which they came to be
+  Sequence<NodeId> made_;  // permutations, in the order in which they were made
 };
 
 }  // namespace xfm::gen

@@ -54,7 +54,7 @@ class Binder {
       case Op::combination:
         return made_->sum(terms(id), node(id).finish);
       default:
-        throw std::logic_error("a draft holds nothing but sums and linear combinations");
+        throw std::logic_error("a draft may hold only loads, sums and linear combinations");
     }
   }
 

@@ -7,15 +7,15 @@
 
 namespace xfm::gen {
 
-/// Where the inputs and outputs of a draft stand in memory, by their numbers.
+/// Where the inputs and outputs of a draft are in memory, by number.
 struct Binding {
   PerLane from, to;
   PerLane zeros{};             ///< elements of dst that are zero whatever the data
-  bool factor_inside = false;  ///< of the linear combination, where one makes an output and nothing else
+  bool factor_inside = false;  ///< multiplied before rounding, in linear combinations used by outputs alone
 };
 
 /// The network, with some values computed as their negatives (signs.h). Every output is multiplied by the
-/// factor as its last step; one whose sign is still wrong then is subtracted from zero.
+/// factor in its last step, and subtracted from zero if its sign is still wrong.
 std::unique_ptr<Network> bind(const Draft& draft, const Binding& binding, const Sequence<bool>& negated);
 
 }  // namespace xfm::gen

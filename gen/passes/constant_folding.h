@@ -1,7 +1,7 @@
-// Constant folding: products of products become one, with a constant that is multiplied out before it is
+// Constant folding: products of products become one product, whose constant is multiplied out before it is
 // rounded.
 //
-// A product all of whose uses are products is dropped, and its constant goes into theirs. Its transpose: a
+// A product that only products use is dropped, and its constant goes into theirs. The transposed case: a
 // product of a sum of products that nothing else uses is distributed over them. Both save a multiplication
 // and its rounding.
 #pragma once

@@ -26,7 +26,7 @@ bool only_products(const Node& of) {
          (of.op == Op::combination && std::all_of(of.terms.begin(), of.terms.end(), is_product));
 }
 
-// A draft made anew, node by node.
+// Rebuilds a draft node by node.
 class Rebuilding {
  public:
   explicit Rebuilding(const Draft& draft) : old_(draft), uses_(uses(draft)), values_(uses_.size()) {}
@@ -115,7 +115,8 @@ class PairMerging : Rebuilding {
   }
 
  private:
-  // u + v and u - v, each multiplied by the same constant and used in no other way; u and v products alone.
+  // u + v and u - v, each multiplied by the same constant and used in no other way; u and v consist of
+  // products alone.
   void find_pairs() {
     std::map<std::pair<NodeId, NodeId>, NodeId> lone_sums;
     for (NodeId id = 0; id < size(); ++id) {

@@ -1,6 +1,6 @@
-// Sign flips that constants can carry: where nothing but a flip uses a product, or a sum of such products,
-// directly or behind permutations, the products get constants of these signs and the flip falls away. No
-// value changes, for a sign is exact; a sum that cancels to zero may change that zero's sign.
+// Sign flips that constants can carry: where only a flip uses a product, or a sum of such products, directly
+// or through permutations, the products' constants take the signs and the flip is dropped. Signs are exact,
+// so no value changes; only a sum that cancels to zero may change the sign of that zero.
 #pragma once
 
 #include <memory>

@@ -84,7 +84,7 @@ class Search {
            static_cast<int>(std::count_if(users_[id].begin(), users_[id].end(), is));
   }
 
-  // Negates the operation or one of its operands: the one that breaks least, and now and then any.
+  // Negates the operation or one of its operands: the one that breaks least, or now and then one at random.
   void repair(NodeId id) {
     Sequence<NodeId> candidates{id};
     for (const NodeId operand : operands(node(id))) {

@@ -2,8 +2,8 @@
 // with a minus and as few outputs as possible have to be subtracted from zero.
 //
 // A difference can be written either way round, and a linear combination with terms of both signs can be
-// negated; a sum cannot. Which values to negate is a satisfiability problem, and a lenient one: local search
-// from the recipe's own signs (Selman, Kautz and Cohen 1994) ends after a few steps, most often with no minus
+// negated; a sum cannot. Which values to negate is a satisfiability problem, but an easy one: local search
+// from the recipe's own signs (Selman, Kautz and Cohen 1994) ends after a few steps, usually with no minus
 // left.
 #pragma once
 

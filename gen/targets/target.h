@@ -1,5 +1,5 @@
-// A target: a kind of processor that a library is built for, as data. What is not said here or in the
-// target's vocabulary of registers is the same for all.
+// A target: a kind of processor that a library is built for, as data. Everything outside this description and
+// the target's vocabulary of registers is the same for all.
 #pragma once
 
 #include <cstdint>
@@ -11,28 +11,28 @@
 
 namespace xfm::gen {
 
-/// Picks of lanes from two registers that take one instruction. Lanes are numbered over both registers.
+/// A permutation of lanes from two registers in one instruction. Lanes are numbered across both registers.
 struct Permutation {
   std::string_view name;
   int cost;                         ///< in additions
   Sequence<std::uint64_t> sources;  ///< for each lane the set of lanes that it can come from, as bits
-  PerLane idle;                     ///< the picks of lanes that nobody asks for
+  PerLane idle;                     ///< the picks for idle lanes
 
   bool allows(int lane, int pick) const { return (sources[lane] >> static_cast<unsigned>(pick) & 1U) != 0; }
-  /// Whether it leaves no choice.
+  /// Whether every lane has only one source.
   bool fixed() const;
 };
 
 struct Target {
   std::string_view name;           ///< as compilers call it: "x86-64"
-  std::string_view folder;         ///< where the loader looks for the library, below that of the baseline's
-  std::string_view compile_flags;  ///< what makes a compiler use these instructions and no others
+  std::string_view folder;         ///< where the loader looks for the library, below the baseline's folder
+  std::string_view compile_flags;  ///< make a compiler use these instructions and no others
   std::string_view vocabulary;     ///< the header that kernels are written in
   int register_bytes;
   int registers;
   std::span<const Permutation> permutations;  ///< the cheapest first
 
-  /// Numbers of a precision in a register.
+  /// How many numbers of a precision a register holds.
   int lanes(Precision precision) const { return register_bytes / (precision == Precision::binary32 ? 4 : 8); }
 };
 

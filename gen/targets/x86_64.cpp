@@ -1,7 +1,7 @@
-// The baseline: every x86-64 processor has SSE2. The build reads the texts below too.
+// The baseline: every x86-64 processor has SSE2. CMake reads the strings below too.
 //
-// -march replaces another -march but leaves single extensions on, which a project around xfm may ask for.
-// Without SSE3 there is nothing that builds on it, AVX and FMA included; the others extend the integer unit.
+// -march replaces an earlier -march but leaves on single extensions that an embedding project may ask for.
+// Without SSE3 nothing that builds on it is left, AVX and FMA included; the others extend the integer unit.
 #include "gen/targets/target.h"
 
 namespace xfm::gen {

@@ -136,7 +136,7 @@ class Body {
     return fmt::format("{}{{{}}}", value_type(kernel_), fmt::join(multipliers, ", "));
   }
 
-  // One linear combination in binary64, rounded once; its terms stand in the recipe's order.
+  // One linear combination in binary64, rounded once; its terms are in the recipe's order.
   std::string combination(const Node& node) {
     std::string sum;
     for (const Term& term : node.terms) {
@@ -157,7 +157,7 @@ class Body {
                : sum;
   }
 
-  // Lanes side by side take one load; others are complex numbers, one or more, from the lowest lanes on.
+  // Contiguous lanes take one load. Others are complex numbers, one or more, from the lowest lanes on.
   std::string load(const Node& node) const {
     const PerLane& from = node.lanes;
     if (!kernel_.packed()) return fmt::format("x[{}]", from[0]);
@@ -168,7 +168,7 @@ class Body {
     return fmt::format("load_complex({})", places);
   }
 
-  // What does not start at a multiple of a register is never aligned.
+  // A place that is not a multiple of the register's width is never aligned.
   std::string memory(int scalar) const { return scalar % network_.width() == 0 ? "Memory" : "Unaligned"; }
 
   std::string store(const Store& store) const {
@@ -190,7 +190,7 @@ class Body {
   SharedConstants& shared_;
 };
 
-// 1/N and 1/sqrt(N): nearest in binary32, in binary64 the quotients by N and by the rounded root.
+// 1/N and 1/sqrt(N): the nearest numbers in binary32; in binary64 the quotients by N and by the rounded root.
 std::string factors(const Kernel& kernel) {
   const Precision precision = kernel.type.precision;
   const Wide by_n =
@@ -267,7 +267,7 @@ std::string SharedConstants::use(const Constant& c, const Kernel& kernel) {
                                              name, fmt::join(lanes, ", "), static_cast<double>(c.value));
   const auto [known, fresh] = definitions_.try_emplace(name, definition);
   if (!fresh && known->second != definition)
-    throw std::logic_error(kernel.name() + ": two constants of the name " + name);
+    throw std::logic_error(kernel.name() + ": two constants named " + name);
   return name;
 }
 

@@ -1,4 +1,4 @@
-// The writers of C++ text: a body, and the shell around it (entry tests, factor, unaligned variant).
+// Writers of C++ text: a kernel's body, and the shell around it (entry tests, factor, unaligned variant).
 #pragma once
 
 #include <map>
@@ -10,15 +10,14 @@
 
 namespace xfm::gen {
 
-/// Registers of replicated constants, one of a kind for all kernels of the library, by name. They stand in a
-/// translation unit of their own: a compiler that sees their value would build them from scalars at every
-/// use.
+/// Registers of replicated constants, by name, one for all kernels of the library. They have a translation
+/// unit of their own, because a compiler that saw their values would build them from scalars at every use.
 class SharedConstants {
  public:
-  /// The register's name; from now on it is defined.
+  /// The register's name; from now on the register is among the definitions.
   std::string use(const Constant& c, const Kernel& kernel);
 
-  /// The translation unit that defines all that were used.
+  /// The translation unit that defines all registers that were used.
   std::string definitions(const Target& target) const;
 
  private:

@@ -1,4 +1,4 @@
-// Files of the generator: written only if their bytes change, so that a build recompiles only what changed.
+// Writing files only if their bytes change, so that a build recompiles only what changed.
 #pragma once
 
 #include <filesystem>

@@ -231,7 +231,7 @@ TEST(CheckSame, NamesTheFirstOutputThatDiffers) {
   test::store(other, x(other), 3);
   const Program longer = programs.read(other, Precision::binary64);
   EXPECT_EQ(test::error_of([&] { check_same(a, "one", longer, "longer"); }),
-            "one: another number of outputs than longer");
+            "one: the number of outputs is not that of longer");
 }
 
 TEST(Program, Text) {

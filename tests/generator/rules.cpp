@@ -75,8 +75,8 @@ TEST(Rules, RefuseOtherArgumentsByName) {
   EXPECT_EQ(error("CT(6)"), "CT(6) is not CT(a,b,..)");
   EXPECT_EQ(error("SR(12)"), "SR(12) is not SR(2^k)");
   EXPECT_EQ(error("F(3,4 * 2)"), "F(3,4 * 2) is not F(even bins, odd bins)");
-  EXPECT_EQ(error("R(8)"), "R(8) is not R([root,] there[, back[, skew]])");
-  EXPECT_EQ(error("R(2 * 3,12)"), "R(2 * 3,12) is not R([root,] there[, back[, skew]])");
+  EXPECT_EQ(error("R(8)"), "R(8) is not R([root,] forward[, inverse[, skew]])");
+  EXPECT_EQ(error("R(2 * 3,12)"), "R(2 * 3,12) is not R([root,] forward[, inverse[, skew]])");
   EXPECT_EQ(error("RS(4,3)"), "RS(4,3) is not RS(tree)");
   EXPECT_EQ(error("B(8,9)"), "B(8,9) is not B(there, back)");
 }
@@ -86,10 +86,10 @@ TEST(CheckLength, AChirpServesShorterOddLengths) {
     return error_of([&] { check_length(parse_tree(text), length); });
   };
   EXPECT_EQ(error("3 x 5", 15), "no error");
-  EXPECT_EQ(error("3 x 5", 13), "tree 3 x 5 is not one of length 13");
+  EXPECT_EQ(error("3 x 5", 13), "tree 3 x 5 cannot transform length 13");
   for (const int length : {1, 3, 5}) EXPECT_EQ(error("B(12,12)", length), "no error") << length;
   for (const int length : {2, 4, 6, 7})
-    EXPECT_EQ(error("B(12,12)", length), "tree B(12,12) is not one of length " + std::to_string(length));
+    EXPECT_EQ(error("B(12,12)", length), "tree B(12,12) cannot transform length " + std::to_string(length));
 }
 
 TEST(RaderArguments, InTheirFourShapes) {

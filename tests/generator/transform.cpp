@@ -134,9 +134,9 @@ TEST(Transform, SequencesOfValuesHaveNoOtherRules) {
     return test::error_of(
         [&] { Transform(Rounding::each, choices()).run(tree, points(network, length_of(tree), true)); });
   };
-  EXPECT_EQ(run("B(PFA(4,3),PFA(4,3))"), "B(PFA(4,3),PFA(4,3)) is no tree for sequences of values");
-  EXPECT_EQ(run("R(PFA(2,3))"), "R(PFA(2,3)) is no tree for sequences of values");
-  EXPECT_EQ(run("R(3,PFA(2,3))"), "R(3,PFA(2,3)) is no tree for sequences of values");
+  EXPECT_EQ(run("B(PFA(4,3),PFA(4,3))"), "B(PFA(4,3),PFA(4,3)) cannot transform a sequence of values");
+  EXPECT_EQ(run("R(PFA(2,3))"), "R(PFA(2,3)) cannot transform a sequence of values");
+  EXPECT_EQ(run("R(3,PFA(2,3))"), "R(3,PFA(2,3)) cannot transform a sequence of values");
   EXPECT_EQ(run("6"), "no block of length 6");
 }
 

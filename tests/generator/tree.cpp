@@ -51,15 +51,15 @@ TEST(Tree, RunsBindAsWritten) {
 }
 
 TEST(Tree, ErrorsNameTheTextAndThePlace) {
-  EXPECT_EQ(error_of(""), "tree \"\", place 0: a number or a rule is expected");
-  EXPECT_EQ(error_of("PFA"), "tree \"PFA\", place 3: '(' is expected");
-  EXPECT_EQ(error_of("PFA()"), "tree \"PFA()\", place 4: a number or a rule is expected");
-  EXPECT_EQ(error_of("PFA(2,)"), "tree \"PFA(2,)\", place 6: a number or a rule is expected");
-  EXPECT_EQ(error_of("PFA(2,3"), "tree \"PFA(2,3\", place 7: ')' is expected");
-  EXPECT_EQ(error_of("PFA(2;3)"), "tree \"PFA(2;3)\", place 5: ')' is expected");
-  EXPECT_EQ(error_of("PFA(2,3))"), "tree \"PFA(2,3))\", place 8: unexpected text");
-  EXPECT_EQ(error_of("2,2)"), "tree \"2,2)\", place 3: unexpected text");
-  EXPECT_EQ(error_of("-3"), "tree \"-3\", place 0: a number or a rule is expected");
+  EXPECT_EQ(error_of(""), "tree \"\", position 0: expected a number or a rule");
+  EXPECT_EQ(error_of("PFA"), "tree \"PFA\", position 3: expected '('");
+  EXPECT_EQ(error_of("PFA()"), "tree \"PFA()\", position 4: expected a number or a rule");
+  EXPECT_EQ(error_of("PFA(2,)"), "tree \"PFA(2,)\", position 6: expected a number or a rule");
+  EXPECT_EQ(error_of("PFA(2,3"), "tree \"PFA(2,3\", position 7: expected ')'");
+  EXPECT_EQ(error_of("PFA(2;3)"), "tree \"PFA(2;3)\", position 5: expected ')'");
+  EXPECT_EQ(error_of("PFA(2,3))"), "tree \"PFA(2,3))\", position 8: unexpected text");
+  EXPECT_EQ(error_of("2,2)"), "tree \"2,2)\", position 3: unexpected text");
+  EXPECT_EQ(error_of("-3"), "tree \"-3\", position 0: expected a number or a rule");
 }
 
 }  // namespace
