@@ -132,7 +132,7 @@ std::string generic_functions() {
 // exact.
 std::string catalogue_row(const Family& family, const gen::Kernel& kernel) {
   const gen::Counts counts = count(*kernel.network);
-  const bool joined = kernel.network->width() == 2;
+  const bool joined = kernel.type.complex && kernel.type.precision == gen::Precision::binary64;
   return text({.name = kernel.name(),
                .family = kernel.family,
                .type = kernel.type,

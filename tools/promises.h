@@ -11,6 +11,9 @@ namespace xfm {
 /// kernels and the first output that differs.
 void check_promises(const std::vector<gen::Kernel>& kernels);
 
+/// Throws in the same way if a kernel of a target is not the program of the baseline's.
+void check_against_baseline(const gen::Kernel& kernel, const gen::Kernel& of_baseline);
+
 /// The kernel's scalar program in a collection, numbered as its family prescribes.
 gen::Program program_of(const gen::Kernel& kernel, gen::Programs& programs);
 

@@ -21,10 +21,14 @@ using xfm::Family;
 using xfm::gen::Kernel;
 using xfm::gen::Target;
 
-// Both precisions.
+// Both precisions, on every target with the baseline's bits.
 std::vector<Kernel> kernels_of(const Family& family, int length, const Target& target) {
   std::vector<Kernel> kernels;
-  for (const auto& type : family.types()) kernels.push_back(family.make(length, type.precision, "", target));
+  for (const auto& type : family.types()) {
+    kernels.push_back(family.make(length, type.precision, "", target));
+    if (target.name != xfm::gen::baseline().name)
+      xfm::check_against_baseline(kernels.back(), family.make(length, type.precision));
+  }
   return kernels;
 }
 

@@ -1,7 +1,5 @@
 #include "gen/algorithms/blocks.h"
 
-#include <ranges>
-
 namespace xfm::gen {
 
 Points dft2(const Points& x) { return {x[0] + x[1], x[0] - x[1]}; }
@@ -60,7 +58,7 @@ Points direct(const Points& x, Centre centre, const Sequence<int>& order) {
   Complex total;
   if (centre == Centre::outer) total = x[0];
   for (int j = 1; j <= h; ++j) total = centre == Centre::inner ? a[h + 1 - j] + total : total + a[j];
-  for (const int k : order | std::views::reverse) {
+  for (const int k : Sequence<int>(order.rbegin(), order.rend())) {
     if (k == 0) {
       out[0] = centre == Centre::outer ? total : x[0] + total;
       continue;

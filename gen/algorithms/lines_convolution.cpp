@@ -6,6 +6,8 @@
 // computed.
 #include <fmt/format.h>
 
+#include <stdexcept>
+
 #include "gen/algorithms/lines.h"
 #include "gen/math/number.h"
 
@@ -14,7 +16,10 @@ namespace xfm::gen {
 // The factor 1/M is part of B. x0 is added at frequency zero, X0 = x0 + A[0] and Y[0] = x0 + B[0]*A[0], and
 // the inverse transform spreads it over all outputs.
 Lines LineTransform::rader(const Tree& tree, const Lines& x, Direction direction) {
-  const Tree& inner = *rader_arguments(tree).there;
+  const RaderArguments args = rader_arguments(tree);
+  if (args.root)
+    throw std::invalid_argument(to_string(tree) + ": on lines the root is a choice of the kernel");
+  const Tree& inner = *args.there;
   const int m = length_of(inner), n = m + 1;
   const Root root = choices_.root(n);
   const auto factor = [&](int r) { return directed(rader_spectrum(n, root, r), direction); };

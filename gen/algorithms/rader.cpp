@@ -36,11 +36,11 @@ Points from_bins(int length, Rounding rounding, Make make, const Points& bins) {
 
 // The inverse transform is two of length M/2, one plain and one skew, both as transposed networks.
 Points Transform::rader_by_halves(const Tree& tree, const Points& x, int /*instance*/) const {
-  const auto [root, there, back, skew_back] = rader_arguments(tree);
-  if (skew_back == nullptr)
+  const RaderArguments args = rader_arguments(tree);
+  if (args.skew == nullptr)
     throw std::invalid_argument(to_string(tree) + " cannot transform a sequence of values");
-  const int g = *root, n = x.size(), m = n - 1, h = m / 2;
-  const Points a = run(*there, permuted(x, g));
+  const int g = *args.root, n = x.size(), m = n - 1, h = m / 2;
+  const Points a = run(*args.there, permuted(x, g));
 
   // For odd r, B[r] is divided by i, so that the odd half is a real network that yields the imaginary parts.
   const Constant by_m = constant("1/" + std::to_string(m), Wide(1) / Wide(m));
@@ -51,9 +51,9 @@ Points Transform::rader_by_halves(const Tree& tree, const Points& x, int /*insta
     (r % 2 == 0 ? even : odd).push_back(combination({w.re * a[r], w.im * times_i(a[r])}));
   }
   const Points re = from_bins(
-      h, rounding_, [&](const Points& y) { return run(*back, y); }, even);
+      h, rounding_, [&](const Points& y) { return run(*args.back, y); }, even);
   const Points im = from_bins(
-      h, rounding_, [&](const Points& y) { return skew(*skew_back, y); }, odd);
+      h, rounding_, [&](const Points& y) { return skew(*args.skew, y); }, odd);
 
   Spectrum out(n);
   out.put(0, x[0] + a[0]);

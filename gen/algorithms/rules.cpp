@@ -18,9 +18,10 @@ bool one_number(const Tree& tree) { return tree.args.size() == 1 && all_numbers(
 int first_number(const Tree& tree) { return tree.args[0].number; }
 
 int product(const Tree& tree) {
-  int product = 1;
-  for (const Tree& arg : tree.args) product *= length_of(arg);
-  return product;
+  constexpr long long too_long = 1 << 20;
+  long long product = 1;
+  for (const Tree& arg : tree.args) product = std::min(product * length_of(arg), too_long);
+  return static_cast<int>(product);
 }
 
 bool stages(const Tree& tree) { return tree.args.size() >= 2; }
@@ -32,14 +33,22 @@ bool coprime_stages(const Tree& tree) {
   }
   return stages(tree);
 }
-bool two_twos(const Tree& tree) { return all_numbers(tree) && tree.args.size() == 2 && product(tree) == 4; }
+bool two_twos(const Tree& tree) {
+  return tree.args.size() == 2 && tree.args[0].number == 2 && tree.args[1].number == 2;
+}
 bool power_of_two(const Tree& tree) {
   return one_number(tree) && first_number(tree) >= 4 &&
          std::has_single_bit(static_cast<unsigned>(first_number(tree)));
 }
 bool odd_block(const Tree& tree) {
-  return !tree.args.empty() && all_numbers(tree) && first_number(tree) % 2 == 1 &&
-         (tree.args.size() == 1 || tree.args.size() == first_number(tree) / 2 + 2);
+  if (tree.args.empty() || !all_numbers(tree) || first_number(tree) % 2 == 0) return false;
+  Sequence<int> bins;
+  for (int a = 1; a < tree.args.size(); ++a) bins.push_back(tree.args[a].number);
+  std::sort(bins.begin(), bins.end());
+  for (int k = 0; k < bins.size(); ++k) {
+    if (bins[k] != k) return false;
+  }
+  return bins.empty() || bins.size() == first_number(tree) / 2 + 1;
 }
 bool halves(const Tree& tree) {
   return tree.args.size() == 2 && length_of(tree.args[0]) == length_of(tree.args[1]);
@@ -49,42 +58,50 @@ bool one_tree(const Tree& tree) { return tree.args.size() == 1; }
 int one_more(const Tree& tree) { return length_of(tree.args.back()) + 1; }
 int rader_length(const Tree& tree) { return length_of(*rader_arguments(tree).there) + 1; }
 bool rader_shape(const Tree& tree) {
-  return tree.args.size() >= 1 && tree.args.size() <= 4 && is_prime(rader_length(tree)) &&
-         (tree.args.size() == 1 || tree.args[0].is_number());
+  if (tree.args.empty() || tree.args.size() > 4) return false;
+  const RaderArguments args = rader_arguments(tree);
+  if (!is_prime(rader_length(tree)) || (args.root && !tree.args[0].is_number())) return false;
+  const int half = length_of(*args.there) / 2;
+  return args.back == nullptr || (length_of(*args.back) == half && length_of(*args.skew) == half);
 }
 // The longest odd N with 2N-1 <= L, the length of the convolution.
 int chirp_length(const Tree& tree) { return (length_of(tree.args[0]) - 1) / 2 | 1; }
+
+// The first argument that is a tree, and not a number with another meaning.
+int all_trees(const Tree&) { return 0; }
+int no_trees(const Tree& tree) { return tree.args.size(); }
+int behind_root(const Tree& tree) { return rader_arguments(tree).root ? 1 : 0; }
 
 using T = Transform;
 using L = LineTransform;
 
 // clang-format off
 const Rule table[] = {
-  {"",     "a number above 0", is_positive, number, false, &T::block, false, {}, {},
+  {"",     "a number above 0", is_positive, number, no_trees, false, &T::block, false, {}, {},
    "the block of that length", "Winograd 1978"},
-  {"D",    "(n[, order of the bins]), n odd", odd_block, first_number, false, &T::block, false, {}, {},
+  {"D",    "(n[, order of the bins]), n odd", odd_block, first_number, no_trees, false, &T::block, false, {}, {},
    "X[k], X[n-k] = sum of cos (x[j] + x[n-j]) -+ i sum of sin (x[j] - x[n-j])", "Singleton 1969"},
-  {",",    "2,2", two_twos, product, false, &T::block, false, {}, {},
+  {",",    "2,2", two_twos, product, no_trees, false, &T::block, false, {}, {},
    "two stages of two", "Cooley and Tukey 1965"},
-  {"PFA",  "(a,b,..) coprime", coprime_stages, product, false, &T::two_stages, false, {}, &L::two_stages,
+  {"PFA",  "(a,b,..) coprime", coprime_stages, product, all_trees, false, &T::two_stages, false, {}, &L::two_stages,
    "columns of length a, rows of length b, no twiddles", "Good 1958, Thomas 1963"},
-  {"PFA*", "(a,b) coprime", coprime_stages, product, false, &T::two_stages, false, {}, {},
+  {"PFA*", "(a,b) coprime", coprime_stages, product, all_trees, false, &T::two_stages, false, {}, {},
    "the same, with the last butterfly of a split-radix a after the rows", "Good 1958, Thomas 1963"},
-  {"x",    "a x b coprime", coprime_stages, product, false, &T::two_stages, true, &T::skew_good_thomas, {},
+  {"x",    "a x b coprime", coprime_stages, product, all_trees, false, &T::two_stages, true, &T::skew_good_thomas, {},
    "columns of length a, rows of length b, no twiddles", "Good 1958, Thomas 1963"},
-  {"CT",   "(a,b,..)", stages, product, false, &T::two_stages, true, {}, &L::two_stages,
+  {"CT",   "(a,b,..)", stages, product, all_trees, false, &T::two_stages, true, {}, &L::two_stages,
    "columns of length a, twiddles, rows of length b", "Cooley and Tukey 1965"},
-  {"*",    "a * b", stages, product, false, &T::two_stages, true, &T::skew_cooley_tukey, {},
+  {"*",    "a * b", stages, product, all_trees, false, &T::two_stages, true, &T::skew_cooley_tukey, {},
    "columns of length a, twiddles, rows of length b", "Cooley and Tukey 1965"},
-  {"SR",   "(2^k)", power_of_two, first_number, false, &T::split_radix, false, {}, {},
+  {"SR",   "(2^k)", power_of_two, first_number, no_trees, false, &T::split_radix, false, {}, {},
    "even outputs by half the length, odd ones by two quarters", "Yavne 1968; Duhamel and Hollmann 1984"},
-  {"F",    "(even bins, odd bins)", halves, twice_half, false, &T::fork, true, {}, {},
+  {"F",    "(even bins, odd bins)", halves, twice_half, all_trees, false, &T::fork, true, {}, {},
    "sums to the even bins, differences to the odd ones", "Gentleman and Sande 1966"},
-  {"R",    "([root,] forward[, inverse[, skew]])", rader_shape, rader_length, false, &T::rader_by_halves, true, {}, &L::rader,
+  {"R",    "([root,] forward[, inverse[, skew]])", rader_shape, rader_length, behind_root, false, &T::rader_by_halves, true, {}, &L::rader,
    "a prime length as a cyclic convolution of one less", "Rader 1968"},
-  {"RS",   "(tree)", one_tree, one_more, false, &T::rader_transposed, true, {}, {},
+  {"RS",   "(tree)", one_tree, one_more, all_trees, false, &T::rader_transposed, true, {}, {},
    "the same on real sequences, the inverse transform being the forward one transposed", "Rader 1968"},
-  {"B",    "(forward, inverse)", halves, chirp_length, true, {}, false, {}, &L::bluestein,
+  {"B",    "(forward, inverse)", halves, chirp_length, all_trees, true, {}, false, {}, &L::bluestein,
    "an odd length as a convolution with a chirp, by two transforms of a longer one", "Bluestein 1970"},
 };
 // clang-format on
@@ -133,9 +150,9 @@ Tree spelled_out(const Tree& tree, const std::function<std::optional<Tree>(int)>
     const std::optional<Tree> plan = expand(tree.number);
     return plan ? spelled_out(*plan, expand) : tree;
   }
-  const bool block = tree.rule == "D" || tree.rule == "SR" || tree.rule == ",";
+  const Rule& rule = rule_of(tree);
   Tree plan = tree;
-  for (int a = tree.rule == "R" && tree.args.size() > 1 ? 1 : 0; a < plan.args.size() && !block; ++a)
+  for (int a = rule.first_tree(tree); a < plan.args.size(); ++a)
     plan.args[a] = spelled_out(plan.args[a], expand);
   return plan;
 }

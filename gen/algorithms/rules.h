@@ -16,6 +16,7 @@ struct Rule {
   std::string_view children;        ///< the shape of its arguments, for messages
   bool (*applicable)(const Tree&);  ///< whether a tree's arguments have that shape
   int (*length)(const Tree&);       ///< the length that it transforms
+  int (*first_tree)(const Tree&);   ///< the first argument that is a tree of its own
   bool shorter = false;             ///< whether it also serves any shorter odd length
   Points (Transform::*on_points)(const Tree&, const Points&, int instance) const = nullptr;
   bool by_halves = false;  ///< runs a complex sequence as two real ones, added at the end

@@ -35,7 +35,7 @@ class Interpreter {
     const int width = network_.width();
     switch (node.op) {
       case Op::load:
-        return l < node.lanes.size() && node.lanes[l] >= 0 ? src[node.lanes[l]] : T(0);
+        return node.lanes[l] >= 0 ? src[node.lanes[l]] : T(0);
       case Op::permute:
         return values_[node.in[node.lanes[l] < width ? 0 : 1]][node.lanes[l] % width];
       case Op::sign_flip:
@@ -55,14 +55,14 @@ class Interpreter {
       case Op::combination:
         break;
     }
-    return combination(node, factor);
+    return combination(node, l, factor);
   }
 
-  Inner combination(const Node& node, T factor) const {
+  Inner combination(const Node& node, int l, T factor) const {
     Inner total = 0;
     for (int t = 0; t < node.terms.size(); ++t) {
       const Term& term = node.terms[t];
-      const Inner product = static_cast<Inner>(term.coefficient.value) * values_[term.node][0];
+      const Inner product = static_cast<Inner>(term.coefficient.value) * values_[term.node][l];
       total = t == 0 ? product : total + product;
     }
     if (scales(node.finish)) total = static_cast<Inner>(factor) * total;

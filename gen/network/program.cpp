@@ -71,7 +71,7 @@ class ProgramReader {
       case Op::combination:
         break;
     }
-    return combination(node);
+    return combination(node, l);
   }
 
   Result scale(Result v, Precision precision) {
@@ -84,11 +84,11 @@ class ProgramReader {
   }
 
   // Products and sums in binary64, rounded once if the kernel's precision is lower.
-  Result combination(const Node& node) {
+  Result combination(const Node& node, int l) {
     constexpr Precision inner = Precision::binary64;
     std::optional<Result> total;
     for (const Term& term : node.terms) {
-      const Result product = programs_.mul(rounded(term.coefficient.value, inner), lane(term.node, 0), inner);
+      const Result product = programs_.mul(rounded(term.coefficient.value, inner), lane(term.node, l), inner);
       total = total ? programs_.add(*total, product, inner) : product;
     }
     Result result = *total;

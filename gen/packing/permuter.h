@@ -19,7 +19,8 @@ class Permuter {
  public:
   Permuter(Network& network, const Target& target) : network_(network), target_(target) {}
 
-  /// A node with the contents of these places in its lanes; idle lanes may hold anything.
+  /// A node with the contents of these places in its lanes. Idle places come last, and their lanes may hold
+  /// anything.
   NodeId bring(const Sequence<Place>& wanted);
 
   /// These lanes of a and b by one instruction; throws std::logic_error if the target has none for them.

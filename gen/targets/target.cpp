@@ -6,8 +6,6 @@
 
 namespace xfm::gen {
 
-Target x86_64();
-
 bool Permutation::fixed() const {
   return std::all_of(sources.begin(), sources.end(),
                      [](std::uint64_t set) { return std::has_single_bit(set); });

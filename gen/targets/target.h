@@ -36,6 +36,11 @@ struct Target {
   int lanes(Precision precision) const { return register_bytes / (precision == Precision::binary32 ? 4 : 8); }
 };
 
+/// @name The descriptions, each in its own file
+/// @{
+Target x86_64();
+/// @}
+
 /// All targets that can be built, the baseline first.
 std::span<const Target> targets();
 inline const Target& baseline() { return targets().front(); }

@@ -10,9 +10,10 @@ constexpr int lowest_order = 1, highest_order = 13;
 /// The block pass does the low stages, `block` adjacent elements at a time. A column pass does the next ones,
 /// between `middle` or `last` vectors, as many elements apart as the earlier passes have combined.
 struct Passes {
-  int block;       ///< elements
-  int middle = 1;  ///< radix; 1 if there is no such pass
-  int last = 1;    ///< radix; 1 if one block is all
+  int block;                  ///< elements
+  int middle = 1;             ///< radix; 1 if there is no such pass
+  int last = 1;               ///< radix; 1 if one block is all
+  bool one_function = false;  ///< the kernel holds its unaligned variant itself
 
   constexpr int length() const { return block * middle * last; }
   constexpr bool is_block() const { return last == 1; }
@@ -35,8 +36,8 @@ constexpr Passes passes_32f[] = {
     {32, 1, 8}, {64, 1, 8}, {64, 1, 16}, {64, 1, 32}, {64, 8, 8}, {64, 8, 16},
 };
 constexpr Passes passes_64f[] = {
-    {2},        {4},         {8},         {16},       {32},        {64},        {128},
-    {32, 1, 8}, {32, 1, 16}, {128, 1, 8}, {32, 8, 8}, {32, 8, 16}, {128, 8, 8},
+    {2},        {4},         {8, 1, 1, true}, {16},       {32},        {64},        {128},
+    {32, 1, 8}, {32, 1, 16}, {128, 1, 8},     {32, 8, 8}, {32, 8, 16}, {128, 8, 8},
 };
 
 template <class T>

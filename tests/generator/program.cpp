@@ -244,14 +244,14 @@ TEST(Program, Text) {
   network.store(network.minus(once), 3);
   Programs programs(Equality::bits);
   EXPECT_EQ(programs.text(programs.read(network, Precision::binary32)),
-            "t0 = x0 - x1  (binary32)\n"
-            "t1 = s * t0  (binary32)\n"
+            "t0 = x0 - x1\n"
+            "t1 = s * t0\n"
             "y0 = t1\n"
-            "t2 = 0x1.8p+0 * t0\n"
-            "t3 = s * t2\n"
-            "t4 = round t3  (binary32)\n"
+            "t2 = 0x1.8p+0 * t0  (binary64)\n"
+            "t3 = s * t2  (binary64)\n"
+            "t4 = round t3\n"
             "y1 = t4\n"
-            "t5 = 0 - t4  (binary32)\n"
+            "t5 = 0 - t4\n"
             "y3 = t5\n");
 }
 

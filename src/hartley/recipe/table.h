@@ -35,8 +35,7 @@ struct Row {
   int radix;
   int adds, mults;  ///< real operations without the factor
   Design design;
-  const char*
-      plan;  ///< as gen/algorithms/real_transform.h has it; a number is a block or a plan of that length
+  const char* plan;  ///< a tree; a number is a block or the plan of that length
   Products products = Products::merged;
 };
 

@@ -1,6 +1,7 @@
 #include "src/real/recipe/plans.h"
 
 #include <algorithm>
+#include <stdexcept>
 #include <string>
 
 namespace xfm::real {
@@ -16,7 +17,10 @@ const char* row_tree(Direction direction, int length) {
 // R(g, L) with its forward and inverse transforms spelled out. The inverse ones run transposed, so they take
 // the plans of the other direction.
 Tree rader(Direction direction, const Tree& tree) {
-  const int l = tree.args[1].number;
+  const gen::RaderArguments args = gen::rader_arguments(tree);
+  if (!args.root || !args.there->is_number())
+    throw std::invalid_argument(to_string(tree) + " is not R(root, length)");
+  const int l = args.there->number;
   const RaderStage stage = rader_stage(l + 1);
   const bool forward = direction == Direction::forward;
   const std::string whole = forward ? stage.there : stage.closing;

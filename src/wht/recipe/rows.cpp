@@ -32,7 +32,7 @@ Facts facts(int order, int lanes) {
           .add_instructions = additions(p, width),
           .mult_instructions = p.is_block() ? n / width : p.last,
           .vector_code = width > 1,
-          .two_variants = width > 1 && !(sizeof(T) == 8 && order == 3),  // that kernel holds both bodies
+          .two_variants = width > 1 && !p.one_function,
           .straight = p.is_block(),
           .buffer_bytes = static_cast<int>(p.template buffer_bytes<T>())};
 }
