@@ -43,15 +43,15 @@ struct Kernel {
 struct Design {
   Kernel kernel;
   Definition definition;
-  bool by_row = true;  ///< false for a tree that is only tried out: nothing bounds its costs
+  bool by_row = true;  ///< false for a tree that is only tried out: costs and forms are not checked
   PerLane unread{};    ///< scalars of src that are never read
   std::unique_ptr<Network> other_form{};  ///< the same kernel with its operations packed another way
 };
 
 /// Checks a design and returns its kernel. Each input must be read once and each output written once; the
-/// network must compute the transform's definition, at no more than the row's costs; and both forms must be
-/// one scalar program, except for products by 0 that lanes compute together. Throws at the first check that
-/// fails, naming the kernel.
+/// network must compute the transform's definition. By a row, it must also cost no more than the row allows,
+/// and both forms must be one scalar program, except for products by 0 that lanes compute together. Throws
+/// at the first check that fails, naming the kernel.
 Kernel make_kernel(Design design);
 
 }  // namespace xfm::gen

@@ -18,7 +18,8 @@ namespace xfm::gen {
 Lines LineTransform::rader(const Tree& tree, const Lines& x, Direction direction) {
   const RaderArguments args = rader_arguments(tree);
   if (args.root)
-    throw std::invalid_argument(to_string(tree) + ": on lines the root is a choice of the kernel");
+    throw std::invalid_argument(to_string(tree) +
+                                ": a packed transform takes its root from the kernel's choices");
   const Tree& inner = *args.there;
   const int m = length_of(inner), n = m + 1;
   const Root root = choices_.root(n);

@@ -52,7 +52,7 @@ class Programs {
   /// 64 bits that depend on the program alone.
   std::uint64_t digest(const Program& program) const;
 
-  /// The program as text, one operation a line.
+  /// The program as text, one operation per line.
   std::string text(const Program& program) const;
 
  private:

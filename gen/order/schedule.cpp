@@ -116,7 +116,7 @@ class Scheduler {
     const Node& node = network_.node(id);
     return (node.op == Op::add || node.op == Op::sub) && (times_i(node.in[0]) || times_i(node.in[1]));
   }
-  // An exchange of the parts of complex numbers, or the sign flip behind it unless constants carry that.
+  // An exchange of the parts of complex numbers, or the sign flip after it unless constants carry that.
   bool times_i(NodeId id) const {
     const Node& node = network_.node(id);
     if (node.op == Op::sign_flip) return true;

@@ -68,13 +68,13 @@ template <class T>
 void make_table(CombineNode<T>& node);
 
 /// Allocates and fills the table of an inner combine: pairs of a cosine and a sine, each repeated to fill a
-/// group. The radix 8 has seven pairs a class, a = 1 .. 7. The radixes 16 and 32 have two parts: for each
+/// group. The radix 8 has seven pairs per class, a = 1 .. 7. The radixes 16 and 32 have two parts: for each
 /// class and each j = 0 .. r2 / 4 - 1 the multiples 1, 2, 3 of its angle plus j; then, for each class, the
 /// multiples 4, 8, .. r2 - 4 of its angle.
 template <class T>
 void make_table(OddCombineNode<T>& node);
 
-/// Pairs a class in the first part of an inner combine's table, and in the second.
+/// Pairs per class in the first part of an inner combine's table, and in the second.
 constexpr std::int32_t near_pairs(std::int32_t r2) { return r2 <= 8 ? r2 - 1 : r2 / 4 * 3; }
 constexpr std::int32_t far_pairs(std::int32_t r2) { return r2 <= 8 ? 0 : r2 / 4 - 1; }
 

@@ -1,4 +1,4 @@
-// The real kernels: forward and inverse, one draft a length, bound to the three layouts.
+// The real kernels: forward and inverse, one draft per length, bound to the three layouts.
 #pragma once
 
 #include "gen/kernel.h"
