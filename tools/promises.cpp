@@ -15,7 +15,7 @@ struct Promise {
   const char *family, *as;
   Equality equality;
   bool parts_exchanged;  ///< real and imaginary parts, of the input and of the output
-  /// Of the two families: a length at which one of them sums in an order of its own has no promise.
+  /// Those of the two families: lengths at which one of them sums in an order of its own promise nothing.
   std::vector<real::Layout> layouts{};
 
   bool holds(int length) const {

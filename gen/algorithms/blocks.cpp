@@ -12,8 +12,8 @@ Points dft4(const Points& x) {
 
 namespace {
 
-// The two cosine sums by their mean and half their difference. (u1, u2) is (b1, b2) rotated and scaled, which
-// takes three products where one more addition is cheaper than a product.
+// The two cosine sums by their mean and half their difference. (u1, u2) is (b1, b2) rotated and scaled: four
+// products and two additions, or three of each.
 Points dft5_by_halves(const Points& x, bool three_products) {
   const Constant s1 = sine(turn(1, 5)), s2 = sine(turn(2, 5));
   const Constant quarter = constant("0.25", Wide(1) / 4), root = constant("sqrt(5)/4", wide_sqrt(5) / 4);

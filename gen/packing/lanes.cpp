@@ -22,7 +22,7 @@ bool all_real(const Elements& elements) {
                      [](const Element& e) { return e.weight.im.is_zero(); });
 }
 
-// A quarter turn exchanges the parts or changes their signs; nothing is computed.
+// A quarter turn only exchanges parts and changes signs; nothing is computed.
 Element turned(const Element& e) {
   const Constant &c = e.weight.re, &s = e.weight.im;
   const auto with_sign = [](Part part, bool negative) {

@@ -16,8 +16,8 @@ using gen::Rounding;
 
 constexpr auto binary32 = Precision::binary32, binary64 = Precision::binary64;
 
-// Numbers that stand for a block. Any other number is a prime, by Rader's algorithm around the row of one
-// less.
+// Numbers that stand for a block. Any other number is a prime, transformed by Rader's algorithm around
+// the row of one less.
 constexpr int blocks[] = {2, 3, 4, 5, 7, 11};
 
 // Binary32 kernels too short for lanes.

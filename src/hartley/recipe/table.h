@@ -30,7 +30,7 @@ enum class Products {
 struct Row {
   int length;
   Input input;
-  std::array<int, 5> groups;  ///< sizes m of sets of inputs that partition them and meet in one value each
+  std::array<int, 5> groups;  ///< sizes m: sets of m inputs partition all, each with a value of just these
   Output output;
   int radix;
   int adds, mults;  ///< real operations without the factor
