@@ -6,6 +6,7 @@
 // c*(-v) is -(c*v) and a - b is a + (-b); the sign and payload of NaN excepted. Equal values have equal
 // numbers however they were written (hash-consing over all programs of a collection), so two programs are
 // compared by the numbers of their outputs.
+#pragma once
 
 #include <compare>
 #include <cstdint>
