@@ -21,7 +21,7 @@ static int dct4_is_wrong(void) {
 
 int main(void) {
   static const xfm32fc circle[8] = {{1, 0},  {HALF_ROOT, -HALF_ROOT}, {0, -1}, {-HALF_ROOT, -HALF_ROOT},
-                                  {-1, 0}, {-HALF_ROOT, HALF_ROOT}, {0, 1},  {HALF_ROOT, HALF_ROOT}};
+                                    {-1, 0}, {-HALF_ROOT, HALF_ROOT}, {0, 1},  {HALF_ROOT, HALF_ROOT}};
   static const xfm32fc impulse[8] = {{0, 0}, {1, 0}, {0, 0}, {0, 0}, {0, 0}, {0, 0}, {0, 0}, {0, 0}};
   xfm32fc result[8] = {{0, 0}, {0, 0}, {0, 0}, {0, 0}, {0, 0}, {0, 0}, {0, 0}, {0, 0}};
   int wrong = 0;
