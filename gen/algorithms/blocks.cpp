@@ -4,6 +4,13 @@ namespace xfm::gen {
 
 Points dft2(const Points& x) { return {x[0] + x[1], x[0] - x[1]}; }
 
+Points dft3(const Points& x) {
+  const Constant half = sine(turn(1, 12)), c = sine(turn(1, 3));
+  const Complex a = x[1] + x[2], d = x[1] - x[2];
+  const Complex t = sum({x[0], -(half * a)}), u = c * d;
+  return {x[0] + a, t - times_i(u), t + times_i(u)};
+}
+
 Points dft4(const Points& x) {
   const Complex a = x[0] + x[2], b = x[0] - x[2];
   const Complex c = x[1] + x[3], d = x[1] - x[3];
@@ -36,7 +43,14 @@ Points dft5_by_halves(const Points& x, bool three_products) {
 Points dft5(const Points& x, Five form) {
   if (form == Five::six_products || form == Five::five_products)
     return dft5_by_halves(x, form == Five::five_products);
-  return direct(x, form == Five::outer_first ? Centre::outer : Centre::inner);
+  const Constant c1 = cosine(turn(1, 5)), c2 = -cosine(turn(2, 5));
+  const Constant s1 = sine(turn(1, 5)), s2 = sine(turn(2, 5));
+  const Complex a1 = x[1] + x[4], a2 = x[2] + x[3];
+  const Complex b1 = x[1] - x[4], b2 = x[2] - x[3];
+  const Complex x0 = form == Five::outer_first ? (x[0] + a1) + a2 : (a1 + a2) + x[0];
+  const Complex t1 = sum({x[0], c1 * a1, -(c2 * a2)}), t2 = sum({x[0], -(c2 * a1), c1 * a2});
+  const Complex u1 = sum({s1 * b1, s2 * b2}), u2 = sum({s2 * b1, -(s1 * b2)});
+  return {x0, t1 - times_i(u1), t2 - times_i(u2), t2 + times_i(u2), t1 + times_i(u1)};
 }
 
 Points direct(const Points& x, Centre centre) {
@@ -56,11 +70,10 @@ Points direct(const Points& x, Centre centre, const Sequence<int>& order) {
     b[j] = x[j] - x[n - j];
   }
   Complex total;
-  if (centre == Centre::outer) total = x[0];
-  for (int j = 1; j <= h; ++j) total = centre == Centre::inner ? a[h + 1 - j] + total : total + a[j];
+  for (int j = 1; j <= h; ++j) total = last ? total + a[j] : a[h + 1 - j] + total;
   for (const int k : Sequence<int>(order.rbegin(), order.rend())) {
     if (k == 0) {
-      out[0] = centre == Centre::outer ? total : x[0] + total;
+      out[0] = x[0] + total;
       continue;
     }
     Sequence<ScaledComplex> t, u;

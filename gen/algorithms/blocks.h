@@ -7,20 +7,20 @@ namespace xfm::gen {
 
 /// The forms of the length-5 block. They differ only in rounding and cost.
 enum class Five {
-  outer_first,    ///< X0 = (x0 + a1) + a2; the symmetric scheme, eight products for each part
-  inner_first,    ///< X0 = (a1 + a2) + x0; the symmetric scheme, eight products for each part
+  outer_first,    ///< X0 = (x0 + a1) + a2, eight products for each part
+  inner_first,    ///< X0 = (a1 + a2) + x0, eight products for each part
   six_products,   ///< cosines by their mean and half their difference: six products for each part
   five_products,  ///< and sines as a rotation of three products: five products for each part
 };
 
 /// Where x0 enters the sums of the symmetric scheme.
 enum class Centre {
-  inner,  ///< first in t_k; X0 = x0 + (a1 + (a2 + ..))
-  outer,  ///< first in t_k; X0 = ((x0 + a1) + a2) + ..
+  first,  ///< first in t_k; X0 = x0 + (a1 + (a2 + ..))
   last,   ///< last in t_k, X0 = x0 + ((a1 + a2) + ..); linear combinations that begin with a positive term
 };
 
 Points dft2(const Points& x);
+Points dft3(const Points& x);
 Points dft4(const Points& x);
 Points dft5(const Points& x, Five form);
 

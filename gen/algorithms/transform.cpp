@@ -53,7 +53,7 @@ Points Transform::by_halves(const Tree& tree, const Points& x) const {
 }
 
 Points Transform::block(const Tree& tree, const Points& x, int instance) const {
-  const Centre centre = combines() ? Centre::last : Centre::inner;
+  const Centre centre = combines() ? Centre::last : Centre::first;
   if (tree.args.size() > 1 && tree.rule == "D") {
     Sequence<int> order;
     for (int a = 1; a < tree.args.size(); ++a) order.push_back(tree.args[a].number);
@@ -65,7 +65,7 @@ Points Transform::block(const Tree& tree, const Points& x, int instance) const {
     case 2:
       return dft2(x);
     case 3:
-      if (!combines()) return direct(x, centre, {0, 1});  // measured: up to 7 percent faster with X0 last
+      if (!combines()) return dft3(x);
       break;
     case 4:
       return dft4(x);
