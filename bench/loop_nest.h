@@ -15,8 +15,8 @@ using WalshHadamardLoops = void (*)(const Real* src, Real* dst, int order, Real 
 
 struct LoopNest {
   const char* name;
-  WalshHadamardLoops<float> single;
-  WalshHadamardLoops<double> twofold;
+  WalshHadamardLoops<float> binary32;
+  WalshHadamardLoops<double> binary64;
 };
 
 extern const std::vector<LoopNest> loop_nests;

@@ -60,8 +60,8 @@ std::vector<NamedContestant> further_rivals(const catalogue::Kernel& kernel, Arr
   if (std::string_view(kernel.family) != "WHT") return rivals;
   const bool single = kernel.precision == catalogue::Precision::binary32;
   for (const LoopNest& nest : loop_nests) {
-    rivals.push_back({nest.name, single ? contestant(nest.single, kernel.length, arrays)
-                                        : contestant(nest.twofold, kernel.length, arrays)});
+    rivals.push_back({nest.name, single ? contestant(nest.binary32, kernel.length, arrays)
+                                        : contestant(nest.binary64, kernel.length, arrays)});
   }
   return rivals;
 }
