@@ -108,4 +108,10 @@ ComplexConstant root_of_unity(Turn t, Direction direction) {
   return directed({cosine(t), -sine(t)}, direction);
 }
 
+Sequence<ComplexConstant> roots_of_unity(int n, Direction direction) {
+  Sequence<ComplexConstant> roots;
+  for (int k = 0; k < n; ++k) roots.push_back(root_of_unity(turn(k, n), direction));
+  return roots;
+}
+
 }  // namespace xfm::gen

@@ -8,6 +8,8 @@
 #include <compare>
 #include <string>
 
+#include "gen/math/sequence.h"
+
 namespace xfm::gen {
 
 __extension__ using Wide = __float128;
@@ -64,5 +66,8 @@ ComplexConstant directed(const ComplexConstant& w, Direction direction);
 
 /// exp(-2 pi i t), or exp(2 pi i t) for inverse transforms.
 ComplexConstant root_of_unity(Turn t, Direction direction = Direction::forward);
+
+/// All of exp(-2 pi i k/n), k = 0..n-1, or their conjugates.
+Sequence<ComplexConstant> roots_of_unity(int n, Direction direction = Direction::forward);
 
 }  // namespace xfm::gen

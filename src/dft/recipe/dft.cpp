@@ -83,8 +83,7 @@ std::unique_ptr<Network> lanes_network(const Recipe& recipe, Form form) {
 gen::Definition definition(Direction direction) {
   return [=](const gen::Sequence<Wide>& src, gen::Sequence<Wide>& dst) {
     const int length = src.size() / 2;
-    gen::Sequence<gen::ComplexConstant> roots;
-    for (int j = 0; j < length; ++j) roots.push_back(gen::root_of_unity(gen::turn(j, length), direction));
+    const auto roots = gen::roots_of_unity(length, direction);
     dst = gen::Sequence<Wide>(src.size());
     for (int k = 0; k < length; ++k) {
       for (int n = 0; n < length; ++n) {

@@ -66,11 +66,13 @@ Draft finished(Products products, const Draft& draft) {
 
 // dst[k] = sum over j of src[j] (cos + sin)(2 pi j k/N).
 void definition(const Sequence<Wide>& src, Sequence<Wide>& dst) {
-  for (int k = 0; k < src.size(); ++k) {
+  const int length = src.size();
+  const auto roots = gen::roots_of_unity(length);
+  for (int k = 0; k < length; ++k) {
     dst[k] = 0;
-    for (int j = 0; j < src.size(); ++j) {
-      const gen::Turn angle = gen::turn(static_cast<long long>(j) * k, src.size());
-      dst[k] += src[j] * (gen::cosine(angle).value + gen::sine(angle).value);
+    for (int j = 0; j < length; ++j) {
+      const auto& [c, s] = roots[j * k % length];
+      dst[k] += src[j] * (c.value - s.value);
     }
   }
 }

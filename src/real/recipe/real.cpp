@@ -83,11 +83,11 @@ gen::Numbering numbering(Direction direction, Layout layout, int length) {
 // X[k] = sum over j of x[j] exp(-2 pi i j k/N), and x[j] as the sum over all bins of the Hermitian spectrum.
 gen::Definition definition(Direction direction, Layout layout, int length) {
   return [=](const Sequence<Wide>& src, Sequence<Wide>& dst) {
+    const auto roots = gen::roots_of_unity(length);
     dst = Sequence<Wide>(dst.size());
     for (int j = 0; j < length; ++j) {
       for (const Half& of : halves(length)) {
-        const gen::ComplexConstant root =
-            gen::root_of_unity(gen::turn(static_cast<long long>(j) * of.k, length));
+        const gen::ComplexConstant& root = roots[j * of.k % length];
         const Wide w = of.part == 0 ? root.re.value : root.im.value;
         const int bin = element(layout, length, of.k, of.part);
         if (direction == Direction::forward) {
