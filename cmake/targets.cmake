@@ -1,5 +1,5 @@
 # The targets that the library is built for, the baseline first, and the CMake target of each library: xfm, xfm_v2.
-set(XFM_TARGET_NAMES x86-64)
+set(XFM_TARGET_NAMES x86-64 x86-64-v3 x86-64-v4)
 foreach(target ${XFM_TARGET_NAMES})
   string(REGEX REPLACE "^x86-64-?" "xfm_" XFM_LIBRARY_${target} ${target})
   string(REGEX REPLACE "_$" "" XFM_LIBRARY_${target} ${XFM_LIBRARY_${target}})

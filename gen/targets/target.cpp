@@ -12,7 +12,7 @@ bool Permutation::fixed() const {
 }
 
 std::span<const Target> targets() {
-  static const Target all[] = {x86_64()};
+  static const Target all[] = {x86_64(), x86_64_v2(), x86_64_v3(), x86_64_v4()};
   return all;
 }
 

@@ -39,6 +39,9 @@ struct Target {
 /// @name The descriptions, each in its own file
 /// @{
 Target x86_64();
+Target x86_64_v2();
+Target x86_64_v3();
+Target x86_64_v4();
 /// @}
 
 /// All targets that can be built, the baseline first.

@@ -1,0 +1,20 @@
+// Processors with SSE4.2, since about 2009: the baseline's registers.
+#include "gen/targets/target.h"
+
+namespace xfm::gen {
+
+Target x86_64_v2() {
+  // clang-format off
+  return {
+      .name = "x86-64-v2",
+      .folder = "glibc-hwcaps/x86-64-v2",
+      .compile_flags = "-march=x86-64-v2 -mtune=generic -mfpmath=sse -mno-avx",
+      .vocabulary = "src/simd/x86_64.h",
+      .register_bytes = 16,
+      .registers = 16,
+      .permutations = x86_64().permutations,
+  };
+  // clang-format on
+}
+
+}  // namespace xfm::gen
