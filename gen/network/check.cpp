@@ -5,7 +5,6 @@
 #include <stdexcept>
 
 #include "gen/network/interpreter.h"
-#include "gen/network/liveness.h"
 
 namespace xfm::gen {
 namespace {

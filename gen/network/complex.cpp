@@ -19,7 +19,6 @@ Value combine(const Sequence<ScaledComplex>& terms, Value Complex::*half) {
   return present.empty() ? Value{} : present.front().v.network->sum(present);
 }
 
-bool is_negative(const Network::Product& term) { return term.c.is_negative() != term.v.negative; }
 bool is_plain(const Network::Product& term) { return magnitude(term.c).is_one(); }
 
 Value product(const Constant& c, Value v) { return v.absent() ? Value{} : v.network->mul(c, v); }
@@ -42,16 +41,15 @@ Complex sum(const Sequence<ScaledComplex>& terms) {
 
 Value combination(Products terms, Finish finish) {
   if (terms.empty()) return {};
-  const bool negated = std::all_of(terms.begin(), terms.end(), is_negative);
+  const bool negated = std::ranges::all_of(terms, &Network::Product::is_negative);
   if (negated) {
     for (Network::Product& term : terms) term.v = -term.v;
   }
   auto leader = terms.begin();
-  if (is_negative(*leader)) {
-    const auto leads = [](const Network::Product& term) { return !is_negative(term); };
-    leader = std::find_if(terms.begin(), terms.end(),
-                          [&](const Network::Product& term) { return leads(term) && is_plain(term); });
-    if (leader == terms.end()) leader = std::find_if(terms.begin(), terms.end(), leads);
+  if (leader->is_negative()) {
+    leader = std::ranges::find_if(
+        terms, [](const Network::Product& term) { return !term.is_negative() && is_plain(term); });
+    if (leader == terms.end()) leader = std::ranges::find_if_not(terms, &Network::Product::is_negative);
   }
   std::rotate(terms.begin(), leader, leader + 1);
   const Value sum = terms.front().v.network->sum(terms, finish);

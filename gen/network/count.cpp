@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "gen/network/liveness.h"
-
 namespace xfm::gen {
 namespace {
 

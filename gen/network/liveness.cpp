@@ -1,33 +1,20 @@
-#include "gen/network/liveness.h"
+#include "gen/network/network.h"
 
 #include <algorithm>
 
 namespace xfm::gen {
-namespace {
-
 // Operands have smaller numbers than the nodes that use them, so one walk down visits all users first.
-Sequence<int> spread(const Network& network, Sequence<int> uses) {
+Sequence<int> uses(const Network& network) {
+  Sequence<int> uses(network.nodes().size());
+  for (const Store& store : network.stores()) {
+    if (store.node >= 0) ++uses[store.node];
+  }
+  for (const Value& output : network.outputs()) ++uses[output.node];
   for (NodeId id = uses.size() - 1; id >= 0; --id) {
     if (uses[id] == 0) continue;
     for (const NodeId operand : operands(network.node(id))) ++uses[operand];
   }
   return uses;
-}
-
-}  // namespace
-
-Sequence<int> uses(const Network& network) {
-  Sequence<int> stored(network.nodes().size());
-  for (const Store& store : network.stores()) {
-    if (store.node >= 0) ++stored[store.node];
-  }
-  return spread(network, std::move(stored));
-}
-
-Sequence<int> uses(const Network& network, const Sequence<Value>& outputs) {
-  Sequence<int> leaving(network.nodes().size());
-  for (const Value& output : outputs) ++leaving[output.node];
-  return spread(network, std::move(leaving));
 }
 
 int instructions(const Network& network) {

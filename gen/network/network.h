@@ -75,6 +75,8 @@ struct Node {
 
   /// The constant of a product in a lane.
   const Constant& constant(int lane) const { return constants[constants.size() == 1 ? 0 : lane]; }
+
+  bool is_sum() const { return op == Op::add || op == Op::sub; }
 };
 
 /// The distinct nodes that a node is computed from.
@@ -102,6 +104,7 @@ class Network {
   Rounding rounding() const { return rounding_; }
   const Sequence<Node>& nodes() const { return nodes_; }
   const Sequence<Store>& stores() const { return stores_; }
+  const Sequence<Value>& outputs() const { return outputs_; }
   const Node& node(NodeId id) const { return nodes_[id]; }
 
   Value load(PerLane scalars);
@@ -125,6 +128,7 @@ class Network {
   struct Product {
     Constant c;
     Value v;
+    bool is_negative() const { return c.is_negative() != v.negative; }
   };
   Value sum(std::span<const Product> products, Finish finish = Finish::none);
 
@@ -135,6 +139,9 @@ class Network {
   /// Another network's store, now of this value; a store of zero stays one.
   void repeat(const Store& store, Value v);
 
+  /// The next output of a network that is not bound to memory yet.
+  void output(Value v) { outputs_.push_back(v); }
+
  private:
   Value make(Node node, bool negative = false);
   Value difference(NodeId a, NodeId b, bool negative);
@@ -143,15 +150,22 @@ class Network {
   Rounding rounding_;
   Sequence<Node> nodes_;
   Sequence<Store> stores_;
+  Sequence<Value> outputs_;
   std::map<Node, NodeId> known_;
 };
 
 using Products = Sequence<Network::Product>;
 
-inline Value operator+(Value a, Value b) {
-  if (a.absent()) return b;
-  return b.absent() ? a : a.network->add(a, b);
-}
+/// For each node the number of live nodes, stores and outputs that use it; 0 for a dead one.
+Sequence<int> uses(const Network& network);
+
+/// Live nodes and stores: the instructions of a kernel, except register copies and spills.
+int instructions(const Network& network);
+
+/// For each node the lanes that some store depends on.
+Sequence<Sequence<bool>> live_lanes(const Network& network);
+
+inline Value operator+(Value a, Value b) { return a.absent() ? b : a.network->add(a, b); }
 inline Value operator-(Value a, Value b) { return a + -b; }
 
 }  // namespace xfm::gen

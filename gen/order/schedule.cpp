@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "gen/network/liveness.h"
 #include "gen/order/bisection.h"
 
 namespace xfm::gen {

@@ -1,6 +1,8 @@
-#include "gen/passes/constant_folding.h"
+#include "gen/passes/passes.h"
 
-#include "gen/network/liveness.h"
+#include <algorithm>
+
+#include "gen/passes/rebuilding.h"
 
 namespace xfm::gen {
 namespace {
@@ -14,71 +16,41 @@ Constants times(const Constants& a, const Constants& b) {
   return product;
 }
 
-class Folding {
+class Folding : public Rebuilding {
  public:
-  explicit Folding(const Network& old)
-      : old_(old),
-        made_(std::make_unique<Network>(old.width(), old.rounding())),
-        uses_(uses(old)),
-        products_(uses_.size()),
-        values_(uses_.size()) {
-    for (NodeId id = 0; id < uses_.size(); ++id) {
-      if (uses_[id] > 0 && is_product(id)) ++products_[old.node(id).in[0]];
+  explicit Folding(const Network& old) : Rebuilding(old), products_(size()) {
+    for (NodeId id = 0; id < size(); ++id) {
+      if (live(id) && is_product(id)) ++products_[node(id).in[0]];
     }
-  }
-
-  std::unique_ptr<Network> run() {
-    for (NodeId id = 0; id < uses_.size(); ++id) {
-      if (uses_[id] > 0 && !vanishes(id)) value(id);
-    }
-    for (const Store& store : old_.stores())
-      made_->repeat(store, store.node < 0 ? Value{} : value(store.node));
-    return std::move(made_);
   }
 
  private:
-  bool is_product(NodeId id) const { return old_.node(id).op == Op::mul; }
-  bool is_sum(NodeId id) const { return old_.node(id).op == Op::add || old_.node(id).op == Op::sub; }
+  Value make(NodeId id) override {
+    return is_product(id) ? scaled(node(id).in[0], node(id).constants) : copy(node(id));
+  }
+
+  bool is_product(NodeId id) const { return node(id).op == Op::mul; }
 
   // Only products use it.
-  bool vanishes(NodeId id) const { return is_product(id) && products_[id] == uses_[id]; }
+  bool vanishes(NodeId id) const { return is_product(id) && products_[id] == uses_of(id); }
 
   // A sum of products that nothing else uses.
   bool distributes(NodeId id) const {
-    if (uses_[id] != 1) return false;
-    if (is_product(id)) return true;
-    return is_sum(id) && distributes(old_.node(id).in[0]) && distributes(old_.node(id).in[1]);
-  }
-
-  Value value(NodeId id) {
-    Value& known = values_[id];
-    if (known.absent()) known = make(id);
-    return known;
-  }
-
-  Value make(NodeId id) {
-    const Node& node = old_.node(id);
-    const auto in = [&](std::size_t k) { return node.in[k] < 0 ? Value{} : value(node.in[k]); };
-    if (is_product(id)) return scaled(node.in[0], node.constants);
-    const Value a = in(0), b = in(1);  // nodes are made in this order
-    return made_->repeat(node, a, b);
+    if (uses_of(id) != 1) return false;
+    return is_product(id) ||
+           (node(id).is_sum() && distributes(node(id).in[0]) && distributes(node(id).in[1]));
   }
 
   Value scaled(NodeId id, const Constants& c) {
-    const Node& node = old_.node(id);
-    if (vanishes(id) || (is_product(id) && distributes(id)))
-      return scaled(node.in[0], times(c, node.constants));
-    if (is_sum(id) && distributes(id)) {
-      const Value a = scaled(node.in[0], c), b = scaled(node.in[1], c);
-      return node.op == Op::add ? a + b : a - b;
-    }
-    return c.size() == 1 ? made_->mul(c[0], value(id)) : made_->mul(c, value(id));
+    const Node& of = node(id);
+    if (vanishes(id) || (is_product(id) && distributes(id))) return scaled(of.in[0], times(c, of.constants));
+    if (!of.is_sum() || !distributes(id)) return made_->mul(c, value(id));
+    // One by one: nodes are made in this order.
+    const Value a = scaled(of.in[0], c), b = scaled(of.in[1], c);
+    return made_->repeat(of, a, b);
   }
 
-  const Network& old_;
-  std::unique_ptr<Network> made_;
-  Sequence<int> uses_, products_;
-  Sequence<Value> values_;
+  Sequence<int> products_;
 };
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "gen/passes/signs.h"
+#include "gen/passes/passes.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -6,9 +6,13 @@
 namespace xfm::gen {
 namespace {
 
+// A difference can be written either way round, and a linear combination with terms of both signs can be
+// negated; a sum cannot. Which values to negate is a satisfiability problem, but an easy one: local search
+// from the recipe's own signs (Selman, Kautz and Cohen 1994) ends after a few steps, usually with no minus
+// left.
 class Search {
  public:
-  explicit Search(const Draft& draft)
+  explicit Search(const Network& draft)
       : draft_(draft), uses_(uses(draft)), negated_(uses_.size()), users_(uses_.size()) {
     for (NodeId id = 0; id < uses_.size(); ++id) {
       if (uses_[id] == 0) continue;
@@ -19,8 +23,8 @@ class Search {
   Sequence<bool> run() {
     constexpr int steps_per_output = 200;
     Sequence<bool> best = negated_;
-    int fewest = draft_.outputs.size() + 1;
-    const int steps = steps_per_output * draft_.outputs.size();
+    int fewest = draft_.outputs().size() + 1;
+    const int steps = steps_per_output * draft_.outputs().size();
     for (int step = 0; step < steps && fewest > 0; ++step) {
       const Sequence<NodeId> broken = broken_operations();
       const Sequence<NodeId> minus = minus_outputs();
@@ -38,7 +42,7 @@ class Search {
   }
 
  private:
-  const Node& node(NodeId id) const { return draft_.network->node(id); }
+  const Node& node(NodeId id) const { return draft_.node(id); }
 
   // A linear congruential generator: the same walk in every build.
   int random(int below) {
@@ -70,7 +74,7 @@ class Search {
 
   Sequence<NodeId> minus_outputs() const {
     Sequence<NodeId> minus;
-    for (const Value& output : draft_.outputs) {
+    for (const Value& output : draft_.outputs()) {
       if (output.negative != negated_[output.node]) minus.push_back(output.node);
     }
     return minus;
@@ -106,7 +110,7 @@ class Search {
                              [&](NodeId a, NodeId b) { return damage(a) < damage(b); }));
   }
 
-  const Draft& draft_;
+  const Network& draft_;
   Sequence<int> uses_;
   Sequence<bool> negated_;
   Sequence<Sequence<NodeId>> users_;
@@ -115,6 +119,6 @@ class Search {
 
 }  // namespace
 
-Sequence<bool> negated_values(const Draft& draft) { return Search(draft).run(); }
+Sequence<bool> negated_values(const Network& draft) { return Search(draft).run(); }
 
 }  // namespace xfm::gen

@@ -2,7 +2,7 @@
 // scalar code, are one program. Zeros may have other signs, since lanes multiply by 1 and 0 where a scalar
 // does not.
 #include "gen/algorithms/lines.h"
-#include "gen/passes/constant_folding.h"
+#include "gen/passes/passes.h"
 #include "src/dft/recipe/choices.h"
 #include "tests/bits/generated.h"
 #include "tests/support/kernel_test.h"

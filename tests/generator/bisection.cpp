@@ -12,9 +12,9 @@ namespace {
 
 TEST(Bisection, OrdersAllNodesAfterTheirOperands) {
   for (unsigned seed = 1; seed <= 50; ++seed) {
-    const Draft draft = test::random_draft(seed);
-    const Network& network = *draft.network;
-    const Sequence<int> used = uses(draft);
+    const auto draft = test::random_draft(seed);
+    const Network& network = *draft;
+    const Sequence<int> used = uses(network);
     Sequence<NodeId> nodes;
     for (NodeId id = 0; id < used.size(); ++id)
       if (used[id] > 0 && network.node(id).op != Op::load) nodes.push_back(id);

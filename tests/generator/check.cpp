@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include "gen/network/liveness.h"
 #include "tests/generator/small_networks.h"
 
 namespace xfm::gen {

@@ -1,5 +1,5 @@
 // Folded networks compute the same values with fewer products.
-#include "gen/passes/constant_folding.h"
+#include "gen/passes/passes.h"
 
 #include <gtest/gtest.h>
 

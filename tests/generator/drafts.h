@@ -1,15 +1,16 @@
 // Random drafts: six inputs, forty sums and linear combinations, four outputs.
 #pragma once
 
+#include <memory>
+
 #include "gen/network/complex.h"
-#include "gen/network/draft.h"
 
 namespace xfm::test {
 
-inline gen::Draft random_draft(unsigned seed) {
-  gen::Draft draft;
+inline std::unique_ptr<gen::Network> random_draft(unsigned seed) {
+  auto draft = std::make_unique<gen::Network>(1, gen::Rounding::combination);
   gen::Sequence<gen::Value> values;
-  for (int n = 0; n < 6; ++n) values.push_back(draft.network->load(n));
+  for (int n = 0; n < 6; ++n) values.push_back(draft->load(n));
   const auto next = [&] { return static_cast<int>((seed = seed * 1664525U + 1013904223U) >> 16U); };
   for (int n = 0; n < 40; ++n) {
     const gen::Value a = values[next() % values.size()], b = values[next() % values.size()];
@@ -19,7 +20,7 @@ inline gen::Draft random_draft(unsigned seed) {
                      : kind == 1 ? a - b
                                  : gen::combination({{{"1", 1}, a}, {-gen::constant("half", 0.5), b}}));
   }
-  for (int k = 0; k < 4; ++k) draft.outputs.push_back(-values[values.size() - 1 - k]);
+  for (int k = 0; k < 4; ++k) draft->output(-values[values.size() - 1 - k]);
   return draft;
 }
 

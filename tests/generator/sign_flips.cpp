@@ -1,5 +1,5 @@
 // Sign flips that constants can absorb disappear, and no bit changes.
-#include "gen/passes/sign_flips.h"
+#include "gen/passes/passes.h"
 
 #include <gtest/gtest.h>
 

@@ -22,7 +22,7 @@ Set one(int j) { return Set{1} << static_cast<unsigned>(j); }
 
 class Structure {
  public:
-  Structure(const gen::Draft& draft, const Row& row)
+  Structure(const gen::Network& draft, const Row& row)
       : draft_(draft), row_(row), uses_(uses(draft)), supports_(uses_.size()) {
     for (NodeId id = 0; id < uses_.size(); ++id) {
       if (uses_[id] == 0) continue;
@@ -70,7 +70,7 @@ class Structure {
   }
 
  private:
-  const Node& node(NodeId id) const { return draft_.network->node(id); }
+  const Node& node(NodeId id) const { return draft_.node(id); }
 
   template <class Holds>
   static bool every(int count, Holds holds) {
@@ -93,7 +93,7 @@ class Structure {
 
   // The sum and the difference of the same two values.
   bool paired(int k, int l) const {
-    const Node &a = node(draft_.outputs[k].node), &b = node(draft_.outputs[l].node);
+    const Node &a = node(draft_.outputs()[k].node), &b = node(draft_.outputs()[l].node);
     const auto two = [](const Node& of) { return of.op == Op::add || of.op == Op::sub; };
     return two(a) && two(b) && a.op != b.op && std::set{a.in[0], a.in[1]} == std::set{b.in[0], b.in[1]};
   }
@@ -122,7 +122,7 @@ class Structure {
     });
   }
 
-  const gen::Draft& draft_;
+  const gen::Network& draft_;
   const Row& row_;
   gen::Sequence<int> uses_;
   gen::Sequence<Set> supports_;
@@ -133,8 +133,8 @@ class HartleyStructure : public testing::TestWithParam<int> {};
 
 TEST_P(HartleyStructure, IsThatOfTheRow) {
   const Row& of = row(GetParam());
-  const gen::Draft network = draft(of.length);
-  const Structure structure(network, of);
+  const auto network = draft(of.length);
+  const Structure structure(*network, of);
   EXPECT_TRUE(of.input != Input::fold || structure.folds()) << "inputs are used outside the fold";
   for (const int m : of.groups) EXPECT_TRUE(m == 0 || structure.closes(m)) << "no closed groups of " << m;
   EXPECT_TRUE(structure.ends_with(of.output)) << "another output stage";
@@ -144,12 +144,12 @@ INSTANTIATE_TEST_SUITE_P(All, HartleyStructure, testing::Range(2, 65));
 
 // The checks see a network that is not the row's: that of another plan.
 TEST(HartleyStructure, OtherNetworksAreSeen) {
-  const gen::Draft forward = draft(8);
+  const auto forward = draft(8);
   Row folded = row(8);
   folded.input = Input::fold;
-  EXPECT_FALSE(Structure(forward, folded).folds());
-  EXPECT_FALSE(Structure(forward, row(8)).closes(3));
-  EXPECT_FALSE(Structure(forward, row(8)).ends_with(Output::half));
+  EXPECT_FALSE(Structure(*forward, folded).folds());
+  EXPECT_FALSE(Structure(*forward, row(8)).closes(3));
+  EXPECT_FALSE(Structure(*forward, row(8)).ends_with(Output::half));
 }
 
 }  // namespace

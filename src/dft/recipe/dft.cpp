@@ -3,9 +3,7 @@
 #include <stdexcept>
 
 #include "gen/algorithms/lines.h"
-#include "gen/network/liveness.h"
-#include "gen/passes/constant_folding.h"
-#include "gen/passes/sign_flips.h"
+#include "gen/passes/passes.h"
 #include "src/dft/recipe/choices.h"
 #include "src/dft/recipe/table.h"
 

@@ -3,16 +3,14 @@
 #include <numeric>
 
 #include "gen/algorithms/transform.h"
-#include "gen/passes/binding.h"
-#include "gen/passes/merging.h"
-#include "gen/passes/signs.h"
+#include "gen/passes/passes.h"
 #include "src/hartley/recipe/table.h"
 
 namespace xfm::hartley {
 namespace {
 
 using gen::Complex;
-using gen::Draft;
+using gen::Network;
 using gen::Points;
 using gen::Sequence;
 using gen::Tree;
@@ -29,39 +27,40 @@ Tree spelled_out(const Tree& tree) {
 }
 
 // H[k] = Re X[k] - Im X[k], and H[N-k] = Re X[k] + Im X[k].
-Draft forward(const Tree& plan, int length) {
-  Draft draft;
-  const Points bins = transform.run(plan, gen::samples(*draft.network, length));
-  draft.outputs = Sequence<gen::Value>(length);
+std::unique_ptr<Network> forward(const Tree& plan, int length) {
+  auto draft = std::make_unique<Network>(1, gen::Rounding::combination);
+  const Points bins = transform.run(plan, gen::samples(*draft, length));
+  Sequence<gen::Value> outputs(length);
   for (int k = 0; 2 * k <= length; ++k) {
     const int mirror = (length - k) % length;
-    draft.outputs[k] = bins[k].p - bins[k].q;
-    if (mirror != k) draft.outputs[mirror] = bins[k].p + bins[k].q;
+    outputs[k] = bins[k].p - bins[k].q;
+    if (mirror != k) outputs[mirror] = bins[k].p + bins[k].q;
   }
+  for (const gen::Value& output : outputs) draft->output(output);
   return draft;
 }
 
 // H[k] = x0 + sum_j (x[j] + x[N-j]) cos(2 pi jk/N) + (x[j] - x[N-j]) sin(2 pi jk/N), j < N/2 (and +-x[N/2]
 // for even N): an inverse real transform of the bins x[j] + x[N-j], x[N-j] - x[j].
-Draft folded(const Tree& plan, int length) {
-  gen::Network there(1, gen::Rounding::combination);
+std::unique_ptr<Network> folded(const Tree& plan, int length) {
+  Network there(1, gen::Rounding::combination);
   const Points bins = transform.run(plan, gen::samples(there, length));
-  Draft draft;
-  const Points x = gen::samples(*draft.network, length);
+  auto draft = std::make_unique<Network>(1, gen::Rounding::combination);
+  const Points x = gen::samples(*draft, length);
   gen::Transposition transposition(there);
   for (int j = 0; 2 * j <= length; ++j) {
     const int mirror = (length - j) % length;
     transposition.send(bins[j].p, mirror == j ? x[j] : x[j] + x[mirror]);
     if (mirror != j) transposition.send(bins[j].q, x[mirror] - x[j]);
   }
-  for (const Complex& output : transposition.run(length)) draft.outputs.push_back(output.p);
+  for (const Complex& output : transposition.run(length)) draft->output(output.p);
   return draft;
 }
 
-Draft finished(Products products, const Draft& draft) {
+std::unique_ptr<Network> finished(Products products, const Network& draft) {
   if (products == Products::merged_in_pairs) return gen::merged_pairs(draft);
-  Draft merged = gen::merged(draft);
-  return products == Products::unrounded ? gen::unrounded(merged) : std::move(merged);
+  std::unique_ptr<Network> merged = gen::merged(draft);
+  return products == Products::unrounded ? gen::unrounded(*merged) : std::move(merged);
 }
 
 // dst[k] = sum over j of src[j] (cos + sin)(2 pi j k/N).
@@ -79,16 +78,17 @@ void definition(const Sequence<Wide>& src, Sequence<Wide>& dst) {
 
 }  // namespace
 
-Draft draft(int length, const std::string& plan) {
+std::unique_ptr<Network> draft(int length, const std::string& plan) {
   const Row& of = row(length);
   const Tree whole = spelled_out(gen::parse_tree(plan.empty() ? of.plan : plan));
   gen::check_length(whole, length);
-  return finished(of.products, of.design == Design::forward ? forward(whole, length) : folded(whole, length));
+  return finished(of.products,
+                  of.design == Design::forward ? *forward(whole, length) : *folded(whole, length));
 }
 
 gen::Design design(int length, gen::Precision precision, const std::string& plan) {
   const Row& of = row(length);
-  const Draft network = draft(length, plan);
+  const std::unique_ptr<Network> network = draft(length, plan);
   gen::PerLane natural(length);
   std::iota(natural.begin(), natural.end(), 0);
   return {.kernel = {.family = "Hartley",
@@ -100,7 +100,7 @@ gen::Design design(int length, gen::Precision precision, const std::string& plan
                      .tree = plan.empty() ? of.plan : plan,
                      .adds = of.adds,
                      .mults = of.mults,
-                     .network = gen::bind(network, {natural, natural}, gen::negated_values(network)),
+                     .network = gen::bind(*network, {natural, natural}, gen::negated_values(*network)),
                      .order = gen::scalar_order(precision)},
           .definition = definition,
           .by_row = plan.empty()};

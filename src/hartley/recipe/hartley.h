@@ -2,12 +2,11 @@
 #pragma once
 
 #include "gen/kernel.h"
-#include "gen/network/draft.h"
 
 namespace xfm::hartley {
 
 /// The network of a length's row, or of another plan, before it is bound to memory.
-gen::Draft draft(int length, const std::string& plan = "");
+std::unique_ptr<gen::Network> draft(int length, const std::string& plan = "");
 
 /// By the length's row, or by another plan.
 gen::Design design(int length, gen::Precision precision, const std::string& plan);

@@ -3,14 +3,12 @@
 #include <numeric>
 
 #include "gen/algorithms/transform.h"
-#include "gen/passes/binding.h"
-#include "gen/passes/merging.h"
-#include "gen/passes/signs.h"
+#include "gen/passes/passes.h"
 
 namespace xfm::real {
 namespace {
 
-using gen::Draft;
+using gen::Network;
 using gen::PerLane;
 using gen::Points;
 using gen::Precision;
@@ -36,23 +34,23 @@ bool counts_twice(const Half& of, int length) { return of.k > 0 && 2 * of.k < le
 
 gen::Value half(const Points& bins, const Half& of) { return of.part == 0 ? bins[of.k].p : bins[of.k].q; }
 
-Draft forward(const Tree& plan, int length) {
-  Draft draft;
-  const Points bins = transform.run(plan, gen::samples(*draft.network, length));
-  for (const Half& of : halves(length)) draft.outputs.push_back(half(bins, of));
+std::unique_ptr<Network> forward(const Tree& plan, int length) {
+  auto draft = std::make_unique<Network>(1, gen::Rounding::combination);
+  const Points bins = transform.run(plan, gen::samples(*draft, length));
+  for (const Half& of : halves(length)) draft->output(half(bins, of));
   return draft;
 }
 
-Draft inverse(const Tree& plan, int length) {
-  gen::Network there(1, gen::Rounding::combination);
+std::unique_ptr<Network> inverse(const Tree& plan, int length) {
+  Network there(1, gen::Rounding::combination);
   const Points bins = transform.run(plan, gen::samples(there, length));
-  Draft draft;
+  auto draft = std::make_unique<Network>(1, gen::Rounding::combination);
   gen::Transposition transposition(there);
   for (const Half& of : halves(length)) {
-    const gen::Value bin = draft.network->load(of.number());
-    transposition.send(half(bins, of), {counts_twice(of, length) ? draft.network->twice(bin) : bin, {}});
+    const gen::Value bin = draft->load(of.number());
+    transposition.send(half(bins, of), {counts_twice(of, length) ? draft->twice(bin) : bin, {}});
   }
-  for (const gen::Complex& sample : transposition.run(length)) draft.outputs.push_back(sample.p);
+  for (const gen::Complex& sample : transposition.run(length)) draft->output(sample.p);
   return draft;
 }
 
@@ -119,7 +117,8 @@ gen::Design design(int length, Precision precision, Direction direction, Layout 
   const char* const chosen = tree.empty() ? plan_of_least_error(forwards, length) : nullptr;
   const Tree whole = plan_of(gen::parse_tree(chosen == nullptr ? text : chosen), direction, layout, length);
   gen::check_length(whole, length);
-  const Draft draft = gen::merged(forwards ? forward(whole, length) : inverse(whole, length));
+  const auto merged = gen::merged(forwards ? *forward(whole, length) : *inverse(whole, length));
+  const Network& draft = *merged;
   const int size = size_of(layout, length);
   const std::string name = name_of(layout);
   return {
