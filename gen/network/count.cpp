@@ -11,13 +11,13 @@ class Counter {
   explicit Counter(const Network& network)
       : network_(network),
         live_(live_lanes(network)),
-        zero_(network.nodes().size(), Sequence<bool>(network.width())) {}
+        zero_(live_.size(), Sequence<bool>(network.width())) {}
 
   Counts run() {
     for (NodeId id = 0; id < live_.size(); ++id) {
       if (std::none_of(live_[id].begin(), live_[id].end(), [](bool l) { return l; })) continue;
       instruction(network_.node(id));
-      for (int l = 0; l < network_.width(); ++l) lane(id, l);
+      for (int l = 0; l < network_.width(id); ++l) lane(id, l);
     }
     counts_.stores = network_.stores().size();
     return counts_;
@@ -33,6 +33,8 @@ class Counter {
         ++counts_.permutations;
         break;
       case Op::sign_flip:
+      case Op::widen:
+      case Op::narrow:
         break;
       case Op::add:
       case Op::sub:
@@ -58,7 +60,6 @@ class Counter {
 
   void lane(NodeId id, int l) {
     const Node& node = network_.node(id);
-    const int width = network_.width();
     const auto zero = [&](int operand) -> bool {
       return zero_[node.in[static_cast<std::size_t>(operand)]][l];
     };
@@ -69,7 +70,8 @@ class Counter {
       zero_[id][l] = node.constant(l).is_zero() || zero(0);
       if (live_[id][l] && !zero_[id][l] && !magnitude(node.constant(l)).is_one()) ++counts_.mults;
     } else if (node.op == Op::permute) {
-      zero_[id][l] = static_cast<bool>(zero_[node.in[node.lanes[l] < width ? 0 : 1]][node.lanes[l] % width]);
+      const auto [source, from] = network_.source(node, l);
+      zero_[id][l] = static_cast<bool>(zero_[source][from]);
     }
   }
 

@@ -12,11 +12,14 @@ template <class T>
 class Interpreter {
  public:
   explicit Interpreter(const Network& network)
-      : network_(network), values_(network.nodes().size(), Sequence<Inner>(network.width())) {}
+      : network_(network) {
+    for (NodeId id = 0; id < network.nodes().size(); ++id) values_.emplace_back(network.width(id));
+  }
 
   void run(const T* src, T* dst, T factor) {
     for (NodeId id = 0; id < values_.size(); ++id) {
-      for (int l = 0; l < network_.width(); ++l) values_[id][l] = lane(network_.node(id), l, src, factor);
+      for (int l = 0; l < network_.width(id); ++l)
+        values_[id][l] = network_.inner(id) ? lane<Inner>(id, l, src, factor) : lane<T>(id, l, src, factor);
     }
     for (const Store& store : network_.stores()) {
       for (int l = 0; l < store.lanes.size(); ++l) {
@@ -30,33 +33,40 @@ class Interpreter {
   /// Linear combinations are computed in binary64, or in T where that is wider.
   using Inner = std::conditional_t<std::is_same_v<T, float>, double, T>;
 
-  Inner lane(const Node& node, int l, const T* src, T factor) const {
-    const auto in = [&](std::size_t operand) { return static_cast<T>(values_[node.in[operand]][l]); };
-    const int width = network_.width();
+  /// One lane of a node, by an operation on numbers of type A.
+  template <class A>
+  Inner lane(NodeId id, int l, const T* src, T factor) const {
+    const Node& node = network_.node(id);
+    const auto in = [&](std::size_t operand) { return static_cast<A>(values_[node.in[operand]][l]); };
     switch (node.op) {
       case Op::load:
         return node.lanes[l] >= 0 ? src[node.lanes[l]] : T(0);
       case Op::permute:
-        return values_[node.in[node.lanes[l] < width ? 0 : 1]][node.lanes[l] % width];
+        return content(network_.source(node, l));
       case Op::sign_flip:
         return node.lanes[l] == 1 ? -in(0) : in(0);
       case Op::add:
         return in(0) + in(1);
       case Op::sub:
-        return in(0) - in(1);
+        return node.lanes.empty() || node.lanes[l] == 1 ? in(0) - in(1) : in(0) + in(1);
       case Op::mul:
-        return static_cast<T>(node.constant(l).value) * in(0);
+        return static_cast<A>(node.constant(l).value) * in(0);
       case Op::twice:
         return in(0) + in(0);
       case Op::minus:
-        return T(0) - in(0);
+        return A(0) - in(0);
       case Op::factor:
-        return factor * in(0);
+        return static_cast<A>(factor) * in(0);
+      case Op::widen:
+      case Op::narrow:
+        return in(0);
       case Op::combination:
         break;
     }
     return combination(node, l, factor);
   }
+
+  Inner content(const Place& place) const { return values_[place.node][place.lane]; }
 
   Inner combination(const Node& node, int l, T factor) const {
     Inner total = 0;

@@ -24,19 +24,20 @@ int instructions(const Network& network) {
 }
 
 Sequence<Sequence<bool>> live_lanes(const Network& network) {
-  const int width = network.width();
-  Sequence<Sequence<bool>> live(network.nodes().size(), Sequence<bool>(width));
+  Sequence<Sequence<bool>> live;
+  for (NodeId id = 0; id < network.nodes().size(); ++id) live.emplace_back(network.width(id));
   for (const Store& store : network.stores()) {
-    for (int l = 0; store.node >= 0 && l < width; ++l) {
+    for (int l = 0; store.node >= 0 && l < store.lanes.size(); ++l) {
       if (store.lanes[l] >= 0) live[store.node][l] = true;
     }
   }
   for (NodeId id = live.size() - 1; id >= 0; --id) {
     const Node& node = network.node(id);
-    for (int l = 0; l < width; ++l) {
+    for (int l = 0; l < network.width(id); ++l) {
       if (!live[id][l]) continue;
       if (node.op == Op::permute) {
-        live[node.in[node.lanes[l] < width ? 0 : 1]][node.lanes[l] % width] = true;
+        const auto [source, lane] = network.source(node, l);
+        live[source][lane] = true;
       } else {
         for (const NodeId operand : operands(node)) live[operand][l] = true;
       }

@@ -16,13 +16,27 @@ Sequence<NodeId> operands(const Node& node) {
   return in;
 }
 
+Place Network::source(const Node& permutation, int lane) const {
+  const int pick = permutation.lanes[lane], first = width(permutation.in[0]);
+  return pick < first ? Place{permutation.in[0], pick} : Place{permutation.in[1], pick - first};
+}
+
+Network::Type Network::type_of(const Node& node) const {
+  if (node.op == Op::load) return {node.lanes.size(), false};
+  if (node.op == Op::combination) return {1, node.finish == Finish::unrounded};
+  const auto [width, inner] = types_[node.in[0]];
+  if (node.in[1] >= 0 && inner != types_[node.in[1]].inner)
+    throw std::logic_error("an operation on different precisions");
+  if (node.op == Op::permute) return {node.lanes.size(), inner};
+  return {width, (inner || node.op == Op::widen) && node.op != Op::narrow};
+}
+
 Value Network::make(Node node, bool negative) {
-  for (const NodeId in : node.in) {
-    if (in >= 0 && this->node(in).finish == Finish::unrounded)
-      throw std::logic_error("only linear combinations may use an unrounded value");
-  }
   const auto [place, fresh] = known_.try_emplace(node, nodes_.size());
-  if (fresh) nodes_.push_back(std::move(node));
+  if (fresh) {
+    types_.push_back(type_of(node));
+    nodes_.push_back(std::move(node));
+  }
   return {this, place->second, negative};
 }
 
@@ -53,6 +67,11 @@ Value Network::difference(NodeId a, NodeId b, bool negative) {
   return make({.op = Op::sub, .in = {a, b}}, negative);
 }
 
+// Marked or not, each lane is written as asked for: a lane's difference is not replaced by a negative.
+Value Network::subtract(Value a, Value b, PerLane lanes) {
+  return make({.op = Op::sub, .in = {a.node, b.node}, .lanes = std::move(lanes)});
+}
+
 Value Network::mul(const Constant& c, Value v) {
   if (v.absent() || c.is_zero()) return {};
   if (c.is_negative()) return mul(-c, -v);
@@ -69,6 +88,10 @@ Value Network::twice(Value v) { return make({.op = Op::twice, .in = {v.node, -1}
 
 Value Network::minus(Value v) { return make({.op = Op::minus, .in = {v.node, -1}}, v.negative); }
 
+Value Network::widen(Value v) { return make({.op = Op::widen, .in = {v.node, -1}}, v.negative); }
+
+Value Network::narrow(Value v) { return make({.op = Op::narrow, .in = {v.node, -1}}, v.negative); }
+
 Value Network::factor(Value v) { return make({.op = Op::factor, .in = {v.node, -1}}, v.negative); }
 
 Value Network::repeat(const Node& node, Value a, Value b) {
@@ -82,7 +105,7 @@ Value Network::repeat(const Node& node, Value a, Value b) {
     case Op::add:
       return add(a, b);
     case Op::sub:
-      return sub(a, b);
+      return node.lanes.empty() ? sub(a, b) : subtract(a, b, node.lanes);
     case Op::mul:
       return node.constants.size() == 1 ? mul(node.constants[0], a) : mul(node.constants, a);
     case Op::twice:
@@ -91,6 +114,10 @@ Value Network::repeat(const Node& node, Value a, Value b) {
       return factor(a);
     case Op::minus:
       return minus(a);
+    case Op::widen:
+      return widen(a);
+    case Op::narrow:
+      return narrow(a);
     case Op::combination:
       break;
   }

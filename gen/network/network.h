@@ -1,9 +1,9 @@
 // The network: what a kernel computes, from its loads to its stores, as a graph of rounded operations.
 //
-// A network has a width: how many lanes a value carries (1: scalar; 2: the parts of one complex number; more:
-// numbers side by side). Operations treat all lanes alike, except loads, stores, permutations, sign flips and
-// products by lane constants. A value is a node and a sign, so a negation costs nothing until an output needs
-// it. Equal operations are one node (hash-consing), and nothing else is ever simplified, reassociated or
+// A value has a width: how many lanes it carries (1: scalar; 2: the parts of one complex number; more: numbers
+// side by side). Recipes give all values the network's width; pairing (gen/packing) makes wider ones of them.
+// Operations treat all lanes alike, except loads, stores, permutations, sign flips and products by lane
+// constants. A value is a node and a sign, so a negation costs nothing until an output needs it. Equal operations are one node (hash-consing), and nothing else is ever simplified, reassociated or
 // merged by value: what a recipe writes is what rounds.
 #pragma once
 
@@ -32,6 +32,8 @@ enum class Op {
   combination,  ///< a linear combination in binary64, rounded once to the kernel's precision
   factor,       ///< times the scale factor
   minus,        ///< 0 - v, so that a zero comes out as +0
+  widen,        ///< from the kernel's precision to binary64, exact
+  narrow,       ///< from binary64 to the kernel's precision
 };
 
 class Network;
@@ -59,15 +61,15 @@ enum class Finish {
   none,
   scaled,     ///< times the scale factor
   negated,    ///< times the scale factor, and 0 minus that
-  unrounded,  ///< not scaled and not rounded: only linear combinations may use it
+  unrounded,  ///< not scaled and not rounded
 };
 inline bool scales(Finish finish) { return finish == Finish::scaled || finish == Finish::negated; }
 
 struct Node {
   Op op;
   std::array<NodeId, 2> in{-1, -1};
-  PerLane lanes{};  ///< load: scalar index or -1; permute: lane of in[0], or width + lane of in[1];
-                    ///< sign_flip: 0 or 1
+  PerLane lanes{};  ///< load: scalar index or -1; permute: lane of in[0], or its width + lane of in[1];
+                    ///< sign_flip: 0 or 1; sub: 0 for the lanes that add, if there are any
   Sequence<Constant> constants{};  ///< mul: one for all lanes or one for each
   Sequence<Term> terms{};          ///< combination
   Finish finish = Finish::none;    ///< combination
@@ -82,6 +84,15 @@ struct Node {
 /// The distinct nodes that a node is computed from.
 Sequence<NodeId> operands(const Node& node);
 
+/// A lane of a node.
+struct Place {
+  NodeId node = -1;
+  int lane = 0;
+
+  bool idle() const { return node < 0; }
+  bool operator==(const Place&) const = default;
+};
+
 struct Store {
   NodeId node;    ///< or -1: stores +0, whatever the data
   PerLane lanes;  ///< for each lane the scalar index in dst, or -1
@@ -95,6 +106,7 @@ enum class Rounding {
 
 class Network {
  public:
+  /// A network of values up to this width.
   explicit Network(int width, Rounding rounding = Rounding::each) : width_(width), rounding_(rounding) {}
   Network(const Network&) = delete;
   Network& operator=(const Network&) = delete;
@@ -107,17 +119,27 @@ class Network {
   const Sequence<Value>& outputs() const { return outputs_; }
   const Node& node(NodeId id) const { return nodes_[id]; }
 
+  /// How many lanes a node carries, and whether it is in binary64 whatever the kernel's precision.
+  int width(NodeId id) const { return types_[id].width; }
+  bool inner(NodeId id) const { return types_[id].inner; }
+
+  /// Where a lane of a permutation comes from.
+  Place source(const Node& permutation, int lane) const;
+
   Value load(PerLane scalars);
   Value load(int scalar) { return load(PerLane{scalar}); }
   Value permute(Value a, Value b, PerLane picks);
   Value flip_signs(Value v, PerLane flipped);
   Value add(Value a, Value b);
   Value sub(Value a, Value b) { return add(a, -b); }
+  Value subtract(Value a, Value b, PerLane lanes);  ///< a - b in the marked lanes, a + b in the others
   Value mul(const Constant& c, Value v);
   Value mul(const Sequence<Constant>& lanes, Value v);
   Value twice(Value v);
   Value factor(Value v);
   Value minus(Value v);  ///< -v as an operation, for the outputs that need it
+  Value widen(Value v);
+  Value narrow(Value v);
 
   /// Applies the operation of another network's node to these operands; not for linear combinations, which
   /// may have more.
@@ -143,12 +165,18 @@ class Network {
   void output(Value v) { outputs_.push_back(v); }
 
  private:
+  struct Type {
+    int width;
+    bool inner;
+  };
+  Type type_of(const Node& node) const;
   Value make(Node node, bool negative = false);
   Value difference(NodeId a, NodeId b, bool negative);
 
   int width_;
   Rounding rounding_;
   Sequence<Node> nodes_;
+  Sequence<Type> types_;
   Sequence<Store> stores_;
   Sequence<Value> outputs_;
   std::map<Node, NodeId> known_;

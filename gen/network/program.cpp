@@ -40,34 +40,42 @@ class ProgramReader {
   }
 
   Result lane(NodeId id, int l) {
-    if (!known_[id][l]) known_[id][l] = compute(network_.node(id), l);
+    if (!known_[id][l]) known_[id][l] = compute(id, l);
     return *known_[id][l];
   }
 
-  Result compute(const Node& node, int l) {
+  Result lane(const Place& place) { return lane(place.node, place.lane); }
+
+  Result compute(NodeId id, int l) {
+    const Node& node = network_.node(id);
+    const Precision precision = network_.inner(id) ? Precision::binary64 : precision_;
     const auto in = [&](std::size_t operand) { return lane(node.in[operand], l); };
     switch (node.op) {
       case Op::load:
-        if (node.lanes[l] < 0) return programs_.zero(precision_);
+        if (node.lanes[l] < 0) return programs_.zero(precision);
         return programs_.make({.kind = Kind::input,
-                               .precision = precision_,
+                               .precision = precision,
                                .input = number(numbering_.inputs, node.lanes[l])});
       case Op::permute:
-        return lane(node.in[node.lanes[l] < network_.width() ? 0 : 1], node.lanes[l] % network_.width());
+        return lane(network_.source(node, l));
       case Op::sign_flip:
         return node.lanes[l] == 1 ? -in(0) : in(0);
       case Op::add:
-        return programs_.add(in(0), in(1), precision_);
+        return programs_.add(in(0), in(1), precision);
       case Op::sub:
-        return programs_.add(in(0), -in(1), precision_);
+        return programs_.add(in(0), node.lanes.empty() || node.lanes[l] == 1 ? -in(1) : in(1), precision);
       case Op::mul:
-        return programs_.mul(rounded(node.constant(l).value, precision_), in(0), precision_);
+        return programs_.mul(rounded(node.constant(l).value, precision), in(0), precision);
       case Op::twice:
-        return programs_.add(in(0), in(0), precision_);
+        return programs_.add(in(0), in(0), precision);
       case Op::factor:
-        return scale(in(0), precision_);
+        return scale(in(0), precision);
       case Op::minus:
-        return minus(in(0), precision_);
+        return minus(in(0), precision);
+      case Op::widen:
+        return in(0);
+      case Op::narrow:
+        return narrow(in(0));
       case Op::combination:
         break;
     }
@@ -94,10 +102,13 @@ class ProgramReader {
     Result result = *total;
     if (scales(node.finish)) result = scale(result, inner);
     if (node.finish == Finish::negated) result = minus(result, inner);
-    if (node.finish == Finish::unrounded || precision_ == inner) return result;
-    const Result narrow =
-        programs_.make({.kind = Kind::narrow, .precision = precision_, .a = {result.operation}});
-    return result.negative ? -narrow : narrow;
+    return node.finish == Finish::unrounded ? result : narrow(result);
+  }
+
+  Result narrow(Result v) {
+    if (precision_ == Precision::binary64) return v;
+    const Result plain = programs_.make({.kind = Kind::narrow, .precision = precision_, .a = {v.operation}});
+    return v.negative ? -plain : plain;
   }
 
   Programs& programs_;

@@ -6,6 +6,7 @@
 
 #include <memory>
 
+#include "gen/math/precision.h"
 #include "gen/network/network.h"
 
 namespace xfm::gen {
@@ -20,6 +21,10 @@ std::unique_ptr<Network> fold_constants(const Network& network);
 /// products, directly or through permutations, the products' constants take the signs. Signs are exact, so no
 /// value changes; only a sum that cancels to zero may change the sign of that zero.
 std::unique_ptr<Network> absorb_sign_flips(const Network& network);
+
+/// Lowers a network to operations on one or two operands: the operands of linear combinations are widened,
+/// multiplied, added from left to right and narrowed, each step by an operation of its own.
+std::unique_ptr<Network> lowered(const Network& network, Precision precision);
 
 /// @name Drafts: linear combinations that consist of products alone
 /// @{

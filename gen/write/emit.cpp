@@ -25,11 +25,38 @@ std::string identifier(const std::string& name) {
 
 bool is_trivial(const Constant& c) { return c.is_zero() || magnitude(c).is_one(); }
 
-/// The type of a kernel's values: a scalar, or a register as the vocabularies spell it, f32x4.
-std::string value_type(const Kernel& kernel) {
-  if (!kernel.packed()) return kernel.type.scalar();
-  const int bits = kernel.type.precision == Precision::binary32 ? 32 : 64;
-  return fmt::format("f{}x{}", bits, kernel.network->width());
+/// A scalar, or a register as the vocabularies spell it, f32x4. No register has fewer than 16 bytes: upper
+/// lanes may be idle.
+struct Type {
+  Precision precision;
+  int lanes;
+
+  bool scalar() const { return lanes == 1; }
+  std::string name() const {
+    const int bits = precision == Precision::binary32 ? 32 : 64;
+    return scalar() ? fmt::format("xfm{}f", bits) : fmt::format("f{}x{}", bits, lanes);
+  }
+};
+Type type_of(Precision precision, int width) {
+  const int fewest = precision == Precision::binary32 ? 4 : 2;
+  return {precision, width == 1 ? 1 : std::max(width, fewest)};
+}
+
+/// The type of a kernel's widest values.
+Type value_type(const Kernel& kernel) { return type_of(kernel.type.precision, kernel.network->width()); }
+
+/// The type in which a body has the factor: repeated in memory for aligned loads, or a scalar to be broadcast.
+Type factor_type(const Kernel& kernel, const Target& target) {
+  return target.unaligned_variants ? value_type(kernel) : Type{kernel.type.precision, 1};
+}
+
+/// Whether these scalars come in couples, side by side in memory; behind the last one lanes are idle.
+bool in_couples(const PerLane& scalars) {
+  for (int l = 0; l < scalars.size(); l += 2) {
+    const bool idle = scalars[l] < 0 && scalars[l + 1] < 0;
+    if (!idle && (scalars[l] < 0 || scalars[l + 1] != scalars[l] + 1)) return false;
+  }
+  return true;
 }
 
 /// Whether these scalars are side by side in memory, one for each lane.
@@ -42,22 +69,22 @@ bool contiguous(std::span<const int> scalars) {
 // A kernel's body, line by line.
 class Body {
  public:
-  Body(const Kernel& kernel, SharedConstants& shared)
-      : kernel_(kernel), network_(*kernel.network), shared_(shared) {}
+  Body(const Kernel& kernel, const Target& target, SharedConstants& shared)
+      : kernel_(kernel), network_(*kernel.network), target_(target), shared_(shared) {}
 
   std::string text() {
     std::string lines;
     for (const Step& step : schedule(network_, kernel_.order)) {
       lines += step.node >= 0 ? compute(step.node) : store(network_.stores()[step.store]);
     }
-    return constants() + lines;
+    return constants() + factors() + lines;
   }
 
   // The shared registers that text() uses, to be declared in front of the body.
   std::string declarations() const {
     std::string text;
-    for (const std::string& name : registers_) {
-      text += fmt::format("extern \"C\" XFM_CONSTANT {} {};\n", value_type(kernel_), name);
+    for (const auto& [name, type] : registers_) {
+      text += fmt::format("extern \"C\" XFM_CONSTANT {} {};\n", type, name);
     }
     return text;
   }
@@ -91,49 +118,106 @@ class Body {
 
   static std::string var(NodeId id) { return fmt::format("v{}", id); }
 
-  std::string compute(NodeId id) {
-    const Node& node = network_.node(id);
-    const std::string type = node.finish == Finish::unrounded ? "xfm64f" : value_type(kernel_);
-    return fmt::format("  const {} {} = {};\n", type, var(id), expression(node));
+  Type type(NodeId id) const {
+    return type_of(network_.inner(id) ? Precision::binary64 : kernel_.type.precision, network_.width(id));
   }
 
-  std::string expression(const Node& node) {
+  std::string compute(NodeId id) {
+    return fmt::format("  const {} {} = {};\n", type(id).name(), var(id), expression(id));
+  }
+
+  std::string expression(NodeId id) {
+    const Node& node = network_.node(id);
     switch (node.op) {
       case Op::load:
-        return load(node);
+        return load(node, type(id));
       case Op::permute:
-        return fmt::format("permute<{}>({}, {})", fmt::join(node.lanes, ", "), var(node.in[0]),
-                           var(node.in[1]));
+        return permutation(id);
       case Op::sign_flip:
-        return fmt::format("flip_signs<{}>({})", fmt::join(node.lanes, ", "), var(node.in[0]));
+        return type(id).scalar() ? fmt::format("-{}", var(node.in[0]))
+                                 : fmt::format("flip_signs<{}>({})", list(node.lanes, type(id).lanes, 0),
+                                               var(node.in[0]));
       case Op::add:
         return fmt::format("{} + {}", var(node.in[0]), var(node.in[1]));
       case Op::sub:
-        return fmt::format("{} - {}", var(node.in[0]), var(node.in[1]));
+        return difference(node);
       case Op::mul:
-        return fmt::format("{} * {}", multiplier(node), var(node.in[0]));
+        return fmt::format("{} * {}", multiplier(node, type(id)), var(node.in[0]));
       case Op::combination:
         return combination(node);
       case Op::factor:
-        return fmt::format("s * {}", var(node.in[0]));
+        return fmt::format("{} * {}", factor(type(id)), var(node.in[0]));
       case Op::twice:
         return fmt::format("{0} + {0}", var(node.in[0]));
       case Op::minus:
         return fmt::format("0 - {}", var(node.in[0]));
+      case Op::widen:
+      case Op::narrow:
+        return fmt::format("{}<{}>({})", node.op == Op::widen ? "widened" : "narrowed", type(id).name(),
+                           var(node.in[0]));
     }
     return {};
   }
 
-  std::string multiplier(const Node& node) {
-    if (!kernel_.packed()) return use(node.constants[0]);
+  // Numbers for the lanes of a register, idle ones included.
+  static std::string list(PerLane numbers, int lanes, int idle) {
+    numbers.resize(static_cast<std::size_t>(lanes), idle);
+    return fmt::format("{}", fmt::join(numbers, ", "));
+  }
+
+  // Marked lanes subtract; where not all do, they alternate.
+  std::string difference(const Node& node) const {
+    const std::string a = var(node.in[0]), b = var(node.in[1]);
+    const bool mixed = std::count(node.lanes.begin(), node.lanes.end(), 0) > 0;
+    return mixed ? fmt::format("subtract_add({}, {})", a, b) : fmt::format("{} - {}", a, b);
+  }
+
+  // The lanes of the second operand follow those of the first one's register.
+  std::string permutation(NodeId id) const {
+    const Node& node = network_.node(id);
+    const auto [a, b] = node.in;
+    if (type(id).scalar()) return fmt::format("{}[{}]", var(a), node.lanes[0]);
+    const int lanes = std::max({type(a).lanes, type(b).lanes, type_of(type(id).precision, 2).lanes});
+    PerLane picks;
+    for (int l = 0; l < node.lanes.size(); ++l) {
+      const Place from = network_.source(node, l);
+      const bool second = from.node != a || node.lanes[l] >= network_.width(a);
+      picks.push_back(from.lane + (second ? lanes : 0));
+    }
+    return fmt::format("permute<{}>({}, {})", list(picks, type(id).lanes, -1), in_register(a, lanes),
+                       in_register(b, lanes));
+  }
+
+  // A value in the low lanes of a register of so many.
+  std::string in_register(NodeId id, int lanes) const {
+    if (type(id).lanes == lanes) return var(id);
+    return fmt::format("in_low_lanes<{}>({})", Type{type(id).precision, lanes}.name(), var(id));
+  }
+
+  std::string multiplier(const Node& node, const Type& type) {
+    if (type.scalar()) return use(node.constants[0]);
     if (node.constants.size() == 1) {
-      std::string name = shared_.use(node.constants[0], kernel_);
-      registers_.insert(name);
+      std::string name = shared_.use(node.constants[0], type.name(), type.precision, type.lanes);
+      registers_.try_emplace(name, type.name());
       return name;
     }
     std::vector<std::string> multipliers;
     for (const Constant& c : node.constants) multipliers.push_back(use(c));
-    return fmt::format("{}{{{}}}", value_type(kernel_), fmt::join(multipliers, ", "));
+    multipliers.resize(static_cast<std::size_t>(type.lanes), "0");
+    return fmt::format("{}{{{}}}", type.name(), fmt::join(multipliers, ", "));
+  }
+
+  // The factor in every lane.
+  std::string factor(const Type& type) {
+    if (type.name() == factor_type(kernel_, target_).name()) return "s";
+    factors_.insert(type.name());
+    return "s_" + type.name();
+  }
+  std::string factors() const {
+    std::string text;
+    for (const std::string& type : factors_)
+      text += fmt::format("  const {0} s_{0} = broadcast<{0}>(s);\n", type);
+    return text;
   }
 
   // One linear combination in binary64, rounded once; its terms are in the recipe's order.
@@ -157,27 +241,43 @@ class Body {
                : sum;
   }
 
-  // Contiguous lanes take one load. Others are complex numbers, one or more, from the lowest lanes on.
-  std::string load(const Node& node) const {
+  // Contiguous lanes take one load, couples one for each.
+  std::string load(const Node& node, const Type& type) const {
     const PerLane& from = node.lanes;
-    if (!kernel_.packed()) return fmt::format("x[{}]", from[0]);
-    if (contiguous(from)) return fmt::format("{}::load(x + {})", memory(from[0]), from[0]);
-    std::string places;
-    for (int l = 0; l < from.size() && from[l] >= 0; l += 2)
-      places += fmt::format("{}x + {}", l == 0 ? "" : ", ", from[l]);
-    return fmt::format("load_complex({})", places);
+    if (type.scalar()) return fmt::format("x[{}]", from[0]);
+    if (contiguous(from) && type.lanes == from.size())
+      return fmt::format("{}(x + {})", access("load", from[0], type), from[0]);
+    std::vector<std::string> places;
+    if (!in_couples(from)) {
+      for (const int scalar : from) places.push_back(fmt::format("x[{}]", scalar));
+      places.resize(static_cast<std::size_t>(type.lanes), "0");
+      return fmt::format("{}{{{}}}", type.name(), fmt::join(places, ", "));
+    }
+    for (int l = 0; l < from.size() && from[l] >= 0; l += 2) places.push_back(fmt::format("x + {}", from[l]));
+    return fmt::format("load_complex({})", fmt::join(places, ", "));
   }
 
-  // A place that is not a multiple of the register's width is never aligned.
-  std::string memory(int scalar) const { return scalar % network_.width() == 0 ? "Memory" : "Unaligned"; }
+  // In kernels with an unaligned variant, a place that is not a multiple of the register's width is never
+  // aligned.
+  std::string access(const std::string& what, int scalar, const Type& type) const {
+    if (!target_.unaligned_variants) return fmt::format("{}<{}>", what, type.name());
+    return fmt::format("{}::{}", scalar % type.lanes == 0 ? "Memory" : "Unaligned", what);
+  }
 
   std::string store(const Store& store) const {
     const PerLane& to = store.lanes;
     if (store.node < 0) return fmt::format("  y[{}] = 0;\n", to[0]);
     const std::string v = var(store.node);
-    if (!kernel_.packed()) return fmt::format("  y[{}] = {};\n", to[0], v);
-    if (contiguous(to)) return fmt::format("  {}::store(y + {}, {});\n", memory(to[0]), to[0], v);
+    const Type type = this->type(store.node);
+    if (type.scalar()) return fmt::format("  y[{}] = {};\n", to[0], v);
+    if (contiguous(to) && type.lanes == to.size())
+      return fmt::format("  {}(y + {}, {});\n", access("store", to[0], type), to[0], v);
     std::string text;
+    if (!in_couples(to)) {
+      for (int l = 0; l < to.size(); ++l)
+        if (to[l] >= 0) text += fmt::format("  y[{}] = {}[{}];\n", to[l], v, l);
+      return text;
+    }
     for (int l = 0; l < to.size(); l += 2)
       if (to[l] >= 0) text += fmt::format("  store_complex<{}>(y + {}, {});\n", l / 2, to[l], v);
     return text;
@@ -185,13 +285,15 @@ class Body {
 
   const Kernel& kernel_;
   const Network& network_;
+  const Target& target_;
   std::set<Constant> constants_;
-  std::set<std::string> registers_;
+  std::map<std::string, std::string> registers_;  // with their types
+  std::set<std::string> factors_;                 // by type
   SharedConstants& shared_;
 };
 
 // 1/N and 1/sqrt(N): the nearest numbers in binary32; in binary64 the quotients by N and by the rounded root.
-std::string factors(const Kernel& kernel) {
+std::string factors(const Kernel& kernel, const Target& target) {
   const Precision precision = kernel.type.precision;
   const Wide by_n =
       precision == Precision::binary32 ? Wide(1) / Wide(kernel.length) : Wide(1.0 / kernel.length);
@@ -200,7 +302,7 @@ std::string factors(const Kernel& kernel) {
                            : Wide(1.0 / std::sqrt(static_cast<double>(kernel.length)));
   const auto carried = [&](bool carries) { return literal(carries ? by_n : Wide(1), precision); };
   return fmt::format("constexpr Factors<{}, {}> factors_{}({}, {}, {});\n", kernel.type.scalar(),
-                     kernel.network->width(), kernel.type.suffix(),
+                     factor_type(kernel, target).lanes, kernel.type.suffix(),
                      carried(kernel.scaling != Scaling::inverse), carried(kernel.scaling != Scaling::forward),
                      literal(by_root, precision));
 }
@@ -219,29 +321,30 @@ std::string heading(const Kernel& kernel) {
       kernel.length, kernel.type.suffix());
 }
 
-std::string factor_load(const Kernel& kernel) {
+std::string factor_load(const Kernel& kernel, const Type& type) {
   const std::string factors = fmt::format("factors_{}.of(flag)", kernel.type.suffix());
-  return fmt::format("  const {} s = {};\n", value_type(kernel),
-                     kernel.packed() ? "Aligned::load(" + factors + ")" : "*" + factors);
+  return fmt::format("  const {} s = {};\n", type.name(),
+                     type.scalar() ? "*" + factors : "Aligned::load(" + factors + ")");
 }
 
-std::string entry_text(const Kernel& kernel) {
+std::string entry_text(const Kernel& kernel, const Target& target) {
   return "  if (const xfmStatus status = check(src, dst, flag); status != xfmStsOk) return status;\n" +
-         factor_load(kernel) +
+         factor_load(kernel, factor_type(kernel, target)) +
          fmt::format(
              "  const auto* const x = reinterpret_cast<const {0}*>(src);\n"
              "  auto* const y = reinterpret_cast<{0}*>(dst);\n",
              kernel.type.scalar());
 }
 
-// A scalar kernel is one function; a packed one is a body that two functions share, one for aligned and one
-// for unaligned memory.
-std::string emit_kernel(const Kernel& kernel, SharedConstants& shared) {
-  Body body(kernel, shared);
-  const std::string inner = " {\n" + entry_text(kernel) + body.text() + "  return xfmStsOk;\n}\n\n";
+// A kernel is one function; where unaligned accesses cost more, a packed one is a body that two functions
+// share, one for aligned and one for unaligned memory.
+std::string emit_kernel(const Kernel& kernel, const Target& target, SharedConstants& shared) {
+  Body body(kernel, target, shared);
+  const std::string inner = " {\n" + entry_text(kernel, target) + body.text() + "  return xfmStsOk;\n}\n\n";
   const std::string head =
-      heading(kernel) + "namespace {\n" + factors(kernel) + "}\n" + body.declarations() + "\n";
-  if (!kernel.packed()) return head + signature(kernel, kernel.name()) + inner;
+      heading(kernel) + "namespace {\n" + factors(kernel, target) + "}\n" + body.declarations() + "\n";
+  if (!kernel.packed() || !target.unaligned_variants)
+    return head + signature(kernel, kernel.name()) + inner;
   const std::string suffix = kernel.type.suffix(), variant = kernel.name() + "_unaligned";
   return head + "template <class Memory>\nXFM_BODY " + signature(kernel, "body_" + suffix) + inner +
          "extern \"C\" XFM_UNALIGNED_VARIANT " + signature(kernel, variant) +
@@ -258,16 +361,14 @@ std::string literal(Wide value, Precision precision) {
   return fmt::format("{:a}", static_cast<double>(value));
 }
 
-std::string SharedConstants::use(const Constant& c, const Kernel& kernel) {
-  const std::string type = value_type(kernel);
+std::string SharedConstants::use(const Constant& c, const std::string& type, Precision precision, int lanes) {
   std::string name = fmt::format("xfm_{}_{}", type, identifier(c.name));
-  const std::vector<std::string> lanes(static_cast<std::size_t>(kernel.network->width()),
-                                       literal(c.value, kernel.type.precision));
+  const std::vector<std::string> copies(static_cast<std::size_t>(lanes), literal(c.value, precision));
   const std::string definition = fmt::format("extern \"C\" XFM_CONSTANT {} {} = {{{}}};  // {:.17g}\n", type,
-                                             name, fmt::join(lanes, ", "), static_cast<double>(c.value));
+                                             name, fmt::join(copies, ", "), static_cast<double>(c.value));
   const auto [known, fresh] = definitions_.try_emplace(name, definition);
   if (!fresh && known->second != definition)
-    throw std::logic_error(kernel.name() + ": two constants named " + name);
+    throw std::logic_error("two constants named " + name);
   return name;
 }
 
@@ -284,7 +385,7 @@ std::string emit_file(std::span<const Kernel> kernels, const Target& target, Sha
     text += fmt::format("#include \"{}\"\n", target.vocabulary);
   }
   text += "\nusing namespace xfm;\n\n";
-  for (const Kernel& kernel : kernels) text += emit_kernel(kernel, shared);
+  for (const Kernel& kernel : kernels) text += emit_kernel(kernel, target, shared);
   return text;
 }
 

@@ -15,7 +15,7 @@ namespace xfm::gen {
 class SharedConstants {
  public:
   /// The register's name; from now on the register is among the definitions.
-  std::string use(const Constant& c, const Kernel& kernel);
+  std::string use(const Constant& c, const std::string& type, Precision precision, int lanes);
 
   /// The translation unit that defines all registers that were used.
   std::string definitions(const Target& target) const;
