@@ -1,5 +1,8 @@
 #include "gen/kernel.h"
 
+#include "gen/packing/paired.h"
+#include "gen/passes/passes.h"
+
 namespace xfm::gen {
 
 Kernel make_kernel(Design design) {
@@ -13,6 +16,19 @@ Kernel make_kernel(Design design) {
     check_same(read(*kernel.network), kernel.name(), read(*design.other_form), "its other form");
   }
   return std::move(design.kernel);
+}
+
+Kernel paired(Kernel kernel, int times) {
+  if (times == 0) return kernel;
+  InstructionCosts costs;
+  if (kernel.type.precision == Precision::binary32) costs.upper_store = 6;
+  Programs programs(Equality::bits);
+  const auto read = [&](const Network& network) { return programs.read(network, kernel.type.precision); };
+  const Program program = read(*kernel.network);
+  kernel.network = lowered(*kernel.network, kernel.type.precision);
+  for (int time = 0; time < times; ++time) kernel.network = paired(*kernel.network, costs);
+  check_same(read(*kernel.network), kernel.name() + " in pairs", program, "that of single operations");
+  return kernel;
 }
 
 }  // namespace xfm::gen

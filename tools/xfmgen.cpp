@@ -25,7 +25,7 @@ using xfm::gen::Target;
 std::vector<Kernel> kernels_of(const Family& family, int length, const Target& target) {
   std::vector<Kernel> kernels;
   for (const auto& type : family.types()) {
-    kernels.push_back(family.make(length, type.precision, "", target));
+    kernels.push_back(paired(family.make(length, type.precision, "", target), std::getenv("PAIR") ? std::atoi(std::getenv("PAIR")) : 0));
     if (target.name != xfm::gen::baseline().name)
       xfm::check_against_baseline(kernels.back(), family.make(length, type.precision));
   }
@@ -105,7 +105,7 @@ void show_rules(const xfm::gen::Tree& tree, std::set<std::string_view>& shown) {
 }
 
 void show(const Named& what, const std::string& tree, const Target& target) {
-  const Kernel kernel = what.family->make(what.length, what.type.precision, tree, target);
+  const Kernel kernel = paired(what.family->make(what.length, what.type.precision, tree, target), std::getenv("PAIR") ? std::atoi(std::getenv("PAIR")) : 0);
   const xfm::gen::Counts counts = count(*kernel.network);
   const xfm::gen::Tree parsed = xfm::gen::parse_tree(kernel.tree);
   fmt::print("{}\n  tree       {}\n  adds       {} (row {})\n  mults      {} (row {})\n", kernel.name(),
