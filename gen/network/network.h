@@ -36,6 +36,15 @@ enum class Op {
 
 class Network;
 
+/// A lane of a node.
+struct Place {
+  NodeId node = -1;
+  int lane = 0;
+
+  bool idle() const { return node < 0; }
+  bool operator==(const Place&) const = default;
+};
+
 /// A node with a sign, or nothing at all: a value that is zero by structure.
 struct Value {
   Network* network = nullptr;
@@ -107,6 +116,12 @@ class Network {
   const Sequence<Value>& outputs() const { return outputs_; }
   const Node& node(NodeId id) const { return nodes_[id]; }
 
+  /// Where a permutation takes a lane from.
+  Place source(const Node& permutation, int lane) const {
+    const int pick = permutation.lanes[lane];
+    return {permutation.in[pick < width_ ? 0 : 1], pick % width_};
+  }
+
   Value load(PerLane scalars);
   Value load(int scalar) { return load(PerLane{scalar}); }
   Value permute(Value a, Value b, PerLane picks);
@@ -121,7 +136,7 @@ class Network {
 
   /// Applies the operation of another network's node to these operands; not for linear combinations, which
   /// may have more.
-  Value repeat(const Node& node, Value a, Value b);
+  Value repeat(Node node, Value a, Value b);
 
   /// The sum of the products c*v, left to right: one linear combination with this finish, or one operation at
   /// a time, by the rounding rule.
@@ -135,9 +150,6 @@ class Network {
   void store(Value v, PerLane scalars);
   void store(Value v, int scalar) { store(v, PerLane{scalar}); }
   void store_zero(int scalar) { stores_.push_back({-1, {scalar}}); }
-
-  /// Another network's store, now of this value; a store of zero stays one.
-  void repeat(const Store& store, Value v);
 
   /// The next output of a network that is not bound to memory yet.
   void output(Value v) { outputs_.push_back(v); }

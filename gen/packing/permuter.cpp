@@ -12,11 +12,8 @@ NodeId Permuter::make(NodeId a, NodeId b, PerLane picks) {
 }
 
 Place Permuter::content(Place place) const {
-  while (network_.node(place.node).op == Op::permute) {
-    const Node& node = network_.node(place.node);
-    const int pick = node.lanes[place.lane];
-    place = {node.in[pick < width() ? 0 : 1], pick % width()};
-  }
+  while (network_.node(place.node).op == Op::permute)
+    place = network_.source(network_.node(place.node), place.lane);
   return place;
 }
 

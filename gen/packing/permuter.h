@@ -6,15 +6,6 @@
 
 namespace xfm::gen {
 
-/// A lane of a node.
-struct Place {
-  NodeId node = -1;
-  int lane = 0;
-
-  bool idle() const { return node < 0; }
-  bool operator==(const Place&) const = default;
-};
-
 class Permuter {
  public:
   Permuter(Network& network, const Target& target) : network_(network), target_(target) {}
