@@ -8,6 +8,7 @@
 #pragma once
 
 #include <array>
+#include <concepts>
 #include <map>
 #include <span>
 
@@ -85,7 +86,9 @@ struct Node {
   /// The constant of a product in a lane.
   const Constant& constant(int lane) const { return constants[constants.size() == 1 ? 0 : lane]; }
 
-  bool is_sum() const { return op == Op::add || op == Op::sub; }
+  /// Whether the operation is one of these.
+  bool is(std::same_as<Op> auto... ops) const { return ((op == ops) || ...); }
+  bool is_sum() const { return is(Op::add, Op::sub); }
 };
 
 /// The distinct nodes that a node is computed from.

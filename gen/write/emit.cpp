@@ -7,7 +7,7 @@
 #include <set>
 #include <stdexcept>
 
-#include "gen/network/count.h"
+#include "gen/network/check.h"
 #include "gen/order/schedule.h"
 
 namespace xfm::gen {
