@@ -91,6 +91,7 @@ class Scheduler {
   bool is_join(const Node& node) const {
     return node.is_sum() && (times_i(node.in[0]) || times_i(node.in[1]));
   }
+
   // An exchange of the parts of complex numbers, or the sign flip after it unless constants carry that.
   bool times_i(NodeId id) const {
     const Node& node = network_.node(id);

@@ -35,21 +35,17 @@ struct Recipe {
 std::unique_ptr<Network> joined_network(const Recipe& recipe) {
   constexpr int parts = 2;
   auto network = std::make_unique<Network>(parts);
-  gen::Permuter permuter(*network, recipe.target);
+  gen::Lanes lanes(*network, recipe.target);
   const int length = recipe.length;
   const auto place = [](int n) { return gen::PerLane{parts * n, parts * n + 1}; };
   const auto store = [&](int k, Value v) { network->store(network->factor(v), place(k)); };
-  const auto times_i = [&](Value v) {
-    const Value exchanged{network.get(), permuter.permuted(v.node, v.node, {1, 0}), v.negative};
-    return network->flip_signs(exchanged, {1, 0});
-  };
   Points x;
   for (int n = 0; n < length; ++n) x.push_back({network->load(place(n)), {}});
   const Points out = gen::Transform(Rounding::each, recipe.choices.open()).run(recipe.tree, x);
   store(0, out[0].p);
   for (int k = 1; 2 * k < length; ++k) {
     const auto [p, q] = out[k];
-    const Value i_q = times_i(recipe.direction == Direction::forward ? q : -q);
+    const Value i_q = lanes.times_i(recipe.direction == Direction::forward ? q : -q);
     store(k, p + i_q);
     store(length - k, p - i_q);
   }
