@@ -16,7 +16,9 @@ namespace xfm {
 namespace {
 
 TEST(ComplexTable, EveryTreeHasTheLengthOfItsRow) {
-  for (const dft::Row& row : dft::table()) {
+  for (int length = 2; length <= 64; ++length) {
+    const dft::Row& row = dft::row(length);
+    ASSERT_EQ(row.length, length);
     for (const dft::Breakdown& breakdown : {row.binary32, row.binary64}) {
       const gen::Tree tree = gen::parse_tree(breakdown.tree);
       EXPECT_EQ(gen::to_string(tree), breakdown.tree);
@@ -32,15 +34,9 @@ TEST(ComplexTable, EveryTreeHasTheLengthOfItsRow) {
   }
 }
 
-TEST(ComplexTable, LengthsRise) {
-  int last = 1;
-  for (const dft::Row& row : dft::table()) {
-    EXPECT_GT(row.length, last);
-    EXPECT_EQ(dft::row(row.length).binary32.tree, row.binary32.tree);
-    last = row.length;
-  }
+TEST(ComplexTable, HasNoOtherLengths) {
   EXPECT_THROW(dft::row(1), std::out_of_range);
-  EXPECT_THROW(dft::row(last + 1), std::out_of_range);
+  EXPECT_THROW(dft::row(65), std::out_of_range);
 }
 
 std::string without_spaces(std::string text) {

@@ -75,8 +75,6 @@ constexpr Row rows[] = {
 
 }  // namespace
 
-std::span<const Row> table() { return rows; }
-
 const Row& row(int length) { return gen::row_of(rows, length); }
 
 }  // namespace xfm::dft

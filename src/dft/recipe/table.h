@@ -1,8 +1,6 @@
 // The breakdown of every complex length, fixed in advance: data only.
 #pragma once
 
-#include <span>
-
 namespace xfm::dft {
 
 struct Breakdown {
@@ -10,16 +8,14 @@ struct Breakdown {
   int adds, mults;  ///< real operations without the factor: a kernel costs that much or less
 };
 
+/// Rules, the first argument nearest the input: CT Cooley-Tukey, PFA Good-Thomas, PFA* with its last
+/// butterfly delayed, SR split radix, D direct symmetric, R Rader, RS Rader on real sequences, B Bluestein
+/// with its forward and inverse trees. A number is a block of that length.
 struct Row {
   int length;
   Breakdown binary32;  ///< _32fc
   Breakdown binary64;  ///< _64fc
 };
-
-/// All rows, in the order of length. Rules, the first argument nearest the input: CT Cooley-Tukey, PFA
-/// Good-Thomas, PFA* with its last butterfly delayed, SR split radix, D direct symmetric, R Rader, RS Rader
-/// on real sequences, B Bluestein with its forward and inverse trees. A number is a block of that length.
-std::span<const Row> table();
 
 /// The row of a length; throws std::out_of_range if there is none.
 const Row& row(int length);
