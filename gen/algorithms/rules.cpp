@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <numeric>
 #include <stdexcept>
 
 #include "gen/math/number.h"
@@ -28,7 +29,7 @@ bool stages(const Tree& tree) { return tree.args.size() >= 2; }
 bool coprime_stages(const Tree& tree) {
   for (int a = 0; a < tree.args.size(); ++a) {
     for (int b = 0; b < a; ++b) {
-      if (gcd(length_of(tree.args[a]), length_of(tree.args[b])) != 1) return false;
+      if (std::gcd(length_of(tree.args[a]), length_of(tree.args[b])) != 1) return false;
     }
   }
   return stages(tree);
@@ -93,7 +94,7 @@ const Rule table[] = {
    "columns of length a, twiddles, rows of length b", "Cooley and Tukey 1965"},
   {"*",    "a * b", stages, product, all_trees, false, &T::two_stages, true, &T::skew_cooley_tukey, {},
    "columns of length a, twiddles, rows of length b", "Cooley and Tukey 1965"},
-  {"SR",   "(2^k)", power_of_two, first_number, no_trees, false, &T::split_radix, false, {}, {},
+  {"SR",   "(2^k)", power_of_two, first_number, no_trees, false, &T::block, false, {}, {},
    "even outputs by half the length, odd ones by two quarters", "Yavne 1968; Duhamel and Hollmann 1984"},
   {"F",    "(even bins, odd bins)", halves, twice_half, all_trees, false, &T::fork, true, {}, {},
    "sums to the even bins, differences to the odd ones", "Gentleman and Sande 1966"},

@@ -44,17 +44,15 @@ Draft forward(const Tree& plan, int length) {
 // H[k] = x0 + sum_j (x[j] + x[N-j]) cos(2 pi jk/N) + (x[j] - x[N-j]) sin(2 pi jk/N), j < N/2 (and +-x[N/2]
 // for even N): an inverse real transform of the bins x[j] + x[N-j], x[N-j] - x[j].
 Draft folded(const Tree& plan, int length) {
-  gen::Network there(1, gen::Rounding::combination);
-  const Points bins = transform.run(plan, gen::samples(there, length));
   Draft draft;
   const Points x = gen::samples(*draft.network, length);
-  gen::Transposition transposition(there);
+  Points re, im;
   for (int j = 0; 2 * j <= length; ++j) {
     const int mirror = (length - j) % length;
-    transposition.send(bins[j].p, mirror == j ? x[j] : x[j] + x[mirror]);
-    if (mirror != j) transposition.send(bins[j].q, x[mirror] - x[j]);
+    re.push_back(mirror == j ? x[j] : x[j] + x[mirror]);
+    im.push_back(mirror == j ? Complex{} : x[mirror] - x[j]);
   }
-  for (const Complex& output : transposition.run(length)) draft.outputs.push_back(output.p);
+  for (const Complex& output : transform.from_bins(plan, re, im)) draft.outputs.push_back(output.p);
   return draft;
 }
 

@@ -61,15 +61,14 @@ Draft forward(const Tree& plan, int length) {
 }
 
 Draft inverse(const Tree& plan, int length) {
-  gen::Network there(1, gen::Rounding::combination);
-  const Points bins = transform.run(plan, gen::samples(there, length));
   Draft draft;
-  gen::Transposition transposition(there);
+  Points weights[2] = {Points(length / 2 + 1), Points(length / 2 + 1)};  // of real and imaginary halves
   for (const Half& of : halves(length)) {
     const gen::Value bin = draft.network->load(of.number());
-    transposition.send(half(bins, of), {counts_twice(of, length) ? draft.network->twice(bin) : bin, {}});
+    weights[of.part][of.k].p = counts_twice(of, length) ? draft.network->twice(bin) : bin;
   }
-  for (const gen::Complex& sample : transposition.run(length)) draft.outputs.push_back(sample.p);
+  for (const gen::Complex& sample : transform.from_bins(plan, weights[0], weights[1]))
+    draft.outputs.push_back(sample.p);
   return draft;
 }
 
