@@ -81,7 +81,7 @@ Points Transform::rader_transposed(const Tree& tree, const Points& x, int /*inst
   const Root root = choices_.root(n);
   const Points spectrum = run(inner, permuted(x, root.g));
 
-  Points re{x[0] + Complex(rader_spectrum(n, root, 0).re * spectrum[0])}, im{{}};
+  Points re{x[0] + Complex(rader_spectrum(n, root, 0).re * spectrum[0])}, im{Complex{}};
   for (int r = 1; r <= h; ++r) {
     const ComplexConstant b = rader_spectrum(n, root, r, r < h ? 2 : 1);
     const Complex c{spectrum[r].p, {}}, s{-spectrum[r].q, {}};

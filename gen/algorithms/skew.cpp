@@ -6,7 +6,6 @@
 #include <stdexcept>
 
 #include "gen/algorithms/rules.h"
-#include "gen/math/number.h"
 
 namespace xfm::gen {
 

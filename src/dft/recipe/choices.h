@@ -8,9 +8,9 @@
 namespace xfm::dft {
 
 /// What the recipes of one kernel need besides its tree.
-class Choices {
- public:
-  Choices(int length, gen::Precision precision) : length_(length), precision_(precision) {}
+struct Choices {
+  int length;
+  gen::Precision precision;
 
   /// The tree with its numbers spelled out down to the blocks.
   gen::Tree spelled_out(const gen::Tree& tree) const;
@@ -18,17 +18,10 @@ class Choices {
   /// How sums of products round in a binary32 kernel of scalar code; nothing for a packed one.
   std::optional<gen::Rounding> scalar() const;
 
-  /// Roots and length-5 blocks.
-  gen::Choices open() const;
-
-  gen::Order order() const;
-
- private:
   gen::Root root(int prime) const;
   gen::Five five(bool real, int instance, bool transposed) const;
-
-  int length_;
-  gen::Precision precision_;
+  gen::Choices open() const;  ///< both, for the transforms
+  gen::Order order() const;
 };
 
 }  // namespace xfm::dft

@@ -1,6 +1,8 @@
 // The breakdown of every complex length, fixed in advance: data only.
 #pragma once
 
+#include "gen/math/constant.h"
+
 namespace xfm::dft {
 
 struct Breakdown {
@@ -17,7 +19,7 @@ struct Row {
   Breakdown binary64;  ///< _64fc
 };
 
-/// The row of a length; throws std::out_of_range if there is none.
-const Row& row(int length);
+/// The half of a length's row; throws std::out_of_range if there is none.
+const Breakdown& breakdown(gen::Precision precision, int length);
 
 }  // namespace xfm::dft
