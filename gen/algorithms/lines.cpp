@@ -54,7 +54,7 @@ Sequence<Sequence<int>> LineTransform::groups(const Lines& x) const {
 
 // Columns and rows as in two_stages.cpp, those of all lines next to each other.
 Lines LineTransform::two_stages(const Tree& tree, const Lines& x, Direction direction) {
-  const Tree first = first_of(tree), rest = rest_of(tree);
+  const Tree first = tree.args.front(), rest = rest_of(tree);
   const TwoStages map{length_of(first), length_of(rest), tree.rule == "PFA"};
   const int n = map.a * map.b, lines = x.size();
   const auto column = [&](int at) {

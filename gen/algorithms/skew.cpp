@@ -34,7 +34,7 @@ Points Transform::skew_of_even_length(const Tree& rest, const Points& y) const {
 // Skew columns of length p and rows of length q; bin f of column r is multiplied by
 // exp(-2 pi i r (f + 1/2)/N).
 Points Transform::skew_cooley_tukey(const Tree& tree, const Points& y) const {
-  const Tree first = first_of(tree), rest = rest_of(tree);
+  const Tree first = tree.args.front(), rest = rest_of(tree);
   if (first.number == 2) return skew_of_even_length(rest, y);
   const int p = length_of(first), q = length_of(rest), n = p * q;
   const Sequence<Points> columns =

@@ -14,7 +14,7 @@
 namespace xfm::gen {
 
 Points Transform::two_stages(const Tree& tree, const Points& x, int /*instance*/) const {
-  const Tree first = first_of(tree), rest = rest_of(tree);
+  const Tree first = tree.args.front(), rest = rest_of(tree);
   const int a = length_of(first), b = length_of(rest);
   const bool real = is_real(x);
   const bool open = tree.rule == "PFA*" && first.rule == "SR";

@@ -3,7 +3,7 @@
 // does not.
 #include "gen/algorithms/lines.h"
 #include "gen/passes/constant_folding.h"
-#include "src/dft/recipe/choices.h"
+#include "src/dft/recipe/table.h"
 #include "tests/bits/generated.h"
 #include "tests/support/kernel_test.h"
 #include "tools/promises.h"

@@ -1,5 +1,3 @@
-#include "src/dft/recipe/choices.h"
-
 #include <functional>
 #include <limits>
 
@@ -78,9 +76,9 @@ constexpr ChosenOrder orders[] = {
 }  // namespace
 
 gen::Tree Choices::spelled_out(const gen::Tree& tree) const {
-  return gen::spelled_out(tree, [&](int number) -> std::optional<gen::Tree> {
-    if (gen::find_row(blocks, [&](int block) { return block == number; }) != nullptr) return std::nullopt;
-    return gen::Tree{"RS", 0, {gen::parse_tree(breakdown(precision, number - 1).tree)}};
+  return gen::spelled_out(tree, [&](int number) -> std::string {
+    if (gen::find_row(blocks, [&](int block) { return block == number; }) != nullptr) return "";
+    return std::string("RS(") + breakdown(precision, number - 1).tree + ")";
   });
 }
 

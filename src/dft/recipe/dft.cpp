@@ -6,7 +6,6 @@
 #include "gen/network/liveness.h"
 #include "gen/passes/constant_folding.h"
 #include "gen/passes/sign_flips.h"
-#include "src/dft/recipe/choices.h"
 #include "src/dft/recipe/table.h"
 
 namespace xfm::dft {

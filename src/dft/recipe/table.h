@@ -1,7 +1,8 @@
-// The breakdown of every complex length, fixed in advance: data only.
+// The breakdown of every complex length, fixed in advance, and the choices that it leaves open.
 #pragma once
 
-#include "gen/math/constant.h"
+#include "gen/algorithms/transform.h"
+#include "gen/order/schedule.h"
 
 namespace xfm::dft {
 
@@ -21,5 +22,22 @@ struct Row {
 
 /// The half of a length's row; throws std::out_of_range if there is none.
 const Breakdown& breakdown(gen::Precision precision, int length);
+
+/// What the recipes of one kernel need besides its tree.
+struct Choices {
+  int length;
+  gen::Precision precision;
+
+  /// The tree with its numbers spelled out down to the blocks.
+  gen::Tree spelled_out(const gen::Tree& tree) const;
+
+  /// How sums of products round in a binary32 kernel of scalar code; nothing for a packed one.
+  std::optional<gen::Rounding> scalar() const;
+
+  gen::Root root(int prime) const;
+  gen::Five five(bool real, int instance, bool transposed) const;
+  gen::Choices open() const;  ///< both, for the transforms
+  gen::Order order() const;
+};
 
 }  // namespace xfm::dft

@@ -1,6 +1,6 @@
 #include "src/hartley/recipe/hartley.h"
 
-#include <numeric>
+#include <functional>
 
 #include "gen/algorithms/transform.h"
 #include "gen/passes/binding.h"
@@ -19,14 +19,6 @@ using gen::Tree;
 using gen::Wide;
 
 const gen::Transform transform(gen::Rounding::combination);
-
-// Numbers that stand for plans are spelled out.
-Tree spelled_out(const Tree& tree) {
-  return gen::spelled_out(tree, [](int number) -> std::optional<Tree> {
-    const char* const plan = plan_of(number);
-    return plan == nullptr ? std::nullopt : std::optional(gen::parse_tree(plan));
-  });
-}
 
 // H[k] = Re X[k] - Im X[k], and H[N-k] = Re X[k] + Im X[k].
 Draft forward(const Tree& plan, int length) {
@@ -56,12 +48,6 @@ Draft folded(const Tree& plan, int length) {
   return draft;
 }
 
-Draft finished(Products products, const Draft& draft) {
-  if (products == Products::merged_in_pairs) return gen::merged_pairs(draft);
-  Draft merged = gen::merged(draft);
-  return products == Products::unrounded ? gen::unrounded(merged) : std::move(merged);
-}
-
 // dst[k] = sum over j of src[j] (cos + sin)(2 pi j k/N).
 void definition(const Sequence<Wide>& src, Sequence<Wide>& dst) {
   const int length = src.size();
@@ -79,16 +65,18 @@ void definition(const Sequence<Wide>& src, Sequence<Wide>& dst) {
 
 Draft draft(int length, const std::string& plan) {
   const Row& of = row(length);
-  const Tree whole = spelled_out(gen::parse_tree(plan.empty() ? of.plan : plan));
+  const Tree whole = gen::spelled_out(gen::parse_tree(plan.empty() ? of.plan : plan), plan_of);
   gen::check_length(whole, length);
-  return finished(of.products, of.design == Design::forward ? forward(whole, length) : folded(whole, length));
+  const Draft plain = of.design == Design::forward ? forward(whole, length) : folded(whole, length);
+  if (of.products == Products::merged_in_pairs) return gen::merged_pairs(plain);
+  Draft merged = gen::merged(plain);
+  return of.products == Products::unrounded ? gen::unrounded(merged) : std::move(merged);
 }
 
 gen::Design design(int length, gen::Precision precision, const std::string& plan) {
   const Row& of = row(length);
   const Draft network = draft(length, plan);
-  gen::PerLane natural(length);
-  std::iota(natural.begin(), natural.end(), 0);
+  const gen::PerLane natural = gen::tabulated(length, std::identity());
   return {.kernel = {.family = "Hartley",
                      .type = {precision, false},
                      .scaling = gen::Scaling::symmetric,

@@ -98,7 +98,7 @@ const Row& row(int length) { return gen::row_of(rows, length); }
 
 const char* plan_of(int length) {
   const auto* const found = gen::find_row(plans, [&](const Plan& row) { return row.length == length; });
-  return found == nullptr ? nullptr : found->plan;
+  return found == nullptr ? "" : found->plan;
 }
 
 }  // namespace xfm::hartley

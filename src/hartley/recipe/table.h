@@ -26,7 +26,7 @@ struct Row {
 /// The row of a length; throws std::out_of_range if there is none.
 const Row& row(int length);
 
-/// The plan that stands for a number inside others, or null for a block.
+/// The plan that stands for a number inside others, empty for a block.
 const char* plan_of(int length);
 
 }  // namespace xfm::hartley

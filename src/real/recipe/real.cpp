@@ -1,6 +1,6 @@
 #include "src/real/recipe/real.h"
 
-#include <numeric>
+#include <functional>
 
 #include "gen/algorithms/transform.h"
 #include "gen/passes/binding.h"
@@ -72,11 +72,7 @@ Draft inverse(const Tree& plan, int length) {
   return draft;
 }
 
-PerLane natural(int length) {
-  PerLane order(length);
-  std::iota(order.begin(), order.end(), 0);
-  return order;
-}
+PerLane natural(int length) { return gen::tabulated(length, std::identity()); }
 
 gen::Binding binding(Direction direction, Layout layout, int length) {
   PerLane packed;
