@@ -13,7 +13,6 @@
 #include <map>
 #include <string>
 
-#include "gen/math/precision.h"
 #include "gen/network/network.h"
 
 namespace xfm::gen {

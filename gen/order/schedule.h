@@ -1,7 +1,6 @@
 // The order in which a kernel's operations are written. It never changes an operation.
 #pragma once
 
-#include "gen/math/precision.h"
 #include "gen/network/network.h"
 
 namespace xfm::gen {

@@ -142,11 +142,8 @@ class Body {
     for (const Term& term : node.terms) {
       const bool negative = term.coefficient.is_negative();
       const Constant c = magnitude(term.coefficient);
-      if (sum.empty()) {
-        sum = negative ? "-" : "";
-      } else {
-        sum += negative ? " - " : " + ";
-      }
+      if (!sum.empty()) sum += negative ? " - " : " + ";
+      if (sum.empty() && negative) sum = "-";
       const std::string operand = fmt::format("xfm64f{{{}}}", var(term.node));
       sum += c.is_one() ? operand : fmt::format("{} * {}", use(c), operand);
     }
@@ -190,15 +187,13 @@ class Body {
   SharedConstants& shared_;
 };
 
-// 1/N and 1/sqrt(N): the nearest numbers in binary32; in binary64 the quotients by N and by the rounded root.
+// 1/N and 1/sqrt(N), the nearest numbers; but in binary64 the second is the quotient by the rounded root.
 std::string factors(const Kernel& kernel) {
   const Precision precision = kernel.type.precision;
-  const Wide by_n =
-      precision == Precision::binary32 ? Wide(1) / Wide(kernel.length) : Wide(1.0 / kernel.length);
-  const Wide by_root = precision == Precision::binary32
-                           ? Wide(1) / wide_sqrt(Wide(kernel.length))
-                           : Wide(1.0 / std::sqrt(static_cast<double>(kernel.length)));
-  const auto carried = [&](bool carries) { return literal(carries ? by_n : Wide(1), precision); };
+  const Wide n(kernel.length);
+  const Wide by_root =
+      precision == Precision::binary32 ? 1 / wide_sqrt(n) : Wide(1 / std::sqrt(static_cast<double>(n)));
+  const auto carried = [&](bool carries) { return literal(carries ? 1 / n : Wide(1), precision); };
   return fmt::format("constexpr Factors<{}, {}> factors_{}({}, {}, {});\n", kernel.type.scalar(),
                      kernel.network->width(), kernel.type.suffix(),
                      carried(kernel.scaling != Scaling::inverse), carried(kernel.scaling != Scaling::forward),
@@ -219,19 +214,15 @@ std::string heading(const Kernel& kernel) {
       kernel.length, kernel.type.suffix());
 }
 
-std::string factor_load(const Kernel& kernel) {
-  const std::string factors = fmt::format("factors_{}.of(flag)", kernel.type.suffix());
-  return fmt::format("  const {} s = {};\n", value_type(kernel),
-                     kernel.packed() ? "Aligned::load(" + factors + ")" : "*" + factors);
-}
-
 std::string entry_text(const Kernel& kernel) {
-  return "  if (const xfmStatus status = check(src, dst, flag); status != xfmStsOk) return status;\n" +
-         factor_load(kernel) +
-         fmt::format(
-             "  const auto* const x = reinterpret_cast<const {0}*>(src);\n"
-             "  auto* const y = reinterpret_cast<{0}*>(dst);\n",
-             kernel.type.scalar());
+  const std::string factor = "factors_" + kernel.type.suffix() + ".of(flag)";
+  return fmt::format(
+      "  if (const xfmStatus status = check(src, dst, flag); status != xfmStsOk) return status;\n"
+      "  const {0} s = {1};\n"
+      "  const auto* const x = reinterpret_cast<const {2}*>(src);\n"
+      "  auto* const y = reinterpret_cast<{2}*>(dst);\n",
+      value_type(kernel), kernel.packed() ? "Aligned::load(" + factor + ")" : "*" + factor,
+      kernel.type.scalar());
 }
 
 // A scalar kernel is one function; a packed one is a body that two functions share, one for aligned and one
