@@ -73,8 +73,9 @@ Points Transform::rader_by_halves(const Tree& tree, const Points& x, int /*insta
 
 // The forward transform gives A[r] = C[r] - i*S[r] for r = 0..M/2. With beta and gamma the parts of 2*B[r],
 //   z1 = beta*C + gamma*S,  z2 = gamma*C - beta*S
-// are the weights of cos and sin in the inverse transform, which is the forward one transposed. x0 is added
-// at frequency zero, and the inverse transform spreads it over all outputs.
+// are the weights of cos and sin in the inverse transform, which is the forward one transposed; S[M/2] and
+// one part of B[M/2] vanish. x0 is added at frequency zero, and the inverse transform spreads it over all
+// outputs.
 Points Transform::rader_transposed(const Tree& tree, const Points& x, int /*instance*/) const {
   const Tree& inner = tree.args.back();
   const int n = x.size(), m = n - 1, h = m / 2;

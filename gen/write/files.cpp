@@ -1,14 +1,16 @@
 #include "gen/write/files.h"
 
 #include <fstream>
-#include <iterator>
+#include <sstream>
 #include <stdexcept>
 
 namespace xfm::gen {
 
 std::string read_file(const std::filesystem::path& path) {
   std::ifstream in(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(in), {}};
+  std::ostringstream text;
+  text << in.rdbuf();
+  return text.str();
 }
 
 bool write_if_changed(const std::filesystem::path& path, const std::string& text) {
