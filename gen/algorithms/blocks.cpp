@@ -53,17 +53,13 @@ Points dft5(const Points& x, Five form) {
   return {x0, t1 - times_i(u1), t2 - times_i(u2), t2 + times_i(u2), t1 + times_i(u1)};
 }
 
-Points direct(const Points& x, Centre centre) {
-  const int h = (x.size() - 1) / 2;
-  Sequence<int> order;
-  for (int k = 1; k <= h; ++k) order.push_back(centre == Centre::last ? k : h + 1 - k);
-  order.push_back(0);
-  return direct(x, centre, order);
-}
-
-Points direct(const Points& x, Centre centre, const Sequence<int>& order) {
+Points direct(const Points& x, Rounding rounding, Sequence<int> order) {
   const int n = x.size(), h = (n - 1) / 2;
-  const bool last = centre == Centre::last;
+  const bool last = rounding == Rounding::combination;  // x0 is the last term
+  if (order.empty()) {
+    order = tabulated(h, [&](int k) { return last ? k + 1 : h - k; });
+    order.push_back(0);
+  }
   Points a(h + 1), b(h + 1), out(n);
   for (int j = 1; j <= h; ++j) {
     a[j] = x[j] + x[n - j];

@@ -13,12 +13,6 @@ enum class Five {
   five_products,  ///< and sines as a rotation of three products: five products for each part
 };
 
-/// Where x0 enters the sums of the symmetric scheme.
-enum class Centre {
-  first,  ///< first in t_k; X0 = x0 + (a1 + (a2 + ..))
-  last,   ///< last in t_k, X0 = x0 + ((a1 + a2) + ..); linear combinations that begin with a positive term
-};
-
 Points dft2(const Points& x);
 Points dft3(const Points& x);
 Points dft4(const Points& x);
@@ -26,8 +20,13 @@ Points dft5(const Points& x, Five form);
 
 /// The symmetric scheme for an odd length n, h = (n-1)/2: with a_j = x_j + x_(n-j), b_j = x_j - x_(n-j),
 ///   t_k = x0 + sum_j cos(2 pi j k/n) a_j,  u_k = sum_j sin(2 pi j k/n) b_j,  X_k, X_(n-k) = t_k -+ i u_k.
-/// `order` is the order of the bins in the transposed network; here they are formed in reverse.
-Points direct(const Points& x, Centre centre, const Sequence<int>& order);
-Points direct(const Points& x, Centre centre);
+/// Rounded one by one, the sums begin with x0, and X_0 = x0 + (a_1 + (a_2 + ..)). Linear combinations end
+/// with it and begin with a positive term, and X_0 = x0 + ((a_1 + a_2) + ..). `order` is the order of the
+/// bins in the transposed network, if not the usual one; here they are formed in reverse.
+Points direct(const Points& x, Rounding rounding, Sequence<int> order = {});
+
+/// A power of two by split radix (split_radix.cpp). Left open, without the last butterfly, that of outputs 0
+/// and N/2: its two operands take their places.
+Points split_radix(const Points& x, bool open = false);
 
 }  // namespace xfm::gen

@@ -9,22 +9,20 @@ namespace xfm::gen {
 
 Lines LineTransform::run(const Tree& tree, const Lines& x, Direction direction) {
   if (const auto rule = rule_of(tree).on_lines; rule != nullptr) return (this->*rule)(tree, x, direction);
-  return each(
-      x, [&](const Points& z) { return blocks_.run(tree, z); }, direction);
+  return each(x, direction, [&](const Points& z) { return blocks_.run(tree, z); });
 }
 
 // Runs the block on all instances, as many at a time as the lanes hold. Instances with zeros in the same
 // places are grouped, so that a block never computes with zeros. Blocks are forward. For an inverse one, real
 // and imaginary parts are exchanged before and after it, or in the interleaved form the outputs p + i*q
 // become p - i*q.
-Lines LineTransform::each(const Lines& x, const Block& block, Direction direction) {
+Lines LineTransform::each(const Lines& x, Direction direction, const Block& block) {
   Lines out(x.size());
   for (const Sequence<int>& group : groups(x)) {
     const bool exchange = direction == Direction::inverse && form_ == Form::planar;
     Points inputs;
     for (int j = 0; j < x[group[0]].size(); ++j) {
-      Elements elements;
-      for (const int i : group) elements.push_back(x[i][j]);
+      const Elements elements = tabulated(group.size(), [&](int l) { return x[group[l]][j]; });
       const Complex z = elements[0].absent() ? Complex{} : lanes_.gather(elements, form_);
       inputs.push_back(exchange ? exchanged(z) : z);
     }
@@ -42,8 +40,7 @@ Sequence<Sequence<int>> LineTransform::groups(const Lines& x) const {
   Sequence<Sequence<int>> groups;
   std::map<Sequence<bool>, int> open;
   for (int i = 0; i < x.size(); ++i) {
-    Sequence<bool> pattern;
-    for (const Element& e : x[i]) pattern.push_back(e.absent());
+    const auto pattern = tabulated(x[i].size(), [&](int j) { return x[i][j].absent(); });
     const auto found = open.find(pattern);
     if (found != open.end() && groups[found->second].size() < lanes_.instances(form_)) {
       groups[found->second].push_back(i);
@@ -55,34 +52,26 @@ Sequence<Sequence<int>> LineTransform::groups(const Lines& x) const {
   return groups;
 }
 
-// Columns and rows as in two_stages.cpp.
+// Columns and rows as in two_stages.cpp, those of all lines next to each other.
 Lines LineTransform::two_stages(const Tree& tree, const Lines& x, Direction direction) {
-  const Tree first = first_of(tree), rest = rest_of(tree);
+  const Tree first = tree.args.front(), rest = rest_of(tree);
   const TwoStages map{length_of(first), length_of(rest), tree.rule == "PFA"};
-  const int n = map.a * map.b;
-  Lines columns;
-  for (int c = 0; c < map.b; ++c) {
-    for (const Line& line : x) {
-      Line& column = columns.emplace_back();
-      for (int m = 0; m < map.a; ++m) column.push_back(line[map.input(m, c)]);
-    }
-  }
-  columns = run(first, columns, direction);
-  Lines rows;
-  for (int k1 = 0; k1 < map.a; ++k1) {
-    for (int i = 0; i < x.size(); ++i) {
-      Line& row = rows.emplace_back();
-      for (int c = 0; c < map.b; ++c)
-        row.push_back(
-            weighted(columns[c * x.size() + i][k1], root_of_unity(turn(map.twiddle(c, k1), n), direction)));
-    }
-  }
-  rows = run(rest, rows, direction);
-  Lines out(x.size(), Line(n));
-  for (int k1 = 0; k1 < map.a; ++k1) {
-    for (int i = 0; i < x.size(); ++i) {
-      for (int k2 = 0; k2 < map.b; ++k2) out[i][map.output(k1, k2)] = rows[k1 * x.size() + i][k2];
-    }
+  const int n = map.a * map.b, lines = x.size();
+  const auto column = [&](int at) {
+    return tabulated(map.a, [&](int m) { return x[at % lines][map.input(m, at / lines)]; });
+  };
+  const Lines columns = run(first, tabulated(map.b * lines, column), direction);
+  const auto row = [&](int at) {
+    const int k1 = at / lines;
+    return tabulated(map.b, [&](int c) {
+      const ComplexConstant twiddle = root_of_unity(turn(map.twiddle(c, k1), n), direction);
+      return weighted(columns[c * lines + at % lines][k1], twiddle);
+    });
+  };
+  const Lines rows = run(rest, tabulated(map.a * lines, row), direction);
+  Lines out(lines, Line(n));
+  for (int at = 0; at < rows.size(); ++at) {
+    for (int k2 = 0; k2 < map.b; ++k2) out[at % lines][map.output(at / lines, k2)] = rows[at][k2];
   }
   return out;
 }

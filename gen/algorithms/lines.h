@@ -19,8 +19,8 @@ using Lines = Sequence<Line>;  ///< transforms of one length, side by side
 
 class LineTransform {
  public:
-  LineTransform(Lanes& lanes, Form form, const Transform& blocks, const Choices& choices)
-      : lanes_(lanes), form_(form), blocks_(blocks), choices_(choices) {}
+  LineTransform(Lanes& lanes, Form form, const Choices& choices)
+      : lanes_(lanes), form_(form), choices_(choices), blocks_(Rounding::each, choices) {}
 
   Lines run(const Tree& tree, const Lines& x, Direction direction);
 
@@ -33,13 +33,13 @@ class LineTransform {
 
  private:
   using Block = std::function<Points(const Points&)>;
-  Lines each(const Lines& x, const Block& block, Direction direction);
+  Lines each(const Lines& x, Direction direction, const Block& block);
   Sequence<Sequence<int>> groups(const Lines& x) const;
 
   Lanes& lanes_;
   Form form_;
-  const Transform& blocks_;
-  const Choices& choices_;
+  Choices choices_;
+  Transform blocks_;
 };
 
 }  // namespace xfm::gen

@@ -24,24 +24,21 @@ Lines LineTransform::rader(const Tree& tree, const Lines& x, Direction direction
   const int m = length_of(inner), n = m + 1;
   const Root root = choices_.root(n);
   const auto factor = [&](int r) { return directed(rader_spectrum(n, root, r), direction); };
-  Lines permuted(x.size());
-  for (int i = 0; i < x.size(); ++i) {
-    for (int q = 0; q < m; ++q) permuted[i].push_back(x[i][power_modulo(root.g, q, n)]);
-  }
-  const Lines spectrum = run(inner, permuted, direction);
+  const auto permuted = [&](int i) {
+    return tabulated(m, [&](int q) { return x[i][power_modulo(root.g, q, n)]; });
+  };
+  const Lines spectrum = run(inner, tabulated(x.size(), permuted), direction);
 
-  Lines zero, joined, product;
-  for (int i = 0; i < x.size(); ++i) zero.push_back({x[i][0], spectrum[i][0]});
+  const auto for_zero = [&](int i) { return Line{x[i][0], spectrum[i][0]}; };
   const auto with_sum = [](const Points& z) { return Points{z[0] + z[1], z[0]}; };
-  zero = each(zero, with_sum, direction);
-  for (int i = 0; i < x.size(); ++i) joined.push_back({zero[i][1], weighted(spectrum[i][0], factor(0))});
-  joined = each(
-      joined, [](const Points& z) { return Points{z[0] + z[1]}; }, direction);
-  for (int i = 0; i < x.size(); ++i) {
-    Line& line = product.emplace_back(Line{joined[i][0]});
-    for (int r = 1; r < m; ++r) line.push_back(weighted(spectrum[i][r], factor(r)));
-  }
-  const Lines convolution = run(inner, product, opposite(direction));
+  const Lines zero = each(tabulated(x.size(), for_zero), direction, with_sum);
+  const auto for_all = [&](int i) { return Line{zero[i][1], weighted(spectrum[i][0], factor(0))}; };
+  const auto only_sum = [](const Points& z) { return Points{z[0] + z[1]}; };
+  const Lines joined = each(tabulated(x.size(), for_all), direction, only_sum);
+  const auto product = [&](int i) {
+    return tabulated(m, [&](int r) { return r == 0 ? joined[i][0] : weighted(spectrum[i][r], factor(r)); });
+  };
+  const Lines convolution = run(inner, tabulated(x.size(), product), opposite(direction));
 
   Lines out(x.size(), Line(n));
   const int inverse = inverse_modulo(root.g, n);
@@ -89,15 +86,11 @@ Lines LineTransform::bluestein(const Tree& tree, const Lines& x, Direction direc
   }
   convolution = run(back, convolution, opposite(direction));
 
-  Lines out;
-  for (const Line& line : convolution) {
-    Lines products;
-    for (int k = 0; k < n; ++k) products.push_back({weighted(line[k], chirp(k))});
-    Line& outputs = out.emplace_back();
-    const auto as_they_are = [](const Points& z) { return z; };
-    for (const Line& product : each(products, as_they_are, Direction::forward)) outputs.push_back(product[0]);
-  }
-  return out;
+  return tabulated(x.size(), [&](int i) {
+    const auto product = [&](int k) { return Line{weighted(convolution[i][k], chirp(k))}; };
+    const Lines products = each(tabulated(n, product), Direction::forward, [](const Points& z) { return z; });
+    return tabulated(n, [&](int k) { return products[k][0]; });
+  });
 }
 
 }  // namespace xfm::gen

@@ -4,32 +4,40 @@
 //   b[q] = exp(-2 pi i g^-q/N),  B[r] = (1/M) sum_q b[q] exp(-2 pi i q r/M).
 // Since g^(M/2) = -1, B[M-r] is conj(B[r]) for even r and -conj(B[r]) for odd r: the even bins of the
 // spectrum give the real parts of the outputs, the odd bins their imaginary parts, and the two never mix.
+#include <fmt/format.h>
+
 #include <stdexcept>
 
 #include "gen/algorithms/transform.h"
 #include "gen/math/number.h"
 
 namespace xfm::gen {
+
+ComplexConstant rader_spectrum(int n, Root root, int r, int times) {
+  const int m = n - 1, inverse = inverse_modulo(root.g, n);
+  Wide re = 0, im = 0;
+  for (int q = 0; q < m; ++q) {
+    // exp(-2 pi i (g'^q/N + q r/M)) as one exact fraction of the circle
+    const auto angle = turn(static_cast<long long>(power_modulo(inverse, q + root.shift, n)) * m +
+                                static_cast<long long>(q) * r * n,
+                            static_cast<long long>(n) * m);
+    re += cosine(angle).value;
+    im -= sine(angle).value;
+  }
+  const auto half = [&](const char* part, Wide value) -> Constant {
+    if (wide_abs(value) < Wide(1e-25)) return {"0", 0};
+    return constant(
+        fmt::format("rader {} {} {} {} {}{}", n, root.g, root.shift, part, r, times == 1 ? "" : " doubled"),
+        Wide(times) * value / Wide(m));
+  };
+  return {half("re", re), half("im", im)};
+}
+
 namespace {
 
 // x[g^0], x[g^1], ...
 Points permuted(const Points& x, int g) {
-  Points inputs;
-  for (int q = 0; q + 1 < x.size(); ++q) inputs.push_back(x[power_modulo(g, q, x.size())]);
-  return inputs;
-}
-
-// Runs a network of real sequences from bins to samples. A bin and its mirror image share one weight.
-template <class Make>
-Points from_bins(int length, Rounding rounding, Make make, const Points& bins) {
-  Network network(1, rounding);
-  const Points outputs = make(samples(network, length));
-  Transposition transposition(network);
-  for (int k = 0; k < bins.size(); ++k) {
-    transposition.send(outputs[k].p, {bins[k].p, {}});
-    transposition.send(outputs[k].q, {bins[k].q, {}});
-  }
-  return transposition.run(length);
+  return tabulated(x.size() - 1, [&](int q) { return x[power_modulo(g, q, x.size())]; });
 }
 
 }  // namespace
@@ -50,10 +58,11 @@ Points Transform::rader_by_halves(const Tree& tree, const Points& x, int /*insta
     const ComplexConstant w = r % 2 == 0 ? b : ComplexConstant{b.im, -b.re};
     (r % 2 == 0 ? even : odd).push_back(combination({w.re * a[r], w.im * times_i(a[r])}));
   }
-  const Points re = from_bins(
-      h, rounding_, [&](const Points& y) { return run(*args.back, y); }, even);
-  const Points im = from_bins(
-      h, rounding_, [&](const Points& y) { return skew(*args.skew, y); }, odd);
+  const auto samples_of = [&](const Tree& inner, const Points& bins, Bins kind) {
+    return from_bins(inner, halves(bins, &Complex::p), halves(bins, &Complex::q), kind);
+  };
+  const Points re = samples_of(*args.back, even, Bins::plain);
+  const Points im = samples_of(*args.skew, odd, Bins::skew);
 
   Spectrum out(n);
   out.put(0, x[0] + a[0]);
@@ -64,30 +73,24 @@ Points Transform::rader_by_halves(const Tree& tree, const Points& x, int /*insta
 
 // The forward transform gives A[r] = C[r] - i*S[r] for r = 0..M/2. With beta and gamma the parts of 2*B[r],
 //   z1 = beta*C + gamma*S,  z2 = gamma*C - beta*S
-// are the weights of cos and sin in the inverse transform, which is the forward one transposed. x0 is added
-// at frequency zero, and the inverse transform spreads it over all outputs.
+// are the weights of cos and sin in the inverse transform, which is the forward one transposed; S[M/2] and
+// one part of B[M/2] vanish. x0 is added at frequency zero, and the inverse transform spreads it over all
+// outputs.
 Points Transform::rader_transposed(const Tree& tree, const Points& x, int /*instance*/) const {
   const Tree& inner = tree.args.back();
   const int n = x.size(), m = n - 1, h = m / 2;
   const Root root = choices_.root(n);
   const Points spectrum = run(inner, permuted(x, root.g));
 
-  Network there(1, rounding_);
-  const Points outputs = Transform(rounding_, choices_, true).run(inner, samples(there, m));
-  Transposition back(there);
-  const auto part = [](int r, const Complex& z) { return r % 2 == 0 ? z : times_i(z); };
-  back.send(outputs[0].p, x[0] + Complex(rader_spectrum(n, root, 0).re * spectrum[0]));
-  for (int r = 1; r < h; ++r) {
-    const ComplexConstant b = rader_spectrum(n, root, r, 2);
+  Points re{x[0] + Complex(rader_spectrum(n, root, 0).re * spectrum[0])}, im{Complex{}};
+  for (int r = 1; r <= h; ++r) {
+    const ComplexConstant b = rader_spectrum(n, root, r, r < h ? 2 : 1);
     const Complex c{spectrum[r].p, {}}, s{-spectrum[r].q, {}};
     const Complex z1 = sum({b.re * c, b.im * s}), z2 = sum({b.im * c, -(b.re * s)});
-    back.send(outputs[r].p, part(r, r % 2 == 0 ? z1 : z2));
-    back.send(-outputs[r].q, part(r, r % 2 == 0 ? -z2 : z1));
+    re.push_back(r % 2 == 0 ? z1 : times_i(z2));
+    im.push_back(r % 2 == 0 ? z2 : -times_i(z1));
   }
-  const ComplexConstant b = rader_spectrum(n, root, h);
-  const Complex middle{spectrum[h].p, {}};
-  back.send(outputs[h].p, part(h, (h % 2 == 0 ? b.re : b.im) * middle));
-  const Points convolution = back.run(m);
+  const Points convolution = from_bins(inner, re, im);
 
   Points out(n);
   out[0] = x[0] + spectrum[0];

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <bit>
+#include <functional>
+#include <numeric>
 #include <stdexcept>
 
 #include "gen/math/number.h"
@@ -28,7 +30,7 @@ bool stages(const Tree& tree) { return tree.args.size() >= 2; }
 bool coprime_stages(const Tree& tree) {
   for (int a = 0; a < tree.args.size(); ++a) {
     for (int b = 0; b < a; ++b) {
-      if (gcd(length_of(tree.args[a]), length_of(tree.args[b])) != 1) return false;
+      if (std::gcd(length_of(tree.args[a]), length_of(tree.args[b])) != 1) return false;
     }
   }
   return stages(tree);
@@ -42,13 +44,9 @@ bool power_of_two(const Tree& tree) {
 }
 bool odd_block(const Tree& tree) {
   if (tree.args.empty() || !all_numbers(tree) || first_number(tree) % 2 == 0) return false;
-  Sequence<int> bins;
-  for (int a = 1; a < tree.args.size(); ++a) bins.push_back(tree.args[a].number);
-  std::sort(bins.begin(), bins.end());
-  for (int k = 0; k < bins.size(); ++k) {
-    if (bins[k] != k) return false;
-  }
-  return bins.empty() || bins.size() == first_number(tree) / 2 + 1;
+  const auto bins = tabulated(tree.args.size() - 1, [&](int k) { return tree.args[k + 1].number; });
+  const auto all = tabulated(first_number(tree) / 2 + 1, std::identity());
+  return bins.empty() || std::is_permutation(bins.begin(), bins.end(), all.begin(), all.end());
 }
 bool halves(const Tree& tree) {
   return tree.args.size() == 2 && length_of(tree.args[0]) == length_of(tree.args[1]);
@@ -93,7 +91,7 @@ const Rule table[] = {
    "columns of length a, twiddles, rows of length b", "Cooley and Tukey 1965"},
   {"*",    "a * b", stages, product, all_trees, false, &T::two_stages, true, &T::skew_cooley_tukey, {},
    "columns of length a, twiddles, rows of length b", "Cooley and Tukey 1965"},
-  {"SR",   "(2^k)", power_of_two, first_number, no_trees, false, &T::split_radix, false, {}, {},
+  {"SR",   "(2^k)", power_of_two, first_number, no_trees, false, &T::block, false, {}, {},
    "even outputs by half the length, odd ones by two quarters", "Yavne 1968; Duhamel and Hollmann 1984"},
   {"F",    "(even bins, odd bins)", halves, twice_half, all_trees, false, &T::fork, true, {}, {},
    "sums to the even bins, differences to the odd ones", "Gentleman and Sande 1966"},
@@ -131,8 +129,6 @@ void check_length(const Tree& tree, int length) {
                                 std::to_string(length));
 }
 
-Tree first_of(const Tree& tree) { return tree.args.front(); }
-
 Tree rest_of(const Tree& tree) {
   if (tree.args.size() == 2) return tree.args.back();
   return {tree.rule, 0, {tree.args.begin() + 1, tree.args.end()}};
@@ -145,15 +141,14 @@ RaderArguments rader_arguments(const Tree& tree) {
   return {args[0].number, &args[1], back ? &args[2] : nullptr, back ? &args.back() : nullptr};
 }
 
-Tree spelled_out(const Tree& tree, const std::function<std::optional<Tree>(int)>& expand) {
+Tree spelled_out(const Tree& tree, const std::function<std::string(int)>& text_of) {
   if (tree.is_number()) {
-    const std::optional<Tree> plan = expand(tree.number);
-    return plan ? spelled_out(*plan, expand) : tree;
+    const std::string text = text_of(tree.number);
+    return text.empty() ? tree : spelled_out(parse_tree(text), text_of);
   }
-  const Rule& rule = rule_of(tree);
   Tree plan = tree;
-  for (int a = rule.first_tree(tree); a < plan.args.size(); ++a)
-    plan.args[a] = spelled_out(plan.args[a], expand);
+  for (int a = rule_of(tree).first_tree(tree); a < plan.args.size(); ++a)
+    plan.args[a] = spelled_out(plan.args[a], text_of);
   return plan;
 }
 

@@ -6,7 +6,6 @@
 #include <stdexcept>
 
 #include "gen/algorithms/rules.h"
-#include "gen/math/number.h"
 
 namespace xfm::gen {
 
@@ -18,21 +17,16 @@ Points Transform::skew(const Tree& tree, const Points& y) const {
     if (rule.on_skew == nullptr) throw std::invalid_argument("no skew transform " + to_string(tree));
     return (this->*rule.on_skew)(tree, y);
   }
-  Points alternating;
-  for (int k = 0; k < n; ++k) alternating.push_back(k % 2 == 0 ? y[k] : -y[k]);
-  const Points bins = run(tree, alternating);
-  Points out(n);
-  for (int k = 0; k < n; ++k) out[(k + n / 2) % n] = bins[k];
-  return out;
+  const Points bins = run(tree, tabulated(n, [&](int k) { return k % 2 == 0 ? y[k] : -y[k]; }));
+  return tabulated(n, [&](int f) { return bins[(f + n / 2 + 1) % n]; });
 }
 
 // `rest` is the tree for half the length.
 Points Transform::skew_of_even_length(const Tree& rest, const Points& y) const {
   const int n = y.size(), half = n / 2;
-  Points z;
-  for (int k = 0; k < half; ++k) z.push_back(rotated({y[k].p, -y[k + half].p}, turn(k, 2 * n)));
-  const Points bins = by_halves(rest, z);
-  Spectrum out(n, Spectrum::Kind::skew);
+  const auto pair = [&](int k) { return rotated({y[k].p, -y[k + half].p}, turn(k, 2 * n)); };
+  const Points bins = by_halves(rest, tabulated(half, pair));
+  Spectrum out(n, Bins::skew);
   for (int j = 0; j < half; ++j) out.put(2 * j, bins[j]);
   return out.bins();
 }
@@ -40,21 +34,17 @@ Points Transform::skew_of_even_length(const Tree& rest, const Points& y) const {
 // Skew columns of length p and rows of length q; bin f of column r is multiplied by
 // exp(-2 pi i r (f + 1/2)/N).
 Points Transform::skew_cooley_tukey(const Tree& tree, const Points& y) const {
-  const Tree first = first_of(tree), rest = rest_of(tree);
+  const Tree first = tree.args.front(), rest = rest_of(tree);
   if (first.number == 2) return skew_of_even_length(rest, y);
   const int p = length_of(first), q = length_of(rest), n = p * q;
-  Sequence<Points> columns;
-  for (int r = 0; r < q; ++r) {
-    Points column;
-    for (int t = 0; t < p; ++t) column.push_back(y[q * t + r]);
-    columns.push_back(skew(first, column));
-  }
-  Spectrum out(n, Spectrum::Kind::skew);
+  const Sequence<Points> columns =
+      tabulated(q, [&](int r) { return skew(first, tabulated(p, [&](int t) { return y[q * t + r]; })); });
+  Spectrum out(n, Bins::skew);
   for (int f = 0; 2 * f + 1 <= p; ++f) {
     const bool real = 2 * f + 1 == p;
-    Points row;
-    for (int r = 0; r < q; ++r)
-      row.push_back(real ? columns[r][f] : rotated(columns[r][f], turn(r * (2 * f + 1), 2 * n)));
+    const Points row = tabulated(q, [&](int r) {
+      return real ? columns[r][f] : rotated(columns[r][f], turn(r * (2 * f + 1), 2 * n));
+    });
     const Points bins = real ? skew(rest, row) : run(rest, row);
     for (int u = 0; u < q; ++u) out.put(f + p * u, bins[u]);
   }
@@ -83,24 +73,19 @@ Points Transform::skew_good_thomas(const Tree& tree, const Points& y) const {
   Tree even;
   split(tree, odd, even);
   const int n = y.size(), p = length_of(odd.front()), q = length_of(even);
-  Sequence<Points> columns;
-  for (int b = 0; b < q; ++b) {
-    Points column;
-    for (int a = 0; a < p; ++a) {
-      const int j = modulo(2LL * q * a + static_cast<long long>(p) * b, 2 * n);
-      column.push_back(j < n ? y[j] : -y[j - n]);
-    }
-    columns.push_back(run(odd.front(), column));
-  }
-  Spectrum out(n, Spectrum::Kind::skew);
+  const auto continued = [&](int j) { return j < n ? y[j] : -y[j - n]; };
+  const Sequence<Points> columns = tabulated(q, [&](int b) {
+    const auto sample = [&](int a) { return continued((2 * q * a + p * b) % (2 * n)); };
+    return run(odd.front(), tabulated(p, sample));
+  });
+  Spectrum out(n, Bins::skew);
   const auto put = [&](int k1, int k2, const Complex& z) {
     int k = k1;
     while (k % (2 * q) != k2) k += p;
     out.put(k / 2, z);
   };
   for (int k1 = 0; 2 * k1 < p; ++k1) {
-    Points row;
-    for (int b = 0; b < q; ++b) row.push_back(columns[b][k1]);
+    const Points row = tabulated(q, [&](int b) { return columns[b][k1]; });
     const Points re = skew(even, halves(row, &Complex::p));
     const Points im = k1 == 0 ? Points(q) : skew(even, halves(row, &Complex::q));
     for (int f = 0; f < q; ++f) put(k1, 2 * f + 1, re[f] + times_i(im[f]));

@@ -2,12 +2,11 @@
 // transform of half the length of the sums a_j = x_j + x_(j+N/2); the differences d_j feed two transforms of
 // a quarter of the length,
 //   X[4k+1] = DFT((d_j - i d_(j+N/4)) W_N^j),  X[4k+3] = DFT((d_j + i d_(j+N/4)) W_N^(3j)).
-#include "gen/algorithms/transform.h"
+#include "gen/algorithms/blocks.h"
 
 namespace xfm::gen {
-namespace {
 
-Points split(const Points& x, bool open) {
+Points split_radix(const Points& x, bool open) {
   if (x.size() == 1) return x;
   if (x.size() == 2) return open ? x : dft2(x);
   if (x.size() == 4 && !open) return dft4(x);
@@ -23,7 +22,7 @@ Points split(const Points& x, bool open) {
     third.push_back(w(3) * (difference + turned));
   }
   Points out(n);
-  const Points even = split(sums, open), odd1 = split(first, false), odd3 = split(third, false);
+  const Points even = split_radix(sums, open), odd1 = split_radix(first), odd3 = split_radix(third);
   for (int k = 0; k < half; ++k) out[2 * k] = even[k];
   for (int k = 0; k < quarter; ++k) {
     out[4 * k + 1] = odd1[k];
@@ -31,13 +30,5 @@ Points split(const Points& x, bool open) {
   }
   return out;
 }
-
-}  // namespace
-
-Points Transform::split_radix(const Tree& /*tree*/, const Points& x, int /*instance*/) const {
-  return split(x, false);
-}
-
-Points open_split_radix(const Points& x) { return split(x, true); }
 
 }  // namespace xfm::gen

@@ -4,14 +4,13 @@
 #include <stdexcept>
 
 #include "gen/algorithms/rules.h"
+#include "gen/algorithms/transposition.h"
 #include "gen/math/number.h"
 
 namespace xfm::gen {
 
 Points samples(Network& network, int length) {
-  Points x;
-  for (int n = 0; n < length; ++n) x.push_back({network.load(n), {}});
-  return x;
+  return tabulated(length, [&](int n) { return Complex{network.load(n), {}}; });
 }
 
 bool is_real(const Points& x) {
@@ -19,13 +18,11 @@ bool is_real(const Points& x) {
 }
 
 Points halves(const Points& x, Value Complex::*half) {
-  Points real;
-  for (const Complex& z : x) real.push_back({z.*half, {}});
-  return real;
+  return tabulated(x.size(), [&](int k) { return Complex{x[k].*half, {}}; });
 }
 
 void Spectrum::put(int k, const Complex& z) {
-  const int n = bins_.size(), mirror = modulo(kind_ == Kind::plain ? -k : -k - 1, n);
+  const int n = bins_.size(), mirror = modulo(kind_ == Bins::plain ? -k : -k - 1, n);
   if (known_[k]) return;
   known_[k] = known_[mirror] = true;
   bins_[mirror] = conjugate(z);
@@ -52,31 +49,30 @@ Points Transform::by_halves(const Tree& tree, const Points& x) const {
   return out;
 }
 
+Points Transform::from_bins(const Tree& tree, const Points& re, const Points& im, Bins kind) const {
+  Network there(1, rounding_);
+  const Transform transform(rounding_, choices_, true);
+  const Points x = samples(there, length_of(tree));
+  const Points bins = kind == Bins::plain ? transform.run(tree, x) : transform.skew(tree, x);
+  Sequence<WeightedOutput> outputs;
+  for (int k = 0; k < re.size(); ++k) outputs.insert(outputs.end(), {{bins[k].p, re[k]}, {bins[k].q, im[k]}});
+  return transposed(there, outputs, x.size());
+}
+
 Points Transform::block(const Tree& tree, const Points& x, int instance) const {
-  const Centre centre = combines() ? Centre::last : Centre::first;
+  const int n = x.size();
+  if (tree.rule == "SR") return split_radix(x);
   if (tree.args.size() > 1 && tree.rule == "D") {
-    Sequence<int> order;
-    for (int a = 1; a < tree.args.size(); ++a) order.push_back(tree.args[a].number);
-    return direct(x, centre, order);
+    const auto bin = [&](int k) { return tree.args[k + 1].number; };
+    return direct(x, rounding_, tabulated(tree.args.size() - 1, bin));
   }
-  switch (x.size()) {
-    case 1:
-      return x;
-    case 2:
-      return dft2(x);
-    case 3:
-      if (!combines()) return dft3(x);
-      break;
-    case 4:
-      return dft4(x);
-    case 5:
-      if (choices_.five) return dft5(x, choices_.five(is_real(x), instance, transposed_));
-      break;
-    default:
-      break;
-  }
-  if (x.size() % 2 == 0) throw std::invalid_argument("no block of length " + std::to_string(x.size()));
-  return direct(x, centre);
+  if (n == 1) return x;
+  if (n == 2) return dft2(x);
+  if (n == 3 && !combines()) return dft3(x);
+  if (n == 4) return dft4(x);
+  if (n == 5 && choices_.five) return dft5(x, choices_.five(is_real(x), instance, transposed_));
+  if (n % 2 == 0) throw std::invalid_argument("no block of length " + std::to_string(n));
+  return direct(x, rounding_);
 }
 
 Points Transform::fork(const Tree& tree, const Points& x, int /*instance*/) const {

@@ -6,17 +6,31 @@
 // interleaved form, where a value is a complex number in two lanes and all coefficients are real, complex
 // sequences are "real" in this sense too.
 //
-// To run a transform from its bins to its samples, transpose its network (transposition.h).
+// From bins to samples, a transform runs as its network transposed (transposition.h).
 #pragma once
 
 #include <functional>
 
 #include "gen/algorithms/blocks.h"
-#include "gen/algorithms/transposition.h"
 #include "gen/algorithms/tree.h"
-#include "gen/math/rader_spectrum.h"
 
 namespace xfm::gen {
+
+/// The root g of a Rader convolution, and how far its outputs are shifted along the powers of 1/g. Any choice
+/// gives the same transform at the same cost; only rounding differs.
+struct Root {
+  int g;
+  int shift;
+};
+
+/// The spectrum of the roots of unity in the order of the convolution, of length M = N-1,
+///   B[r] = (1/M) sum_q exp(-2 pi i g^-q/N) exp(-2 pi i q r/M).
+/// B[0] is -1/M, and B[M/2] is real or imaginary: those parts that vanish are exact zeros. `times` is 2 where
+/// one factor stands for a conjugate pair.
+ComplexConstant rader_spectrum(int n, Root root, int r, int times = 1);
+
+/// The bins of a transform, or those halfway between.
+enum class Bins { plain, skew };
 
 /// What a tree leaves open.
 struct Choices {
@@ -40,11 +54,13 @@ class Transform {
   /// sequence: half the odd bins of the sequence continued with its negative.
   Points skew(const Tree& tree, const Points& y) const;
 
+  /// The transpose: from weights on the real and on the imaginary parts of the first bins to the samples.
+  Points from_bins(const Tree& tree, const Points& re, const Points& im, Bins kind = Bins::plain) const;
+
   /// @name The rules (rules.h)
   /// @{
   Points block(const Tree& tree, const Points& x, int instance) const;
   Points two_stages(const Tree& tree, const Points& x, int instance) const;
-  Points split_radix(const Tree& tree, const Points& x, int instance) const;
   Points fork(const Tree& tree, const Points& x, int instance) const;
   Points rader_by_halves(const Tree& tree, const Points& x, int instance) const;
   Points rader_transposed(const Tree& tree, const Points& x, int instance) const;
@@ -71,22 +87,17 @@ bool is_real(const Points& x);
 /// The p or the q of each point, as a real sequence.
 Points halves(const Points& x, Value Complex::*half);
 
-/// Split radix without its last butterfly, that of outputs 0 and N/2: its two operands take their places.
-Points open_split_radix(const Points& x);
-
-/// The bins of a real sequence, or those halfway between. put() sets a bin, and its mirror image to the
-/// conjugate; a bin that is set stays as it is.
+/// The bins of a real sequence. put() sets a bin, and its mirror image to the conjugate; a bin that is set
+/// stays as it is. Bin k mirrors bin -k of a plain spectrum, -k - 1 of a skew one.
 class Spectrum {
  public:
-  /// Bin k mirrors bin -k of a plain spectrum, -k - 1 of a skew one.
-  enum class Kind { plain, skew };
-  explicit Spectrum(int length, Kind kind = Kind::plain) : kind_(kind), bins_(length), known_(length) {}
+  explicit Spectrum(int length, Bins kind = Bins::plain) : kind_(kind), bins_(length), known_(length) {}
 
   void put(int k, const Complex& z);
   const Points& bins() const { return bins_; }
 
  private:
-  Kind kind_;
+  Bins kind_;
   Points bins_;
   Sequence<bool> known_;
 };

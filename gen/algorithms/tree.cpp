@@ -12,51 +12,39 @@ class Parser {
  public:
   explicit Parser(std::string_view text) : text_(text) {}
 
+  // "2,2" at the outermost level is a rule of its own.
   Tree whole() {
-    Tree tree = stages();
+    Tree tree = joined(",", products());
     if (peek() != '\0') fail("unexpected text");
     return tree;
   }
 
  private:
-  // "2,2" at the outermost level is a rule of its own.
-  Tree stages() {
-    Tree first = product();
-    if (peek() != ',') return first;
-    return {",", 0, list(std::move(first))};
+  Sequence<Tree> products() {
+    return separated(',', [this] { return product(); });
   }
-
   Tree product() {
-    return run('x', [this] { return power(); });
+    return joined("x", separated('x', [this] { return power(); }));
   }
   Tree power() {
-    return run('*', [this] { return stage(); });
+    return joined("*", separated('*', [this] { return stage(); }));
   }
 
-  // One operand, or several with this sign between them.
   template <class Operand>
-  Tree run(char sign, Operand operand) {
-    Sequence<Tree> args{operand()};
-    while (peek() == sign) {
-      ++at_;
-      args.push_back(operand());
-    }
-    return args.size() == 1 ? args.front() : Tree{std::string(1, sign), 0, std::move(args)};
+  Sequence<Tree> separated(char sign, Operand operand) {
+    Sequence<Tree> operands{operand()};
+    while (skips(sign)) operands.push_back(operand());
+    return operands;
   }
 
-  Sequence<Tree> list(Tree first) {
-    Sequence<Tree> items{std::move(first)};
-    while (peek() == ',') {
-      ++at_;
-      items.push_back(product());
-    }
-    return items;
+  // One operand stands for itself.
+  static Tree joined(const char* sign, Sequence<Tree> operands) {
+    return operands.size() == 1 ? operands.front() : Tree{sign, 0, std::move(operands)};
   }
 
   Tree stage() {
     if (std::isdigit(static_cast<unsigned char>(peek()))) return {"", number(), {}};
-    if (peek() == '(') {
-      ++at_;
+    if (skips('(')) {
       Tree inner = product();
       close();
       return inner;
@@ -64,16 +52,20 @@ class Parser {
     std::string rule;
     while (std::isalpha(static_cast<unsigned char>(peek())) || peek() == '*') rule += text_[at_++];
     if (rule.empty()) fail("expected a number or a rule");
-    if (peek() != '(') fail("expected '('");
-    ++at_;
-    Sequence<Tree> args = list(product());
+    if (!skips('(')) fail("expected '('");
+    Sequence<Tree> args = products();
     close();
     return {std::move(rule), 0, std::move(args)};
   }
 
   void close() {
-    if (peek() != ')') fail("expected ')'");
+    if (!skips(')')) fail("expected ')'");
+  }
+
+  bool skips(char sign) {
+    if (peek() != sign) return false;
     ++at_;
+    return true;
   }
 
   int number() {
@@ -101,10 +93,6 @@ class Parser {
   std::size_t at_ = 0;
 };
 
-}  // namespace
-
-namespace {
-
 void check_rules(const Tree& tree) {
   rule_of(tree);
   for (const Tree& arg : tree.args) {
@@ -112,12 +100,10 @@ void check_rules(const Tree& tree) {
   }
 }
 
-bool is_run(const Tree& tree) { return tree.rule == "x" || tree.rule == "*"; }
-
 // A run in parentheses where the grammar would bind it differently without them.
 std::string operand(const Tree& tree, const std::string& sign) {
-  const bool binds = !is_run(tree) || (sign == "x" && tree.rule == "*");
-  return binds ? to_string(tree) : "(" + to_string(tree) + ")";
+  const bool parentheses = tree.rule == "x" || (sign == "*" && tree.rule == "*");
+  return parentheses ? "(" + to_string(tree) + ")" : to_string(tree);
 }
 
 }  // namespace
@@ -130,15 +116,13 @@ Tree parse_tree(std::string_view text) {
 
 std::string to_string(const Tree& tree) {
   if (tree.is_number()) return std::to_string(tree.number);
-  if (is_run(tree)) {
-    std::string text;
-    for (const Tree& arg : tree.args)
-      text += (text.empty() ? "" : " " + tree.rule + " ") + operand(arg, tree.rule);
-    return text;
-  }
+  const bool run = tree.rule == "x" || tree.rule == "*";
   std::string inner;
-  for (const Tree& arg : tree.args) inner += (inner.empty() ? "" : ",") + to_string(arg);
-  return tree.rule == "," ? inner : tree.rule + "(" + inner + ")";
+  for (const Tree& arg : tree.args) {
+    if (!inner.empty()) inner += run ? " " + tree.rule + " " : ",";
+    inner += run ? operand(arg, tree.rule) : to_string(arg);
+  }
+  return run || tree.rule == "," ? inner : tree.rule + "(" + inner + ")";
 }
 
 }  // namespace xfm::gen

@@ -40,8 +40,8 @@ int length_of(const Tree& tree);
 /// Throws std::invalid_argument if the tree does not transform this length.
 void check_length(const Tree& tree, int length);
 
-/// A rule with more than two arguments is nested to the right: PFA(a,b,c) is PFA(a,PFA(b,c)).
-Tree first_of(const Tree& tree);
+/// The tree behind the first argument. A rule with more than two is nested to the right: PFA(a,b,c) is
+/// PFA(a,PFA(b,c)).
 Tree rest_of(const Tree& tree);
 
 /// Rader's arguments, R([root,] there [, back [, skew]]): the root if it is given, the forward transform, and
@@ -52,8 +52,9 @@ struct RaderArguments {
 };
 RaderArguments rader_arguments(const Tree& tree);
 
-/// The tree with every number that `expand` knows replaced by its tree, recursively down to the blocks.
-Tree spelled_out(const Tree& tree, const std::function<std::optional<Tree>(int)>& expand);
+/// The tree with its numbers replaced by the trees that they stand for, recursively down to the blocks:
+/// numbers whose text is empty.
+Tree spelled_out(const Tree& tree, const std::function<std::string(int)>& text_of);
 
 /// Whether the rule occurs anywhere in the tree.
 bool uses_rule(const Tree& tree, std::string_view rule);

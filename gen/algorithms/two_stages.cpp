@@ -14,34 +14,28 @@
 namespace xfm::gen {
 
 Points Transform::two_stages(const Tree& tree, const Points& x, int /*instance*/) const {
-  const Tree first = first_of(tree), rest = rest_of(tree);
+  const Tree first = tree.args.front(), rest = rest_of(tree);
   const int a = length_of(first), b = length_of(rest);
   const bool real = is_real(x);
   const bool open = tree.rule == "PFA*" && first.rule == "SR";
   const TwoStages map{a, b, tree.rule != "CT" && tree.rule != "*"};
-  Sequence<Points> columns;
-  for (int c = 0; c < b; ++c) {
-    Points column;
-    for (int m = 0; m < a; ++m) column.push_back(x[map.input(m, c)]);
-    columns.push_back(open ? open_split_radix(column) : run(first, column, c));
-  }
-  const auto row = [&](int k1) {
+  const Sequence<Points> columns = tabulated(b, [&](int c) {
+    const Points column = tabulated(a, [&](int m) { return x[map.input(m, c)]; });
+    return open ? split_radix(column, true) : run(first, column, c);
+  });
+  Sequence<Points> rows = tabulated(real ? a / 2 + 1 : a, [&](int k1) {
     const bool skew_row = tree.rule == "*" && 2 * k1 == a;
-    Points points;
-    for (int c = 0; c < b; ++c)
-      points.push_back(skew_row ? columns[c][k1] : rotated(columns[c][k1], turn(map.twiddle(c, k1), a * b)));
-    return skew_row ? skew(rest, points) : run(rest, points);
-  };
-  Sequence<Points> rows;
-  for (int k1 = 0; k1 <= (real ? a / 2 : a - 1); ++k1) rows.push_back(row(k1));
-  if (open) {
-    // The butterfly that the split radix left open comes after the rows of its operands.
-    Points &low = rows[0], &middle = rows[a / 2];
-    for (int k2 = 0; k2 < b; ++k2) {
-      const Complex sum = low[k2] + middle[k2], difference = low[k2] - middle[k2];
-      low[k2] = sum;
-      middle[k2] = difference;
-    }
+    const Points row = tabulated(b, [&](int c) {
+      const Complex& z = columns[c][k1];
+      return skew_row ? z : rotated(z, turn(map.twiddle(c, k1), a * b));
+    });
+    return skew_row ? skew(rest, row) : run(rest, row);
+  });
+  // The butterfly that the split radix left open comes after the rows of its operands.
+  for (int k2 = 0; open && k2 < b; ++k2) {
+    const Points outputs = dft2({rows[0][k2], rows[a / 2][k2]});
+    rows[0][k2] = outputs[0];
+    rows[a / 2][k2] = outputs[1];
   }
   Spectrum spectrum(a * b);
   Points out(a * b);

@@ -109,9 +109,7 @@ ComplexConstant root_of_unity(Turn t, Direction direction) {
 }
 
 Sequence<ComplexConstant> roots_of_unity(int n, Direction direction) {
-  Sequence<ComplexConstant> roots;
-  for (int k = 0; k < n; ++k) roots.push_back(root_of_unity(turn(k, n), direction));
-  return roots;
+  return tabulated(n, [&](int k) { return root_of_unity(turn(k, n), direction); });
 }
 
 }  // namespace xfm::gen

@@ -17,6 +17,14 @@ __extension__ using Wide = __float128;
 Wide wide_sqrt(Wide v);
 Wide wide_abs(Wide v);
 
+/// The two precisions of the library.
+enum class Precision { binary32, binary64 };
+
+/// The nearest number of the precision.
+inline double rounded(Wide value, Precision precision) {
+  return precision == Precision::binary32 ? static_cast<float>(value) : static_cast<double>(value);
+}
+
 /// An exact fraction num/den of the full circle, reduced, in 0 <= num/den < 1.
 struct Turn {
   long num = 0, den = 1;

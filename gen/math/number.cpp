@@ -1,12 +1,9 @@
 #include "gen/math/number.h"
 
-#include <numeric>
 #include <stdexcept>
 #include <string>
 
 namespace xfm::gen {
-
-int gcd(int a, int b) { return std::gcd(a, b); }
 
 int modulo(long long a, int n) { return static_cast<int>(((a % n) + n) % n); }
 

@@ -3,8 +3,6 @@
 
 namespace xfm::gen {
 
-int gcd(int a, int b);
-
 /// a modulo n in 0..n-1, also for negative a.
 int modulo(long long a, int n);
 

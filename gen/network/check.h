@@ -1,12 +1,22 @@
-// Checks of a finished network during the build. A kernel that fails one stops the build by name.
+// Costs of a finished network, and its checks during the build. A kernel that fails one stops the build by
+// name.
 #pragma once
 
 #include <functional>
 #include <string>
 
-#include "gen/network/count.h"
+#include "gen/network/network.h"
 
 namespace xfm::gen {
+
+/// Real operations without the factor multiplications, which the rows bound, and the instructions that
+/// perform them.
+struct Counts {
+  int adds = 0, mults = 0;            ///< lanes that carry data: idle and trivial lanes do not count
+  int add_nodes = 0, mult_nodes = 0;  ///< instructions; mult_nodes includes the factor multiplications
+  int permutations = 0, loads = 0, stores = 0;
+};
+Counts count(const Network& network);
 
 /// Every scalar of 0..read-1 must be read exactly once, except the `unread`, which must never be; every one
 /// of 0..written-1 must be written exactly once.

@@ -33,8 +33,6 @@ Complex exchanged(const Complex& z) { return {z.q, z.p}; }
 
 ScaledComplex::operator Complex() const { return sum({*this}); }
 
-Complex sum(std::initializer_list<ScaledComplex> terms) { return sum(Sequence<ScaledComplex>(terms)); }
-
 Complex sum(const Sequence<ScaledComplex>& terms) {
   return {combine(terms, &Complex::p), combine(terms, &Complex::q)};
 }

@@ -5,8 +5,6 @@
 // the last step. The same recipes serve both.
 #pragma once
 
-#include <initializer_list>
-
 #include "gen/network/network.h"
 
 namespace xfm::gen {
@@ -39,7 +37,6 @@ struct ScaledComplex {
 inline ScaledComplex operator*(const Constant& c, const Complex& z) { return {c, z}; }
 
 /// The terms added from left to right, rounded by the network's rule.
-Complex sum(std::initializer_list<ScaledComplex> terms);
 Complex sum(const Sequence<ScaledComplex>& terms);
 
 /// One linear combination that begins with a positive term, so that a zero comes out as +0. If its first term

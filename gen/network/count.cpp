@@ -1,4 +1,4 @@
-#include "gen/network/count.h"
+#include "gen/network/check.h"
 
 #include <algorithm>
 
@@ -15,7 +15,7 @@ class Counter {
 
   Counts run() {
     for (NodeId id = 0; id < live_.size(); ++id) {
-      if (std::none_of(live_[id].begin(), live_[id].end(), [](bool l) { return l; })) continue;
+      if (std::ranges::find(live_[id], true) == live_[id].end()) continue;
       instruction(network_.node(id));
       for (int l = 0; l < network_.width(id); ++l) lane(id, l);
     }
@@ -24,67 +24,40 @@ class Counter {
   }
 
  private:
+  // A doubling is a multiplication in the row, and an addition in the code.
   void instruction(const Node& node) {
-    switch (node.op) {
-      case Op::load:
-        ++counts_.loads;
-        break;
-      case Op::permute:
-        ++counts_.permutations;
-        break;
-      case Op::sign_flip:
-      case Op::widen:
-      case Op::narrow:
-        break;
-      case Op::add:
-      case Op::sub:
-        ++counts_.add_nodes;
-        break;
-      case Op::minus:
-        ++counts_.adds;
-        ++counts_.add_nodes;
-        break;
-      case Op::twice:  // the row counts a multiplication, the instruction is an addition
-        ++counts_.mults;
-        ++counts_.add_nodes;
-        break;
-      case Op::mul:
-      case Op::factor:
-        ++counts_.mult_nodes;
-        break;
-      case Op::combination:
-        combination(node);
-        break;
-    }
+    counts_.loads += node.is(Op::load);
+    counts_.permutations += node.is(Op::permute);
+    counts_.adds += node.is(Op::minus);
+    counts_.mults += node.is(Op::twice);
+    counts_.add_nodes += node.is(Op::add, Op::sub, Op::minus, Op::twice);
+    counts_.mult_nodes += node.is(Op::mul, Op::factor);
+    if (node.is(Op::combination)) combination(node);
+  }
+
+  void combination(const Node& node) {
+    const int adds = node.terms.size() - 1 + (node.finish == Finish::negated ? 1 : 0);
+    const auto mults = static_cast<int>(
+        std::ranges::count_if(node.terms, [](const Term& t) { return !magnitude(t.coefficient).is_one(); }));
+    counts_.adds += adds;
+    counts_.mults += mults;
+    counts_.add_nodes += adds;
+    counts_.mult_nodes += mults + scales(node.finish);
   }
 
   void lane(NodeId id, int l) {
     const Node& node = network_.node(id);
-    const auto zero = [&](int operand) -> bool {
-      return zero_[node.in[static_cast<std::size_t>(operand)]][l];
-    };
-    if (node.op == Op::add || node.op == Op::sub) {
+    const auto zero = [&](std::size_t operand) -> bool { return zero_[node.in[operand]][l]; };
+    if (node.is_sum()) {
       zero_[id][l] = zero(0) && zero(1);
-      if (live_[id][l] && !zero(0) && !zero(1)) ++counts_.adds;
-    } else if (node.op == Op::mul) {
+      counts_.adds += live_[id][l] && !zero(0) && !zero(1);
+    } else if (node.is(Op::mul)) {
       zero_[id][l] = node.constant(l).is_zero() || zero(0);
-      if (live_[id][l] && !zero_[id][l] && !magnitude(node.constant(l)).is_one()) ++counts_.mults;
-    } else if (node.op == Op::permute) {
-      const auto [source, from] = network_.source(node, l);
-      zero_[id][l] = static_cast<bool>(zero_[source][from]);
+      counts_.mults += live_[id][l] && !zero_[id][l] && !magnitude(node.constant(l)).is_one();
+    } else if (node.is(Op::permute)) {
+      const Place from = network_.source(node, l);
+      zero_[id][l] = static_cast<bool>(zero_[from.node][from.lane]);
     }
-  }
-
-  void combination(const Node& node) {
-    const int adds = node.terms.size() - 1;
-    const auto mults =
-        static_cast<int>(std::count_if(node.terms.begin(), node.terms.end(),
-                                       [](const Term& t) { return !magnitude(t.coefficient).is_one(); }));
-    const int minus = node.finish == Finish::negated ? 1 : 0;
-    counts_.adds += adds + minus;
-    counts_.mults += mults;
-    counts_.add_nodes += adds + minus;
-    counts_.mult_nodes += mults + (scales(node.finish) ? 1 : 0);
   }
 
   const Network& network_;

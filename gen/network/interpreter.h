@@ -1,5 +1,6 @@
-// The interpreter: runs a network as the compiled kernel must, bit for bit in binary32 and binary64, or in
-// binary128 for the mathematics alone.
+// The interpreter: computes a network lane by lane, in one arithmetic or another. In numbers it runs a
+// network as the compiled kernel must, bit for bit in binary32 and binary64, or in binary128 for the
+// mathematics alone. In operations it writes down what is computed (program.h).
 #pragma once
 
 #include <type_traits>
@@ -8,85 +9,113 @@
 
 namespace xfm::gen {
 
-template <class T>
+/// Computes the lanes of all nodes. An arithmetic has a Scalar with a unary minus, operations on scalars, and
+/// the arithmetic of linear combinations, inner().
+template <class Arithmetic>
 class Interpreter {
  public:
-  explicit Interpreter(const Network& network)
-      : network_(network) {
-    for (NodeId id = 0; id < network.nodes().size(); ++id) values_.emplace_back(network.width(id));
+  using Scalar = typename Arithmetic::Scalar;
+
+  Interpreter(const Network& network, const Arithmetic& arithmetic)
+      : network_(network),
+        arithmetic_(arithmetic),
+        values_(network.nodes().size()) {
+    for (NodeId id = 0; id < values_.size(); ++id) {
+      for (int l = 0; l < network.width(id); ++l) values_[id].push_back(lane(id, l));
+    }
   }
 
-  void run(const T* src, T* dst, T factor) {
-    for (NodeId id = 0; id < values_.size(); ++id) {
-      for (int l = 0; l < network_.width(id); ++l)
-        values_[id][l] = network_.inner(id) ? lane<Inner>(id, l, src, factor) : lane<T>(id, l, src, factor);
-    }
+  /// Calls write(place in memory, scalar) for each lane that is stored, except for stores of zero.
+  template <class Write>
+  void each_output(Write write) const {
     for (const Store& store : network_.stores()) {
-      for (int l = 0; l < store.lanes.size(); ++l) {
-        if (store.lanes[l] >= 0)
-          dst[store.lanes[l]] = store.node < 0 ? T(0) : static_cast<T>(values_[store.node][l]);
+      for (int l = 0; store.node >= 0 && l < store.lanes.size(); ++l) {
+        if (store.lanes[l] >= 0) write(store.lanes[l], values_[store.node][l]);
       }
     }
   }
 
  private:
-  /// Linear combinations are computed in binary64, or in T where that is wider.
-  using Inner = std::conditional_t<std::is_same_v<T, float>, double, T>;
-
-  /// One lane of a node, by an operation on numbers of type A.
-  template <class A>
-  Inner lane(NodeId id, int l, const T* src, T factor) const {
+  Scalar lane(NodeId id, int l) const {
     const Node& node = network_.node(id);
-    const auto in = [&](std::size_t operand) { return static_cast<A>(values_[node.in[operand]][l]); };
+    return network_.inner(id) ? operation(arithmetic_.inner(), node, l) : operation(arithmetic_, node, l);
+  }
+
+  template <class By>
+  Scalar operation(const By& by, const Node& node, int l) const {
+    const auto in = [&](std::size_t operand) { return values_[node.in[operand]][l]; };
     switch (node.op) {
       case Op::load:
-        return node.lanes[l] >= 0 ? src[node.lanes[l]] : T(0);
-      case Op::permute:
-        return content(network_.source(node, l));
+        return node.lanes[l] >= 0 ? by.input(node.lanes[l]) : by.zero();
+      case Op::permute: {
+        const Place from = network_.source(node, l);
+        return values_[from.node][from.lane];
+      }
       case Op::sign_flip:
         return node.lanes[l] == 1 ? -in(0) : in(0);
       case Op::add:
-        return in(0) + in(1);
+        return by.add(in(0), in(1));
       case Op::sub:
-        return node.lanes.empty() || node.lanes[l] == 1 ? in(0) - in(1) : in(0) + in(1);
+        return by.add(in(0), node.subtracts(l) ? -in(1) : in(1));
       case Op::mul:
-        return static_cast<A>(node.constant(l).value) * in(0);
+        return by.mul(node.constant(l), in(0));
       case Op::twice:
-        return in(0) + in(0);
+        return by.add(in(0), in(0));
       case Op::minus:
-        return A(0) - in(0);
+        return by.add(by.zero(), -in(0));
       case Op::factor:
-        return static_cast<A>(factor) * in(0);
+        return by.scale(in(0));
       case Op::widen:
-      case Op::narrow:
         return in(0);
-      case Op::combination:
-        break;
+      case Op::narrow:
+        return by.rounded(in(0));
+      default:
+        return combination(node, l);
     }
-    return combination(node, l, factor);
   }
 
-  Inner content(const Place& place) const { return values_[place.node][place.lane]; }
-
-  Inner combination(const Node& node, int l, T factor) const {
-    Inner total = 0;
+  Scalar combination(const Node& node, int l) const {
+    const auto inner = arithmetic_.inner();
+    Scalar total{};
     for (int t = 0; t < node.terms.size(); ++t) {
-      const Term& term = node.terms[t];
-      const Inner product = static_cast<Inner>(term.coefficient.value) * values_[term.node][l];
-      total = t == 0 ? product : total + product;
+      const Scalar product = inner.mul(node.terms[t].coefficient, values_[node.terms[t].node][l]);
+      total = t == 0 ? product : inner.add(total, product);
     }
-    if (scales(node.finish)) total = static_cast<Inner>(factor) * total;
-    if (node.finish == Finish::negated) total = 0 - total;
-    return node.finish == Finish::unrounded ? total : static_cast<T>(total);
+    if (scales(node.finish)) total = inner.scale(total);
+    if (node.finish == Finish::negated) total = inner.add(inner.zero(), -total);
+    return node.finish == Finish::unrounded ? total : arithmetic_.rounded(total);
   }
 
   const Network& network_;
-  Sequence<Sequence<Inner>> values_;
+  const Arithmetic arithmetic_;
+  Sequence<Sequence<Scalar>> values_;
+};
+
+/// Numbers of the precision T. Linear combinations are computed in binary64, or in T where that is wider.
+template <class T>
+struct Numbers {
+  using Scalar = std::conditional_t<std::is_same_v<T, float>, double, T>;
+
+  const T* src;
+  T factor;
+
+  Scalar input(int place) const { return src[place]; }
+  Scalar zero() const { return 0; }
+  Scalar add(Scalar a, Scalar b) const { return static_cast<T>(a) + static_cast<T>(b); }
+  Scalar mul(const Constant& c, Scalar a) const { return static_cast<T>(c.value) * static_cast<T>(a); }
+  Scalar scale(Scalar a) const { return factor * static_cast<T>(a); }
+  Scalar rounded(Scalar a) const { return static_cast<T>(a); }
+  Numbers<Scalar> inner() const { return {nullptr, factor}; }
 };
 
 template <class T>
 void evaluate(const Network& network, const T* src, T* dst, T factor) {
-  Interpreter<T>(network).run(src, dst, factor);
+  for (const Store& store : network.stores()) {
+    if (store.node < 0) dst[store.lanes[0]] = 0;
+  }
+  Interpreter(network, Numbers<T>{src, factor}).each_output([&](int place, auto value) {
+    dst[place] = static_cast<T>(value);
+  });
 }
 
 }  // namespace xfm::gen

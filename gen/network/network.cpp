@@ -94,34 +94,14 @@ Value Network::narrow(Value v) { return make({.op = Op::narrow, .in = {v.node, -
 
 Value Network::factor(Value v) { return make({.op = Op::factor, .in = {v.node, -1}}, v.negative); }
 
-Value Network::repeat(const Node& node, Value a, Value b) {
-  switch (node.op) {
-    case Op::load:
-      return load(node.lanes);
-    case Op::permute:
-      return permute(a, b, node.lanes);
-    case Op::sign_flip:
-      return flip_signs(a, node.lanes);
-    case Op::add:
-      return add(a, b);
-    case Op::sub:
-      return node.lanes.empty() ? sub(a, b) : subtract(a, b, node.lanes);
-    case Op::mul:
-      return node.constants.size() == 1 ? mul(node.constants[0], a) : mul(node.constants, a);
-    case Op::twice:
-      return twice(a);
-    case Op::factor:
-      return factor(a);
-    case Op::minus:
-      return minus(a);
-    case Op::widen:
-      return widen(a);
-    case Op::narrow:
-      return narrow(a);
-    case Op::combination:
-      break;
-  }
-  throw std::logic_error("a linear combination cannot be repeated on two operands");
+Value Network::repeat(Node node, Value a, Value b) {
+  if (node.op == Op::combination)
+    throw std::logic_error("a linear combination cannot be repeated on two operands");
+  if (node.op == Op::add) return add(a, b);
+  if (node.op == Op::sub && node.lanes.empty()) return sub(a, b);
+  if (node.op == Op::permute) return permute(a, b, std::move(node.lanes));
+  node.in = {a.node, b.node};
+  return make(std::move(node), a.negative);
 }
 
 Value Network::sum(std::span<const Product> products, Finish finish) {
@@ -146,12 +126,47 @@ void Network::store(Value v, PerLane scalars) {
   stores_.push_back({v.node, std::move(scalars)});
 }
 
-void Network::repeat(const Store& store, Value v) {
-  if (store.node < 0) {
-    stores_.push_back(store);
-  } else {
-    this->store(v, store.lanes);
+// Operands have smaller numbers than the nodes that use them, so one walk down visits all users first.
+Sequence<int> uses(const Network& network) {
+  Sequence<int> uses(network.nodes().size());
+  for (const Store& store : network.stores()) {
+    if (store.node >= 0) ++uses[store.node];
   }
+  for (const Value& output : network.outputs()) ++uses[output.node];
+  for (NodeId id = uses.size() - 1; id >= 0; --id) {
+    if (uses[id] == 0) continue;
+    for (const NodeId operand : operands(network.node(id))) ++uses[operand];
+  }
+  return uses;
+}
+
+int instructions(const Network& network) {
+  const Sequence<int> used = uses(network);
+  return network.stores().size() +
+         static_cast<int>(std::count_if(used.begin(), used.end(), [](int n) { return n > 0; }));
+}
+
+Sequence<Sequence<bool>> live_lanes(const Network& network) {
+  Sequence<Sequence<bool>> live;
+  for (NodeId id = 0; id < network.nodes().size(); ++id) live.emplace_back(network.width(id));
+  for (const Store& store : network.stores()) {
+    for (int l = 0; store.node >= 0 && l < store.lanes.size(); ++l) {
+      if (store.lanes[l] >= 0) live[store.node][l] = true;
+    }
+  }
+  for (NodeId id = live.size() - 1; id >= 0; --id) {
+    const Node& node = network.node(id);
+    for (int l = 0; l < network.width(id); ++l) {
+      if (!live[id][l]) continue;
+      if (node.op == Op::permute) {
+        const Place from = network.source(node, l);
+        live[from.node][from.lane] = true;
+      } else {
+        for (const NodeId operand : operands(node)) live[operand][l] = true;
+      }
+    }
+  }
+  return live;
 }
 
 }  // namespace xfm::gen

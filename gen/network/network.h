@@ -8,6 +8,7 @@
 #pragma once
 
 #include <array>
+#include <concepts>
 #include <map>
 #include <span>
 
@@ -37,6 +38,15 @@ enum class Op {
 };
 
 class Network;
+
+/// A lane of a node.
+struct Place {
+  NodeId node = -1;
+  int lane = 0;
+
+  bool idle() const { return node < 0; }
+  bool operator==(const Place&) const = default;
+};
 
 /// A node with a sign, or nothing at all: a value that is zero by structure.
 struct Value {
@@ -78,20 +88,16 @@ struct Node {
   /// The constant of a product in a lane.
   const Constant& constant(int lane) const { return constants[constants.size() == 1 ? 0 : lane]; }
 
-  bool is_sum() const { return op == Op::add || op == Op::sub; }
+  /// Whether the operation is one of these.
+  bool is(std::same_as<Op> auto... ops) const { return ((op == ops) || ...); }
+  /// Whether a lane of a difference subtracts.
+  bool subtracts(int lane) const { return lanes.empty() || lanes[lane] == 1; }
+
+  bool is_sum() const { return is(Op::add, Op::sub); }
 };
 
 /// The distinct nodes that a node is computed from.
 Sequence<NodeId> operands(const Node& node);
-
-/// A lane of a node.
-struct Place {
-  NodeId node = -1;
-  int lane = 0;
-
-  bool idle() const { return node < 0; }
-  bool operator==(const Place&) const = default;
-};
 
 struct Store {
   NodeId node;    ///< or -1: stores +0, whatever the data
@@ -143,7 +149,7 @@ class Network {
 
   /// Applies the operation of another network's node to these operands; not for linear combinations, which
   /// may have more.
-  Value repeat(const Node& node, Value a, Value b);
+  Value repeat(Node node, Value a, Value b);
 
   /// The sum of the products c*v, left to right: one linear combination with this finish, or one operation at
   /// a time, by the rounding rule.
@@ -157,9 +163,6 @@ class Network {
   void store(Value v, PerLane scalars);
   void store(Value v, int scalar) { store(v, PerLane{scalar}); }
   void store_zero(int scalar) { stores_.push_back({-1, {scalar}}); }
-
-  /// Another network's store, now of this value; a store of zero stays one.
-  void repeat(const Store& store, Value v);
 
   /// The next output of a network that is not bound to memory yet.
   void output(Value v) { outputs_.push_back(v); }

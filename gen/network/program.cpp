@@ -3,123 +3,50 @@
 #include <fmt/format.h>
 
 #include <bit>
-#include <optional>
 #include <stdexcept>
 #include <utility>
 
+#include "gen/network/interpreter.h"
+
 namespace xfm::gen {
+namespace {
 
-// Reads the lanes of a network into a program, each lane once.
-class ProgramReader {
- public:
-  ProgramReader(Programs& programs, const Network& network, Precision precision, const Numbering& numbering)
-      : programs_(programs),
-        network_(network),
-        precision_(precision),
-        numbering_(numbering),
-        known_(network.nodes().size(), Sequence<std::optional<Result>>(network.width())) {}
+int number(const PerLane& numbers, int place) { return place < numbers.size() ? numbers[place] : place; }
 
-  Program run() {
-    Program program;
-    for (const Store& store : network_.stores()) {
-      for (int l = 0; store.node >= 0 && l < store.lanes.size(); ++l) {
-        if (store.lanes[l] < 0) continue;
-        const int output = number(numbering_.outputs, store.lanes[l]);
-        if (output >= program.size()) program.resize(static_cast<std::size_t>(output) + 1);
-        program[output] = lane(store.node, l);
-      }
-    }
-    return program;
+}  // namespace
+
+// The arithmetic that writes down operations. Under Equality::values 0 - v is -v.
+struct Programs::Arithmetic {
+  using Scalar = Result;
+
+  Programs& programs;
+  Precision precision;
+  const PerLane& inputs;
+
+  Result input(int place) const {
+    return programs.make({.kind = Kind::input, .precision = precision, .input = number(inputs, place)});
   }
-
- private:
-  using Kind = Programs::Kind;
-
-  static int number(const PerLane& numbers, int place) {
-    return place < numbers.size() ? numbers[place] : place;
+  Result zero() const { return programs.zero(precision); }
+  Result add(Result a, Result b) const { return programs.add(a, b, precision); }
+  Result mul(const Constant& c, Result a) const {
+    return programs.mul(gen::rounded(c.value, precision), a, precision);
   }
-
-  Result lane(NodeId id, int l) {
-    if (!known_[id][l]) known_[id][l] = compute(id, l);
-    return *known_[id][l];
+  Result scale(Result a) const { return programs.linear({Kind::scale, precision}, a); }
+  Result rounded(Result a) const {
+    return precision == Precision::binary64 ? a : programs.linear({Kind::narrow, precision}, a);
   }
-
-  Result lane(const Place& place) { return lane(place.node, place.lane); }
-
-  Result compute(NodeId id, int l) {
-    const Node& node = network_.node(id);
-    const Precision precision = network_.inner(id) ? Precision::binary64 : precision_;
-    const auto in = [&](std::size_t operand) { return lane(node.in[operand], l); };
-    switch (node.op) {
-      case Op::load:
-        if (node.lanes[l] < 0) return programs_.zero(precision);
-        return programs_.make({.kind = Kind::input,
-                               .precision = precision,
-                               .input = number(numbering_.inputs, node.lanes[l])});
-      case Op::permute:
-        return lane(network_.source(node, l));
-      case Op::sign_flip:
-        return node.lanes[l] == 1 ? -in(0) : in(0);
-      case Op::add:
-        return programs_.add(in(0), in(1), precision);
-      case Op::sub:
-        return programs_.add(in(0), node.lanes.empty() || node.lanes[l] == 1 ? -in(1) : in(1), precision);
-      case Op::mul:
-        return programs_.mul(rounded(node.constant(l).value, precision), in(0), precision);
-      case Op::twice:
-        return programs_.add(in(0), in(0), precision);
-      case Op::factor:
-        return scale(in(0), precision);
-      case Op::minus:
-        return minus(in(0), precision);
-      case Op::widen:
-        return in(0);
-      case Op::narrow:
-        return narrow(in(0));
-      case Op::combination:
-        break;
-    }
-    return combination(node, l);
-  }
-
-  Result scale(Result v, Precision precision) {
-    const Result plain = programs_.make({.kind = Kind::scale, .precision = precision, .a = {v.operation}});
-    return v.negative ? -plain : plain;
-  }
-  // Under Equality::values 0 - v is -v.
-  Result minus(Result v, Precision precision) {
-    return programs_.add(programs_.zero(precision), -v, precision);
-  }
-
-  // Products and sums in binary64, rounded once if the kernel's precision is lower.
-  Result combination(const Node& node, int l) {
-    constexpr Precision inner = Precision::binary64;
-    std::optional<Result> total;
-    for (const Term& term : node.terms) {
-      const Result product = programs_.mul(rounded(term.coefficient.value, inner), lane(term.node, l), inner);
-      total = total ? programs_.add(*total, product, inner) : product;
-    }
-    Result result = *total;
-    if (scales(node.finish)) result = scale(result, inner);
-    if (node.finish == Finish::negated) result = minus(result, inner);
-    return node.finish == Finish::unrounded ? result : narrow(result);
-  }
-
-  Result narrow(Result v) {
-    if (precision_ == Precision::binary64) return v;
-    const Result plain = programs_.make({.kind = Kind::narrow, .precision = precision_, .a = {v.operation}});
-    return v.negative ? -plain : plain;
-  }
-
-  Programs& programs_;
-  const Network& network_;
-  Precision precision_;
-  const Numbering& numbering_;
-  Sequence<Sequence<std::optional<Result>>> known_;
+  Arithmetic inner() const { return {programs, Precision::binary64, inputs}; }
 };
 
 Program Programs::read(const Network& network, Precision precision, const Numbering& numbering) {
-  return ProgramReader(*this, network, precision, numbering).run();
+  Program program;
+  const Arithmetic arithmetic{*this, precision, numbering.inputs};
+  Interpreter(network, arithmetic).each_output([&](int place, Result result) {
+    const int output = number(numbering.outputs, place);
+    if (output >= program.size()) program.resize(static_cast<std::size_t>(output) + 1);
+    program[output] = result;
+  });
+  return program;
 }
 
 Result Programs::make(Operation operation) {
@@ -150,9 +77,14 @@ Result Programs::mul(double constant, Result a, Precision precision) {
   if (constant < 0) return -mul(-constant, a, precision);
   if (constant == 1) return a;
   if (equality_ == Equality::values && (constant == 0 || is_zero(a))) return zero(precision);
-  const Result product =
-      make({.kind = Kind::mul, .precision = precision, .constant = constant, .a = {a.operation}});
-  return a.negative ? -product : product;
+  return linear({.kind = Kind::mul, .precision = precision, .constant = constant}, a);
+}
+
+// Signs go through an operation with one operand.
+Result Programs::linear(Operation operation, Result a) {
+  operation.a = {a.operation};
+  const Result plain = make(operation);
+  return a.negative ? -plain : plain;
 }
 
 namespace {

@@ -13,7 +13,6 @@
 #include <map>
 #include <string>
 
-#include "gen/math/precision.h"
 #include "gen/network/network.h"
 
 namespace xfm::gen {
@@ -57,7 +56,7 @@ class Programs {
   std::string text(const Program& program) const;
 
  private:
-  friend class ProgramReader;
+  struct Arithmetic;
   enum class Kind { input, zero, add, mul, scale, narrow };
 
   struct Operation {
@@ -74,6 +73,7 @@ class Programs {
   bool is_zero(Result r) const { return operations_[r.operation].kind == Kind::zero; }
   Result add(Result a, Result b, Precision precision);
   Result mul(double constant, Result a, Precision precision);
+  Result linear(Operation operation, Result a);
   std::uint64_t hash(const Operation& operation) const;
   std::uint64_t with(std::uint64_t hash, Result r) const;
   std::string name(Result r, const Sequence<int>& names) const;

@@ -1,12 +1,15 @@
-#include "gen/order/bisection.h"
-
 #include <algorithm>
+
+#include "gen/order/schedule.h"
 
 namespace xfm::gen {
 namespace {
 
 using Nodes = Sequence<NodeId>;
 
+// Recursive bisection (Frigo 1999): the graph is cut in the middle between its inputs and its outputs, each
+// half is ordered by itself, and parts that share nothing are ordered one after the other. Whatever the
+// number of registers, the values in flight are within a constant factor of the fewest.
 class Bisection {
  public:
   Bisection(const Network& network, const Nodes& nodes)
@@ -23,12 +26,10 @@ class Bisection {
   Nodes result() { return std::move(order_); }
 
  private:
-  int& part(NodeId id) { return part_[id]; }
-
   // Marks these nodes as one set and returns its number.
   int mark(const Nodes& nodes) {
     ++marks_;
-    for (const NodeId id : nodes) part(id) = marks_;
+    for (const NodeId id : nodes) part_[id] = marks_;
     return marks_;
   }
 
@@ -52,14 +53,14 @@ class Bisection {
     const int whole = mark(nodes);
     Sequence<Nodes> components;
     for (const NodeId start : nodes) {
-      if (part(start) != whole) continue;
+      if (part_[start] != whole) continue;
       Nodes& component = components.emplace_back(Nodes{start});
-      part(start) = 0;
+      part_[start] = 0;
       for (int next = 0; next < component.size(); ++next) {
         for (const auto* neighbours : {&sources_, &users_}) {
           for (const NodeId id : (*neighbours)[component[next]]) {
-            if (part(id) != whole) continue;
-            part(id) = 0;
+            if (part_[id] != whole) continue;
+            part_[id] = 0;
             component.push_back(id);
           }
         }
@@ -78,14 +79,14 @@ class Bisection {
       const auto& neighbours = from_inputs ? sources_ : users_;
       const auto waits = [&](NodeId id) {
         return std::any_of(neighbours[id].begin(), neighbours[id].end(),
-                           [&](NodeId other) { return part(other) == whole; });
+                           [&](NodeId other) { return part_[other] == whole; });
       };
       const auto layer = std::stable_partition(left.begin(), left.end(), waits);
-      for (auto id = layer; id != left.end(); ++id) part(*id) = from_inputs ? near_inputs : near_outputs;
+      for (auto id = layer; id != left.end(); ++id) part_[*id] = from_inputs ? near_inputs : near_outputs;
       left.erase(layer, left.end());
     }
     std::pair<Nodes, Nodes> both;
-    for (const NodeId id : nodes) (part(id) == near_inputs ? both.first : both.second).push_back(id);
+    for (const NodeId id : nodes) (part_[id] == near_inputs ? both.first : both.second).push_back(id);
     return both;
   }
 

@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "gen/order/bisection.h"
-
 namespace xfm::gen {
 namespace {
 
@@ -15,13 +13,17 @@ class Scheduler {
         uses_(uses(network)),
         done_(uses_.size()),
         output_stage_(uses_.size()),
+        used_inside_(uses_.size()),
         stored_(network.stores().size()) {
     for (NodeId id = 0; id < size(); ++id) loads_ += live(id) && op(id) == Op::load ? 1 : 0;
     mark_output_stage();
   }
 
   Sequence<Step> run(Order order) {
-    for (const NodeId id : loads_of_output_stage()) write(id);
+    // Inputs that only the output stage uses: they too must be read before the first store.
+    for (NodeId id = 0; id < size(); ++id) {
+      if (live(id) && op(id) == Op::load && !used_inside_[id]) write(id);
+    }
     for (const NodeId id : order == Order::bisection ? bisected(network_, inner()) : by_start(order)) {
       write(id);
       if (loads_ == 0) finish_ready();
@@ -39,7 +41,7 @@ class Scheduler {
   Sequence<NodeId> inner() const {
     Sequence<NodeId> nodes;
     for (NodeId id = 0; id < size(); ++id) {
-      const bool on_demand = output_stage_[id] || op(id) == Op::load || op(id) == Op::twice;
+      const bool on_demand = output_stage_[id] || network_.node(id).is(Op::load, Op::twice);
       if (live(id) && !on_demand) nodes.push_back(id);
     }
     return nodes;
@@ -62,66 +64,41 @@ class Scheduler {
     return order;
   }
 
-  // Inputs that only the output stage uses: they too must be read before the first store.
-  Sequence<NodeId> loads_of_output_stage() const {
-    Sequence<bool> used(size());
-    for (NodeId id = 0; id < size(); ++id) {
-      if (!live(id) || output_stage_[id]) continue;
-      for (const NodeId operand : operands(network_.node(id))) used[operand] = true;
-    }
-    Sequence<NodeId> loads;
-    for (NodeId id = 0; id < size(); ++id) {
-      if (live(id) && op(id) == Op::load && !used[id]) loads.push_back(id);
-    }
-    return loads;
-  }
-
   // In cycles, typical of current processors. A linear combination converts, multiplies, adds up and converts
   // back.
   static int latency(const Node& node) {
-    switch (node.op) {
-      case Op::load:
-      case Op::twice:
-        return 0;
-      case Op::permute:
-      case Op::sign_flip:
-        return 1;
-      case Op::mul:
-      case Op::factor:
-        return 4;
-      case Op::combination:
-        return 12 + 3 * node.terms.size();
-      default:
-        return 3;
-    }
+    if (node.is(Op::load, Op::twice)) return 0;
+    if (node.is(Op::permute, Op::sign_flip)) return 1;
+    if (node.is(Op::mul, Op::factor)) return 4;
+    return node.is(Op::combination) ? 12 + 3 * node.terms.size() : 3;
   }
 
   // The output stage is the factor multiplications, and the sign flips, permutations and joins whose results
   // go nowhere else.
   void mark_output_stage() {
-    Sequence<bool> other(size());
     for (NodeId id = size() - 1; id >= 0; --id) {
       if (!live(id)) continue;
-      const bool joins = op(id) == Op::sign_flip || op(id) == Op::permute || is_join(id);
-      const bool ends = op(id) == Op::factor || op(id) == Op::minus || scales(network_.node(id).finish);
-      output_stage_[id] = ends || (joins && !other[id]);
+      const Node& node = network_.node(id);
+      const bool joins = node.is(Op::sign_flip, Op::permute) || is_join(node);
+      const bool ends = node.is(Op::factor, Op::minus) || scales(node.finish);
+      output_stage_[id] = ends || (joins && !used_inside_[id]);
       if (output_stage_[id]) continue;
-      for (const NodeId operand : operands(network_.node(id))) other[operand] = true;
+      for (const NodeId operand : operands(node)) used_inside_[operand] = true;
     }
   }
 
   // A join: P + i*Q or P - i*Q.
-  bool is_join(NodeId id) const {
-    const Node& node = network_.node(id);
-    return (node.op == Op::add || node.op == Op::sub) && (times_i(node.in[0]) || times_i(node.in[1]));
+  bool is_join(const Node& node) const {
+    return node.is_sum() && (times_i(node.in[0]) || times_i(node.in[1]));
   }
+
   // An exchange of the parts of complex numbers, or the sign flip after it unless constants carry that.
   bool times_i(NodeId id) const {
     const Node& node = network_.node(id);
     if (node.op == Op::sign_flip) return true;
     if (node.op != Op::permute || node.in[0] != node.in[1]) return false;
     for (int l = 0; l < network_.width(); ++l) {
-      if (node.lanes[l] % network_.width() != (l ^ 1)) return false;
+      if (network_.source(node, l).lane != (l ^ 1)) return false;
     }
     return true;
   }
@@ -156,7 +133,9 @@ class Scheduler {
 
   const Network& network_;
   Sequence<int> uses_;
-  Sequence<bool> done_, output_stage_, stored_;
+  Sequence<bool> done_, output_stage_;
+  Sequence<bool> used_inside_;  // by live operations that are not of the output stage
+  Sequence<bool> stored_;
   Sequence<Step> steps_;
   int loads_ = 0;
 };

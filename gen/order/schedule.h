@@ -1,7 +1,6 @@
 // The order in which a kernel's operations are written. It never changes an operation.
 #pragma once
 
-#include "gen/math/precision.h"
 #include "gen/network/network.h"
 
 namespace xfm::gen {
@@ -12,7 +11,7 @@ namespace xfm::gen {
 enum class Order {
   windowed,        ///< the recipe's stages, smoothed by earliest start
   earliest_start,  ///< every operation as soon as possible
-  bisection,       ///< few values in flight (bisection.h)
+  bisection,       ///< few values in flight, whatever the number of registers (bisection.cpp)
 };
 
 /// For scalar networks: plain operations run short of registers, chains of linear combinations wait for each
@@ -30,5 +29,8 @@ struct Step {
 /// The live operations in this order: loads at their first use, all of them before the first store, and each
 /// output finished and stored as soon as its operands are ready and the last load is done.
 Sequence<Step> schedule(const Network& network, Order order);
+
+/// The given nodes of a network, in the order of bisection.
+Sequence<NodeId> bisected(const Network& network, const Sequence<NodeId>& nodes);
 
 }  // namespace xfm::gen

@@ -13,13 +13,12 @@ bool is_quarter_turn(const ComplexConstant& w) {
 
 bool weighed_alike(const Elements& elements) {
   const ComplexConstant& first = elements.front().weight;
-  return std::all_of(elements.begin(), elements.end(),
-                     [&](const Element& e) { return e.weight.re == first.re && e.weight.im == first.im; });
+  return std::ranges::all_of(
+      elements, [&](const Element& e) { return e.weight.re == first.re && e.weight.im == first.im; });
 }
 
 bool all_real(const Elements& elements) {
-  return std::all_of(elements.begin(), elements.end(),
-                     [](const Element& e) { return e.weight.im.is_zero(); });
+  return std::ranges::all_of(elements, [](const Element& e) { return e.weight.im.is_zero(); });
 }
 
 // A quarter turn only exchanges parts and changes signs; nothing is computed.
@@ -46,11 +45,9 @@ Element weighted(Element e, const ComplexConstant& w) {
 
 Complex Lanes::gather(Elements elements, Form form) {
   // Quarter turns need no product, even if they differ from lane to lane.
-  const bool turns = std::all_of(elements.begin(), elements.end(), [](const Element& e) {
-    return !e.in_memory() && is_quarter_turn(e.weight);
-  });
-  if (turns && !weighed_alike(elements))
-    std::transform(elements.begin(), elements.end(), elements.begin(), turned);
+  const bool turns = std::ranges::all_of(
+      elements, [](const Element& e) { return !e.in_memory() && is_quarter_turn(e.weight); });
+  if (turns && !weighed_alike(elements)) std::ranges::transform(elements, elements.begin(), turned);
   const bool memory = elements.front().in_memory();
   if (form == Form::planar)
     return weigh_planar(elements, memory ? load_planar(elements) : gather_planar(elements));
@@ -64,18 +61,13 @@ Elements Lanes::scatter(const Complex& z, int count, Form form) {
   Elements elements(count);
   const Value joined = form == Form::interleaved && !z.q.absent() ? z.p + times_i(z.q) : z.p;
   for (int l = 0; l < count; ++l) {
-    if (form == Form::planar) {
-      elements[l].re = {z.p, l};
-      elements[l].im = {z.q, l};
-    } else {
-      elements[l].re = {joined, 2 * l};
-      elements[l].im = {joined, 2 * l + 1};
-    }
+    elements[l] = form == Form::planar ? Element{.re = {z.p, l}, .im = {z.q, l}}
+                                       : Element{.re = {joined, 2 * l}, .im = {joined, 2 * l + 1}};
   }
   return elements;
 }
 
-// Exchanges the parts of every complex number in an interleaved register.
+// Exchanges the parts of every complex number.
 Value Lanes::with_parts_exchanged(Value z) {
   PerLane picks(width());
   for (int l = 0; l < width(); ++l) picks[l] = l ^ 1;
@@ -108,8 +100,6 @@ Complex Lanes::weigh_planar(const Elements& elements, const Complex& z) {
 // c*(re, im) + s*(-im, re), with the sign in the constants. Idle lanes repeat the last number's constants.
 Value Lanes::weigh_interleaved(const Elements& elements, Value z) {
   const ComplexConstant& first = elements.front().weight;
-  if (std::all_of(elements.begin(), elements.end(), [](const Element& e) { return e.weight.is_one(); }))
-    return z;
   if (weighed_alike(elements) && is_quarter_turn(first)) {
     const Value turned = first.im.is_zero() ? z : times_i(z);
     return first.re.is_negative() || first.im.is_negative() ? -turned : turned;
@@ -178,7 +168,7 @@ Value Lanes::gather_parts(const Sequence<Part>& parts) {
 void Lanes::store(const Elements& elements) {
   std::map<std::pair<NodeId, NodeId>, PerLane> groups;
   for (int k = 0; k < elements.size(); ++k) {
-    const auto& [re, im] = std::pair(elements[k].re, elements[k].im);
+    const Part &re = elements[k].re, &im = elements[k].im;
     if (re.value.negative || im.value.negative) throw std::logic_error("an output would need a negation");
     PerLane& outputs = groups.try_emplace({re.value.node, im.value.node}, width(), -1).first->second;
     outputs[re.value.node == im.value.node ? re.lane / 2 : re.lane] = k;
@@ -203,7 +193,7 @@ void Lanes::store_register(const PerLane& outputs, int first, NodeId re, NodeId 
     picks[l] = l % 2 * width() + instance;
     if (output >= 0) scalars[l] = 2 * output + l % 2;
   }
-  if (std::all_of(scalars.begin(), scalars.end(), [](int s) { return s < 0; })) return;
+  if (std::ranges::all_of(scalars, [](int s) { return s < 0; })) return;
   network_.store(scaled(re == im ? re : permuter_.permuted(re, im, picks)), scalars);
 }
 

@@ -59,6 +59,9 @@ class Lanes {
   /// The first `count` instances of a value. In the interleaved form p + i*q is formed here.
   Elements scatter(const Complex& z, int count, Form form);
 
+  /// i times the complex numbers of an interleaved register.
+  Value times_i(Value z);
+
   /// Stores elements[k] times the factor as complex number k of the destination.
   void store(const Elements& elements);
 
@@ -70,7 +73,6 @@ class Lanes {
   Complex weigh_planar(const Elements& elements, const Complex& z);
   Value weigh_interleaved(const Elements& elements, Value z);
   Value with_parts_exchanged(Value z);
-  Value times_i(Value z);
   void store_register(const PerLane& outputs, int first, NodeId re, NodeId im);
 
   Network& network_;

@@ -271,7 +271,7 @@ class Pairing {
   void store(int s) {
     const Store& store = old_.stores()[s];
     if (store.node < 0) {
-      made_->repeat(store, {});
+      made_->store_zero(store.lanes[0]);
     } else if (const auto with = partner(s, true)) {
       const PerLane lanes = concatenated(store.lanes, old_.stores()[*with].lanes);
       made_->store(value(held(store.node).node), lanes);

@@ -6,7 +6,7 @@
 
 #include <memory>
 
-#include "gen/math/precision.h"
+#include "gen/math/constant.h"
 #include "gen/network/network.h"
 
 namespace xfm::gen {

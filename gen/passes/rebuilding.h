@@ -30,7 +30,13 @@ class Rebuilding {
   virtual Value make(NodeId id) = 0;
 
   virtual void finish() {
-    for (const Store& store : old_.stores()) made_->repeat(store, value(store.node));
+    for (const Store& store : old_.stores()) {
+      if (store.node < 0) {
+        made_->store_zero(store.lanes[0]);
+      } else {
+        made_->store(value(store.node), store.lanes);
+      }
+    }
     for (const Value& output : old_.outputs()) made_->output(value(output));
   }
 

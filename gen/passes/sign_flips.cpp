@@ -17,12 +17,10 @@ class Absorbing : public Rebuilding {
     return of.op == Op::sign_flip && carries(of.in[0]) ? flipped(of.in[0], of.lanes) : copy(of);
   }
 
-  int source(int pick) const { return pick % old_.width(); }
-
   // Every lane of one value, in another order.
   bool permutes(const Node& of) const {
     Sequence<bool> seen(old_.width());
-    for (const int pick : of.lanes) seen[source(pick)] = true;
+    for (int l = 0; l < seen.size(); ++l) seen[old_.source(of, l).lane] = true;
     return of.in[0] == of.in[1] && std::all_of(seen.begin(), seen.end(), [](bool s) { return s; });
   }
 
@@ -40,7 +38,7 @@ class Absorbing : public Rebuilding {
     if (of.op == Op::mul) return made_->mul(flipped(of, signs), value(of.in[0]));
     PerLane sources = signs;
     if (of.op == Op::permute) {
-      for (int l = 0; l < signs.size(); ++l) sources[source(of.lanes[l])] = signs[l];
+      for (int l = 0; l < signs.size(); ++l) sources[old_.source(of, l).lane] = signs[l];
     }
     // One by one: nodes are made in this order.
     const Value a = flipped(of.in[0], sources), b = flipped(of.in[1], sources);

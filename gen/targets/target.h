@@ -6,7 +6,6 @@
 #include <span>
 #include <string_view>
 
-#include "gen/math/precision.h"
 #include "gen/network/network.h"
 
 namespace xfm::gen {

@@ -7,7 +7,7 @@
 #include <set>
 #include <stdexcept>
 
-#include "gen/network/count.h"
+#include "gen/network/check.h"
 #include "gen/order/schedule.h"
 
 namespace xfm::gen {
@@ -226,11 +226,8 @@ class Body {
     for (const Term& term : node.terms) {
       const bool negative = term.coefficient.is_negative();
       const Constant c = magnitude(term.coefficient);
-      if (sum.empty()) {
-        sum = negative ? "-" : "";
-      } else {
-        sum += negative ? " - " : " + ";
-      }
+      if (!sum.empty()) sum += negative ? " - " : " + ";
+      if (sum.empty() && negative) sum = "-";
       const std::string operand = fmt::format("xfm64f{{{}}}", var(term.node));
       sum += c.is_one() ? operand : fmt::format("{} * {}", use(c), operand);
     }
@@ -292,15 +289,13 @@ class Body {
   SharedConstants& shared_;
 };
 
-// 1/N and 1/sqrt(N): the nearest numbers in binary32; in binary64 the quotients by N and by the rounded root.
+// 1/N and 1/sqrt(N), the nearest numbers; but in binary64 the second is the quotient by the rounded root.
 std::string factors(const Kernel& kernel, const Target& target) {
   const Precision precision = kernel.type.precision;
-  const Wide by_n =
-      precision == Precision::binary32 ? Wide(1) / Wide(kernel.length) : Wide(1.0 / kernel.length);
-  const Wide by_root = precision == Precision::binary32
-                           ? Wide(1) / wide_sqrt(Wide(kernel.length))
-                           : Wide(1.0 / std::sqrt(static_cast<double>(kernel.length)));
-  const auto carried = [&](bool carries) { return literal(carries ? by_n : Wide(1), precision); };
+  const Wide n(kernel.length);
+  const Wide by_root =
+      precision == Precision::binary32 ? 1 / wide_sqrt(n) : Wide(1 / std::sqrt(static_cast<double>(n)));
+  const auto carried = [&](bool carries) { return literal(carries ? 1 / n : Wide(1), precision); };
   return fmt::format("constexpr Factors<{}, {}> factors_{}({}, {}, {});\n", kernel.type.scalar(),
                      factor_type(kernel, target).lanes, kernel.type.suffix(),
                      carried(kernel.scaling != Scaling::inverse), carried(kernel.scaling != Scaling::forward),
@@ -321,26 +316,22 @@ std::string heading(const Kernel& kernel) {
       kernel.length, kernel.type.suffix());
 }
 
-std::string factor_load(const Kernel& kernel, const Type& type) {
-  const std::string factors = fmt::format("factors_{}.of(flag)", kernel.type.suffix());
-  return fmt::format("  const {} s = {};\n", type.name(),
-                     type.scalar() ? "*" + factors : "Aligned::load(" + factors + ")");
-}
-
-std::string entry_text(const Kernel& kernel, const Target& target) {
-  return "  if (const xfmStatus status = check(src, dst, flag); status != xfmStsOk) return status;\n" +
-         factor_load(kernel, factor_type(kernel, target)) +
-         fmt::format(
-             "  const auto* const x = reinterpret_cast<const {0}*>(src);\n"
-             "  auto* const y = reinterpret_cast<{0}*>(dst);\n",
-             kernel.type.scalar());
+std::string entry_text(const Kernel& kernel, const Type& factor_type) {
+  const std::string factor = "factors_" + kernel.type.suffix() + ".of(flag)";
+  return fmt::format(
+      "  if (const xfmStatus status = check(src, dst, flag); status != xfmStsOk) return status;\n"
+      "  const {0} s = {1};\n"
+      "  const auto* const x = reinterpret_cast<const {2}*>(src);\n"
+      "  auto* const y = reinterpret_cast<{2}*>(dst);\n",
+      factor_type.name(), factor_type.scalar() ? "*" + factor : "Aligned::load(" + factor + ")",
+      kernel.type.scalar());
 }
 
 // A kernel is one function; where unaligned accesses cost more, a packed one is a body that two functions
 // share, one for aligned and one for unaligned memory.
 std::string emit_kernel(const Kernel& kernel, const Target& target, SharedConstants& shared) {
   Body body(kernel, target, shared);
-  const std::string inner = " {\n" + entry_text(kernel, target) + body.text() + "  return xfmStsOk;\n}\n\n";
+  const std::string inner = " {\n" + entry_text(kernel, factor_type(kernel, target)) + body.text() + "  return xfmStsOk;\n}\n\n";
   const std::string head =
       heading(kernel) + "namespace {\n" + factors(kernel, target) + "}\n" + body.declarations() + "\n";
   if (!kernel.packed() || !target.unaligned_variants)

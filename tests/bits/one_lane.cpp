@@ -3,7 +3,7 @@
 // does not.
 #include "gen/algorithms/lines.h"
 #include "gen/passes/passes.h"
-#include "src/dft/recipe/choices.h"
+#include "src/dft/recipe/table.h"
 #include "tests/bits/generated.h"
 #include "tests/support/kernel_test.h"
 #include "tools/promises.h"
@@ -20,14 +20,11 @@ void store(gen::Network& network, gen::Value v, int scalar) {
 std::unique_ptr<gen::Network> on_one_lane(const Kernel& kernel, gen::Direction direction) {
   auto network = std::make_unique<gen::Network>(1);
   gen::Lanes lanes(*network, gen::baseline());
-  const dft::Choices chosen(kernel.length, gen::Precision::binary32);
-  const gen::Choices choices = chosen.open();
+  const dft::Choices chosen{kernel.length, gen::Precision::binary32};
   const gen::Tree tree = chosen.spelled_out(gen::parse_tree(kernel.tree));
-  gen::Line x;
-  for (int n = 0; n < kernel.length; ++n) x.push_back(gen::source_element(n));
-  const gen::Transform blocks(gen::Rounding::each, choices);
-  const gen::Lines outputs =
-      gen::LineTransform(lanes, gen::Form::planar, blocks, choices).run(tree, {x}, direction);
+  const gen::Line x = gen::tabulated(kernel.length, gen::source_element);
+  gen::LineTransform transform(lanes, gen::Form::planar, chosen.open());
+  const gen::Lines outputs = transform.run(tree, {x}, direction);
   int scalar = 0;
   for (const gen::Element& e : outputs.front()) {
     store(*network, e.re.value, scalar++);

@@ -1,10 +1,9 @@
 // The order of bisection holds every node, behind its operands.
-#include "gen/order/bisection.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
 
+#include "gen/order/schedule.h"
 #include "tests/generator/drafts.h"
 
 namespace xfm::gen {

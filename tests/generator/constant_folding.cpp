@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "gen/network/count.h"
+#include "gen/network/check.h"
 #include "tests/generator/small_networks.h"
 
 namespace xfm::gen {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <numeric>
 #include <set>
 #include <stdexcept>
 
@@ -23,7 +24,7 @@ TEST(Number, ModuloIsNeverNegative) {
 TEST(Number, Inverses) {
   for (int n = 1; n <= 2 * longest; ++n) {
     for (int a = 1; a <= n; ++a) {
-      if (gcd(a, n) == 1) {
+      if (std::gcd(a, n) == 1) {
         ASSERT_EQ(modulo(1LL * a * inverse_modulo(a, n), n), 1 % n) << a << " modulo " << n;
       } else {
         ASSERT_THROW(inverse_modulo(a, n), std::invalid_argument) << a << " modulo " << n;
@@ -68,7 +69,7 @@ void for_each_map(Check check) {
   for (int a = 1; a <= longest; ++a) {
     for (int b = 1; a * b <= longest; ++b) {
       check(TwoStages{a, b, false});
-      if (gcd(a, b) == 1) check(TwoStages{a, b, true});
+      if (std::gcd(a, b) == 1) check(TwoStages{a, b, true});
     }
   }
 }

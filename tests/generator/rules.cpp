@@ -115,10 +115,8 @@ TEST(RaderArguments, InTheirFourShapes) {
 
 TEST(SpelledOut, NumbersBecomeTreesDownToTheBlocks) {
   const auto spelled = [](const char* text) {
-    return to_string(spelled_out(parse_tree(text), [](int number) -> std::optional<Tree> {
-      if (number == 7) return parse_tree("RS(6)");
-      if (number == 6) return parse_tree("PFA(2,3)");
-      return std::nullopt;
+    return to_string(spelled_out(parse_tree(text), [](int number) -> std::string {
+      return number == 7 ? "RS(6)" : number == 6 ? "PFA(2,3)" : "";
     }));
   };
   EXPECT_EQ(spelled("7"), "RS(PFA(2,3))");
@@ -137,7 +135,6 @@ TEST(UsesRule, AnywhereInTheTree) {
 
 TEST(Stages, AreNestedToTheRight) {
   const Tree tree = parse_tree("CT(4,2,3)");
-  EXPECT_EQ(to_string(first_of(tree)), "4");
   EXPECT_EQ(to_string(rest_of(tree)), "CT(2,3)");
   EXPECT_EQ(to_string(rest_of(rest_of(tree))), "3");
 }

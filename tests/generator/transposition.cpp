@@ -41,18 +41,18 @@ TEST(Transposition, OfRandomNetworks) {
     }
     const Sequence<Value> chosen = {values.back(), values[inputs + 2], -values[values.size() - 2]};
 
-    Network transposed(1);
-    Transposition transposition(network);
+    Network other(1);
+    Sequence<WeightedOutput> weights;
     for (int k = 0; k < outputs; ++k)
-      transposition.send(chosen[k], {transposed.load(k), transposed.load(outputs + k)});
+      weights.push_back({chosen[k], {other.load(k), other.load(outputs + k)}});
     Sequence<Value> arrived[2];
-    for (const Complex& z : transposition.run(inputs)) {
+    for (const Complex& z : transposed(network, weights, inputs)) {
       arrived[0].push_back(z.p);
       arrived[1].push_back(z.q);
     }
     const auto forward = matrix(network, chosen, inputs);
     for (const int half : {0, 1}) {
-      const auto backward = matrix(transposed, arrived[half], 2 * outputs);
+      const auto backward = matrix(other, arrived[half], 2 * outputs);
       for (int n = 0; n < inputs; ++n) {
         for (int k = 0; k < outputs; ++k) {
           ASSERT_EQ(backward[n][half * outputs + k], forward[k][n]) << "round " << round;
@@ -66,13 +66,10 @@ TEST(Transposition, OfRandomNetworks) {
 TEST(Transposition, AbsentOutputsSendNothing) {
   Network network(1);
   const Value x = network.load(0);
-  Network transposed(1);
-  Transposition transposition(network);
-  transposition.send(Value{}, {transposed.load(0), {}});
-  transposition.send(x, {transposed.load(1), {}});
-  const auto arrived = transposition.run(2);
+  Network other(1);
+  const auto arrived = transposed(network, {{Value{}, {other.load(0), {}}}, {x, {other.load(1), {}}}}, 2);
   ASSERT_EQ(arrived.size(), 2);
-  EXPECT_EQ(arrived[0].p, transposed.load(1));
+  EXPECT_EQ(arrived[0].p, other.load(1));
   EXPECT_TRUE(arrived[0].q.absent());
   EXPECT_TRUE(arrived[1].p.absent());
 }
@@ -80,10 +77,8 @@ TEST(Transposition, AbsentOutputsSendNothing) {
 TEST(Transposition, OnlyOfScalarNetworks) {
   Network network(2);
   const Value v = network.flip_signs(network.load({0, 1}), {1, 0});
-  Network transposed(2);
-  Transposition transposition(network);
-  transposition.send(v, {transposed.load({0, 1}), {}});
-  EXPECT_THROW(transposition.run(1), std::logic_error);
+  Network other(2);
+  EXPECT_THROW(transposed(network, {{v, {other.load({0, 1}), {}}}}, 1), std::logic_error);
 }
 
 }  // namespace

@@ -6,7 +6,7 @@
 #include <map>
 #include <set>
 
-#include "gen/network/count.h"
+#include "gen/network/check.h"
 #include "tests/bits/generated.h"
 #include "tests/golden/digest.h"
 #include "tests/golden/table.h"

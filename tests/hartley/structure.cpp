@@ -1,4 +1,4 @@
-// The networks of all rows have the structure that their rows claim: input stage, closed groups of inputs,
+// The networks of all lengths have the structure that is claimed: input stage, closed groups of inputs,
 // output stage.
 #include <gtest/gtest.h>
 
@@ -7,8 +7,9 @@
 #include <set>
 
 #include "gen/math/number.h"
+#include "gen/math/rows.h"
 #include "src/hartley/recipe/hartley.h"
-#include "src/hartley/recipe/table.h"
+#include "tests/hartley/claims.h"
 
 namespace xfm::hartley {
 namespace {
@@ -22,8 +23,8 @@ Set one(int j) { return Set{1} << static_cast<unsigned>(j); }
 
 class Structure {
  public:
-  Structure(const gen::Network& draft, const Row& row)
-      : draft_(draft), row_(row), uses_(uses(draft)), supports_(uses_.size()) {
+  Structure(const gen::Network& draft, const Claim& claim)
+      : draft_(draft), claim_(claim), uses_(uses(draft)), supports_(uses_.size()) {
     for (NodeId id = 0; id < uses_.size(); ++id) {
       if (uses_[id] == 0) continue;
       const Node& of = node(id);
@@ -40,8 +41,8 @@ class Structure {
       for (const NodeId operand : operands(node(id))) {
         if (node(operand).op != Op::load) continue;
         const int j = node(operand).lanes[0];
-        if (j == 0 || 2 * j == row_.length) continue;
-        if (supports_[id] != (one(j) | one(row_.length - j))) return false;
+        if (j == 0 || 2 * j == claim_.length) continue;
+        if (supports_[id] != (one(j) | one(claim_.length - j))) return false;
       }
     }
     return true;
@@ -50,15 +51,15 @@ class Structure {
   // Some values depend on m inputs each, and their sets partition the inputs: all of them, for m = N-1 all
   // but x[0], for a prime N and m dividing N-1 the same.
   bool closes(int m) const {
-    const int n = row_.length;
+    const int n = claim_.length;
     const Set all = n == 64 ? ~Set{0} : one(n) - 1;
     const bool without_first = n % m != 0;
-    if (m == 2 && row_.input == Input::fold && n % 2 == 1) return covers(all & ~Set{1}, m);
+    if (m == 2 && claim_.input == Input::fold && n % 2 == 1) return covers(all & ~Set{1}, m);
     return covers(without_first ? all & ~Set{1} : all, m);
   }
 
   bool ends_with(Output output) const {
-    const int n = row_.length;
+    const int n = claim_.length;
     switch (output) {
       case Output::conjugate:
         return every(n / 2 + n % 2, [&](int k) { return k == 0 || paired(k, n - k); });
@@ -100,7 +101,7 @@ class Structure {
 
   // Groups of r outputs, all but one of each in pairs.
   bool ends_with_radix() const {
-    const int n = row_.length, r = row_.radix;
+    const int n = claim_.length, r = claim_.radix;
     gen::Sequence<gen::Sequence<int>> groups;
     if (n % r == 0) {
       for (int k = 0; k < n / r; ++k) {
@@ -123,7 +124,7 @@ class Structure {
   }
 
   const gen::Network& draft_;
-  const Row& row_;
+  const Claim& claim_;
   gen::Sequence<int> uses_;
   gen::Sequence<Set> supports_;
   std::set<Set> values_;
@@ -131,8 +132,8 @@ class Structure {
 
 class HartleyStructure : public testing::TestWithParam<int> {};
 
-TEST_P(HartleyStructure, IsThatOfTheRow) {
-  const Row& of = row(GetParam());
+TEST_P(HartleyStructure, IsAsClaimed) {
+  const Claim& of = gen::row_of(claims, GetParam());
   const auto network = draft(of.length);
   const Structure structure(*network, of);
   EXPECT_TRUE(of.input != Input::fold || structure.folds()) << "inputs are used outside the fold";
@@ -142,14 +143,13 @@ TEST_P(HartleyStructure, IsThatOfTheRow) {
 
 INSTANTIATE_TEST_SUITE_P(All, HartleyStructure, testing::Range(2, 65));
 
-// The checks see a network that is not the row's: that of another plan.
+// The checks see a network that is not the claimed one: that of another plan.
 TEST(HartleyStructure, OtherNetworksAreSeen) {
   const auto forward = draft(8);
-  Row folded = row(8);
-  folded.input = Input::fold;
-  EXPECT_FALSE(Structure(*forward, folded).folds());
-  EXPECT_FALSE(Structure(*forward, row(8)).closes(3));
-  EXPECT_FALSE(Structure(*forward, row(8)).ends_with(Output::half));
+  const Claim& claim = gen::row_of(claims, 8);
+  EXPECT_FALSE(Structure(*forward, claim).folds());
+  EXPECT_FALSE(Structure(*forward, claim).closes(3));
+  EXPECT_FALSE(Structure(*forward, claim).ends_with(Output::half));
 }
 
 }  // namespace

@@ -1,5 +1,4 @@
-#include "src/dft/recipe/choices.h"
-
+#include <functional>
 #include <limits>
 
 #include "gen/math/number.h"
@@ -77,43 +76,40 @@ constexpr ChosenOrder orders[] = {
 }  // namespace
 
 gen::Tree Choices::spelled_out(const gen::Tree& tree) const {
-  return gen::spelled_out(tree, [&](int number) -> std::optional<gen::Tree> {
-    if (gen::find_row(blocks, [&](int block) { return block == number; }) != nullptr) return std::nullopt;
-    const Breakdown& inner = precision_ == binary32 ? row(number - 1).binary32 : row(number - 1).binary64;
-    return gen::Tree{"RS", 0, {gen::parse_tree(inner.tree)}};
+  return gen::spelled_out(tree, [&](int number) -> std::string {
+    if (gen::find_row(blocks, [&](int block) { return block == number; }) != nullptr) return "";
+    return std::string("RS(") + breakdown(precision, number - 1).tree + ")";
   });
 }
 
 std::optional<Rounding> Choices::scalar() const {
-  const auto* const found = gen::find_row(scalars, [&](const Scalar& row) { return row.length == length_; });
+  const auto* const found = gen::find_row(scalars, [&](const Scalar& row) { return row.length == length; });
   return found == nullptr ? std::nullopt : std::optional(found->rounding);
 }
 
 gen::Choices Choices::open() const {
-  return {.root = [own = *this](int prime) { return own.root(prime); },
-          .five = [own = *this](bool real, int instance,
-                                bool transposed) { return own.five(real, instance, transposed); }};
+  return {std::bind_front(&Choices::root, *this), std::bind_front(&Choices::five, *this)};
 }
 
 gen::Root Choices::root(int prime) const {
   const auto* const found = gen::find_row(roots_binary32, [&](const ChosenRoot& row) {
-    return precision_ == binary32 && row.length == length_ && row.prime == prime;
+    return precision == binary32 && row.length == length && row.prime == prime;
   });
   return found == nullptr ? gen::Root{gen::smallest_primitive_root(prime), 0} : found->root;
 }
 
 Five Choices::five(bool real, int instance, bool transposed) const {
   const auto* const found = gen::find_row(fives, [&](const ChosenFive& row) {
-    return row.length == length_ && row.precision == precision_ && (real || row.of_complex_too) &&
+    return row.length == length && row.precision == precision && (real || row.of_complex_too) &&
            (!transposed || row.of_transposed_too) && instance < row.instances;
   });
   if (found != nullptr) return found->form;
-  return precision_ == binary32 ? Five::inner_first : Five::outer_first;
+  return precision == binary32 ? Five::inner_first : Five::outer_first;
 }
 
 Order Choices::order() const {
   const auto* const found = gen::find_row(
-      orders, [&](const ChosenOrder& row) { return row.length == length_ && row.precision == precision_; });
+      orders, [&](const ChosenOrder& row) { return row.length == length && row.precision == precision; });
   return found == nullptr ? Order::windowed : found->order;
 }
 

@@ -4,7 +4,6 @@
 
 #include "gen/algorithms/lines.h"
 #include "gen/passes/passes.h"
-#include "src/dft/recipe/choices.h"
 #include "src/dft/recipe/table.h"
 
 namespace xfm::dft {
@@ -35,21 +34,16 @@ struct Recipe {
 std::unique_ptr<Network> joined_network(const Recipe& recipe) {
   constexpr int parts = 2;
   auto network = std::make_unique<Network>(parts);
-  gen::Permuter permuter(*network, recipe.target);
+  gen::Lanes lanes(*network, recipe.target);
   const int length = recipe.length;
   const auto place = [](int n) { return gen::PerLane{parts * n, parts * n + 1}; };
   const auto store = [&](int k, Value v) { network->store(network->factor(v), place(k)); };
-  const auto times_i = [&](Value v) {
-    const Value exchanged{network.get(), permuter.permuted(v.node, v.node, {1, 0}), v.negative};
-    return network->flip_signs(exchanged, {1, 0});
-  };
-  Points x;
-  for (int n = 0; n < length; ++n) x.push_back({network->load(place(n)), {}});
+  const Points x = gen::tabulated(length, [&](int n) { return Complex{network->load(place(n)), {}}; });
   const Points out = gen::Transform(Rounding::each, recipe.choices.open()).run(recipe.tree, x);
   store(0, out[0].p);
   for (int k = 1; 2 * k < length; ++k) {
     const auto [p, q] = out[k];
-    const Value i_q = times_i(recipe.direction == Direction::forward ? q : -q);
+    const Value i_q = lanes.times_i(recipe.direction == Direction::forward ? q : -q);
     store(k, p + i_q);
     store(length - k, p - i_q);
   }
@@ -59,22 +53,14 @@ std::unique_ptr<Network> joined_network(const Recipe& recipe) {
   return network;
 }
 
+// Lanes in one of the two forms, or scalar code in a single lane.
 std::unique_ptr<Network> packed_network(const Recipe& recipe, int width, Form form, Rounding rounding) {
   auto network = std::make_unique<Network>(width, rounding);
   gen::Lanes lanes(*network, recipe.target);
-  const gen::Choices choices = recipe.choices.open();
-  gen::Line x;
-  for (int n = 0; n < recipe.length; ++n) x.push_back(gen::source_element(n));
-  const gen::Transform blocks(Rounding::each, choices);
-  gen::LineTransform transform(lanes, form, blocks, choices);
+  gen::LineTransform transform(lanes, form, recipe.choices.open());
+  const gen::Line x = gen::tabulated(recipe.length, gen::source_element);
   lanes.store(transform.run(recipe.tree, {x}, recipe.direction).front());
-  return network;
-}
-
-// Lanes in one of the two forms, with sign flips absorbed.
-std::unique_ptr<Network> lanes_network(const Recipe& recipe, Form form) {
-  const int width = recipe.target.lanes(Precision::binary32);
-  return gen::absorb_sign_flips(*packed_network(recipe, width, form, Rounding::each));
+  return width == 1 ? std::move(network) : gen::absorb_sign_flips(*network);
 }
 
 // dst[k] = sum over n of src[n] * exp(-+2 pi i n k/N), on interleaved parts.
@@ -98,9 +84,9 @@ gen::Definition definition(Direction direction) {
 gen::Design design(int length, Precision precision, Direction direction, const std::string& tree,
                    const Target& target) {
   const bool forward = direction == Direction::forward, single = precision == Precision::binary32;
-  const Breakdown& breakdown = single ? row(length).binary32 : row(length).binary64;
-  const std::string text = tree.empty() ? breakdown.tree : tree;
-  const Choices choices(length, precision);
+  const Breakdown& row = breakdown(precision, length);
+  const std::string text = tree.empty() ? row.tree : tree;
+  const Choices choices{length, precision};
   const Recipe recipe{length, choices.spelled_out(gen::parse_tree(text)), direction, choices, target};
   gen::check_length(recipe.tree, length);
   std::unique_ptr<Network> network, other_form;
@@ -109,8 +95,9 @@ gen::Design design(int length, Precision precision, Direction direction, const s
   } else if (const auto rounding = choices.scalar()) {
     network = packed_network(recipe, 1, Form::planar, *rounding);
   } else {
-    network = lanes_network(recipe, Form::interleaved);
-    other_form = lanes_network(recipe, Form::planar);
+    const int width = target.lanes(precision);
+    network = packed_network(recipe, width, Form::interleaved, Rounding::each);
+    other_form = packed_network(recipe, width, Form::planar, Rounding::each);
     if (gen::instructions(*other_form) < gen::instructions(*network)) std::swap(network, other_form);
   }
   for (auto* const form : {&network, &other_form}) {
@@ -123,8 +110,8 @@ gen::Design design(int length, Precision precision, Direction direction, const s
                      .read = 2 * length,
                      .written = 2 * length,
                      .tree = text,
-                     .adds = breakdown.adds,
-                     .mults = breakdown.mults,
+                     .adds = row.adds,
+                     .mults = row.mults,
                      .network = std::move(network),
                      .order = choices.order()},
           .definition = definition(direction),

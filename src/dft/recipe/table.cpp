@@ -75,8 +75,9 @@ constexpr Row rows[] = {
 
 }  // namespace
 
-std::span<const Row> table() { return rows; }
-
-const Row& row(int length) { return gen::row_of(rows, length); }
+const Breakdown& breakdown(gen::Precision precision, int length) {
+  const Row& row = gen::row_of(rows, length);
+  return precision == gen::Precision::binary32 ? row.binary32 : row.binary64;
+}
 
 }  // namespace xfm::dft

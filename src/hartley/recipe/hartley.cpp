@@ -1,6 +1,6 @@
 #include "src/hartley/recipe/hartley.h"
 
-#include <numeric>
+#include <functional>
 
 #include "gen/algorithms/transform.h"
 #include "gen/passes/passes.h"
@@ -17,14 +17,6 @@ using gen::Tree;
 using gen::Wide;
 
 const gen::Transform transform(gen::Rounding::combination);
-
-// Numbers that stand for plans are spelled out.
-Tree spelled_out(const Tree& tree) {
-  return gen::spelled_out(tree, [](int number) -> std::optional<Tree> {
-    const char* const plan = plan_of(number);
-    return plan == nullptr ? std::nullopt : std::optional(gen::parse_tree(plan));
-  });
-}
 
 // H[k] = Re X[k] - Im X[k], and H[N-k] = Re X[k] + Im X[k].
 std::unique_ptr<Network> forward(const Tree& plan, int length) {
@@ -43,24 +35,16 @@ std::unique_ptr<Network> forward(const Tree& plan, int length) {
 // H[k] = x0 + sum_j (x[j] + x[N-j]) cos(2 pi jk/N) + (x[j] - x[N-j]) sin(2 pi jk/N), j < N/2 (and +-x[N/2]
 // for even N): an inverse real transform of the bins x[j] + x[N-j], x[N-j] - x[j].
 std::unique_ptr<Network> folded(const Tree& plan, int length) {
-  Network there(1, gen::Rounding::combination);
-  const Points bins = transform.run(plan, gen::samples(there, length));
   auto draft = std::make_unique<Network>(1, gen::Rounding::combination);
   const Points x = gen::samples(*draft, length);
-  gen::Transposition transposition(there);
+  Points re, im;
   for (int j = 0; 2 * j <= length; ++j) {
     const int mirror = (length - j) % length;
-    transposition.send(bins[j].p, mirror == j ? x[j] : x[j] + x[mirror]);
-    if (mirror != j) transposition.send(bins[j].q, x[mirror] - x[j]);
+    re.push_back(mirror == j ? x[j] : x[j] + x[mirror]);
+    im.push_back(mirror == j ? Complex{} : x[mirror] - x[j]);
   }
-  for (const Complex& output : transposition.run(length)) draft->output(output.p);
+  for (const Complex& output : transform.from_bins(plan, re, im)) draft->output(output.p);
   return draft;
-}
-
-std::unique_ptr<Network> finished(Products products, const Network& draft) {
-  if (products == Products::merged_in_pairs) return gen::merged_pairs(draft);
-  std::unique_ptr<Network> merged = gen::merged(draft);
-  return products == Products::unrounded ? gen::unrounded(*merged) : std::move(merged);
 }
 
 // dst[k] = sum over j of src[j] (cos + sin)(2 pi j k/N).
@@ -80,17 +64,18 @@ void definition(const Sequence<Wide>& src, Sequence<Wide>& dst) {
 
 std::unique_ptr<Network> draft(int length, const std::string& plan) {
   const Row& of = row(length);
-  const Tree whole = spelled_out(gen::parse_tree(plan.empty() ? of.plan : plan));
+  const Tree whole = gen::spelled_out(gen::parse_tree(plan.empty() ? of.plan : plan), plan_of);
   gen::check_length(whole, length);
-  return finished(of.products,
-                  of.design == Design::forward ? *forward(whole, length) : *folded(whole, length));
+  const auto plain = of.design == Design::forward ? forward(whole, length) : folded(whole, length);
+  if (of.products == Products::merged_in_pairs) return gen::merged_pairs(*plain);
+  auto merged = gen::merged(*plain);
+  return of.products == Products::unrounded ? gen::unrounded(*merged) : std::move(merged);
 }
 
 gen::Design design(int length, gen::Precision precision, const std::string& plan) {
   const Row& of = row(length);
-  const std::unique_ptr<Network> network = draft(length, plan);
-  gen::PerLane natural(length);
-  std::iota(natural.begin(), natural.end(), 0);
+  const auto network = draft(length, plan);
+  const gen::PerLane natural = gen::tabulated(length, std::identity());
   return {.kernel = {.family = "Hartley",
                      .type = {precision, false},
                      .scaling = gen::Scaling::symmetric,

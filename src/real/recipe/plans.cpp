@@ -1,8 +1,8 @@
-#include "src/real/recipe/plans.h"
-
 #include <algorithm>
 #include <stdexcept>
 #include <string>
+
+#include "src/real/recipe/table.h"
 
 namespace xfm::real {
 namespace {
@@ -10,8 +10,11 @@ namespace {
 using gen::parse_tree;
 using gen::Tree;
 
-const char* row_tree(Direction direction, int length) {
-  return direction == Direction::forward ? row(length).forward.tree : row(length).inverse.tree;
+Tree plan(Direction direction, const Tree& tree);
+
+Tree plan(Direction direction, int length) {
+  const Tree tree = parse_tree(breakdown(direction, length).tree);
+  return tree.is_number() ? tree : plan(direction, tree);
 }
 
 // R(g, L) with its forward and inverse transforms spelled out. The inverse ones run transposed, so they take
@@ -23,8 +26,8 @@ Tree rader(Direction direction, const Tree& tree) {
   const int l = args.there->number;
   const RaderStage stage = rader_stage(l + 1);
   const bool forward = direction == Direction::forward;
-  const std::string whole = forward ? stage.there : stage.closing;
-  const Tree there = plan(direction, parse_tree(whole.empty() ? row_tree(direction, l) : whole));
+  const std::string whole = forward ? stage.forward : stage.inverse;
+  const Tree there = whole.empty() ? plan(direction, l) : plan(direction, parse_tree(whole));
   const Tree back = plan(opposite(direction), l / 2);
   Tree skew = l / 2 % 2 == 0 ? plan(Direction::inverse, l / 2) : back;
   if (forward && stage.skew[0] != '\0') skew = parse_tree(stage.skew);
@@ -43,11 +46,8 @@ Tree nested(Direction direction, const std::string& rule, gen::Sequence<Tree> st
   return {rule, 0, std::move(stages)};
 }
 
-}  // namespace
-
 Tree plan(Direction direction, const Tree& tree) {
-  const bool forward = direction == Direction::forward;
-  if (tree.is_number()) return is_block(tree.number, forward) ? tree : plan(direction, tree.number);
+  if (tree.is_number()) return plan(direction, tree.number);
   if (tree.rule == "D") return tree;
   if (tree.rule == "R") return gen::rader_arguments(tree).back == nullptr ? rader(direction, tree) : tree;
   gen::Sequence<Tree> stages;
@@ -55,15 +55,22 @@ Tree plan(Direction direction, const Tree& tree) {
   return nested(direction, tree.rule, std::move(stages));
 }
 
-Tree plan(Direction direction, int length) {
-  return plan(direction, parse_tree(row_tree(direction, length)));
+// The plan with its blocks of one length in another order of bins.
+Tree reordered(Tree plan, const BlockOrder& order) {
+  if (plan.is_number()) return plan.number == order.block ? parse_tree(order.order) : plan;
+  for (Tree& arg : plan.args) arg = reordered(arg, order);
+  return plan;
 }
 
-Tree reordered(const Tree& plan, const BlockOrder& order) {
-  if (plan.is_number()) return plan.number == order.block ? parse_tree(order.order) : plan;
-  Tree changed = plan;
-  for (Tree& arg : changed.args) arg = reordered(arg, order);
-  return changed;
+}  // namespace
+
+Tree plan(Direction direction, Layout layout, int length, const Tree& tree) {
+  Tree whole = plan(direction, tree);
+  for (const BlockOrder& order : block_orders()) {
+    if (direction == Direction::inverse && order.length == length && order.layout == layout)
+      whole = reordered(whole, order);
+  }
+  return whole;
 }
 
 }  // namespace xfm::real

@@ -1,9 +1,10 @@
 #include "src/real/recipe/real.h"
 
-#include <numeric>
+#include <functional>
 
 #include "gen/algorithms/transform.h"
 #include "gen/passes/passes.h"
+#include "src/real/recipe/table.h"
 
 namespace xfm::real {
 namespace {
@@ -34,6 +35,22 @@ bool counts_twice(const Half& of, int length) { return of.k > 0 && 2 * of.k < le
 
 gen::Value half(const Points& bins, const Half& of) { return of.part == 0 ? bins[of.k].p : bins[of.k].q; }
 
+int size_of(Layout layout, int length) { return layout == Layout::ccs ? length / 2 * 2 + 2 : length; }
+
+// Where a half is. CCS: all bins as pairs. Pack: the zeros left out. Perm: the same, but the last real bin of
+// an even length comes second, so that the others stay pairs.
+int element(Layout layout, int length, const Half& of) {
+  if (layout == Layout::ccs || of.k == 0) return of.number();
+  if (layout == Layout::pack || length % 2 == 1) return of.number() - 1;
+  return 2 * of.k == length ? 1 : of.number();
+}
+
+// The imaginary halves of bin 0, and of bin N/2 of an even N: stored zeros in CCS, nowhere in the others.
+PerLane zeros(Layout layout, int length) {
+  if (layout != Layout::ccs) return {};
+  return length % 2 == 0 ? PerLane{1, length + 1} : PerLane{1};
+}
+
 std::unique_ptr<Network> forward(const Tree& plan, int length) {
   auto draft = std::make_unique<Network>(1, gen::Rounding::combination);
   const Points bins = transform.run(plan, gen::samples(*draft, length));
@@ -42,39 +59,34 @@ std::unique_ptr<Network> forward(const Tree& plan, int length) {
 }
 
 std::unique_ptr<Network> inverse(const Tree& plan, int length) {
-  Network there(1, gen::Rounding::combination);
-  const Points bins = transform.run(plan, gen::samples(there, length));
   auto draft = std::make_unique<Network>(1, gen::Rounding::combination);
-  gen::Transposition transposition(there);
+  Points weights[2] = {Points(length / 2 + 1), Points(length / 2 + 1)};  // of real and imaginary halves
   for (const Half& of : halves(length)) {
     const gen::Value bin = draft->load(of.number());
-    transposition.send(half(bins, of), {counts_twice(of, length) ? draft->twice(bin) : bin, {}});
+    weights[of.part][of.k].p = counts_twice(of, length) ? draft->twice(bin) : bin;
   }
-  for (const gen::Complex& sample : transposition.run(length)) draft->output(sample.p);
+  for (const gen::Complex& sample : transform.from_bins(plan, weights[0], weights[1]))
+    draft->output(sample.p);
   return draft;
 }
 
-PerLane natural(int length) {
-  PerLane order(length);
-  std::iota(order.begin(), order.end(), 0);
-  return order;
-}
+PerLane natural(int length) { return gen::tabulated(length, std::identity()); }
 
 gen::Binding binding(Direction direction, Layout layout, int length) {
   PerLane packed;
   if (direction == Direction::forward) {
-    for (const Half& of : halves(length)) packed.push_back(element(layout, length, of.k, of.part));
+    for (const Half& of : halves(length)) packed.push_back(element(layout, length, of));
     return {natural(length), packed, zeros(layout, length), true};
   }
   packed = PerLane(length + 2);
-  for (const Half& of : halves(length)) packed[of.number()] = element(layout, length, of.k, of.part);
+  for (const Half& of : halves(length)) packed[of.number()] = element(layout, length, of);
   return {packed, natural(length)};
 }
 
 // All layouts number their spectra as CCS does.
 gen::Numbering numbering(Direction direction, Layout layout, int length) {
   PerLane numbers = natural(size_of(layout, length));
-  for (const Half& of : halves(length)) numbers[element(layout, length, of.k, of.part)] = of.number();
+  for (const Half& of : halves(length)) numbers[element(layout, length, of)] = of.number();
   return direction == Direction::forward ? gen::Numbering{{}, numbers} : gen::Numbering{numbers, {}};
 }
 
@@ -87,7 +99,7 @@ gen::Definition definition(Direction direction, Layout layout, int length) {
       for (const Half& of : halves(length)) {
         const gen::ComplexConstant& root = roots[j * of.k % length];
         const Wide w = of.part == 0 ? root.re.value : root.im.value;
-        const int bin = element(layout, length, of.k, of.part);
+        const int bin = element(layout, length, of);
         if (direction == Direction::forward) {
           dst[bin] += w * src[j];
         } else {
@@ -98,24 +110,19 @@ gen::Definition definition(Direction direction, Layout layout, int length) {
   };
 }
 
-Tree plan_of(const Tree& tree, Direction direction, Layout layout, int length) {
-  Tree whole = plan(direction, tree);
-  if (direction == Direction::forward) return whole;
-  for (const BlockOrder& order : block_orders()) {
-    if (order.length == length && order.layout == layout) whole = reordered(whole, order);
-  }
-  return whole;
-}
-
 }  // namespace
+
+const char* name_of(Layout layout) {
+  return layout == Layout::ccs ? "CCS" : layout == Layout::pack ? "Pack" : "Perm";
+}
 
 gen::Design design(int length, Precision precision, Direction direction, Layout layout,
                    const std::string& tree) {
   const bool forwards = direction == Direction::forward;
-  const Breakdown& breakdown = forwards ? row(length).forward : row(length).inverse;
-  const std::string text = tree.empty() ? breakdown.tree : tree;
-  const char* const chosen = tree.empty() ? plan_of_least_error(forwards, length) : nullptr;
-  const Tree whole = plan_of(gen::parse_tree(chosen == nullptr ? text : chosen), direction, layout, length);
+  const Breakdown& row = breakdown(direction, length);
+  const std::string text = tree.empty() ? row.tree : tree;
+  const char* const chosen = tree.empty() ? tree_of_least_error(direction, length) : nullptr;
+  const Tree whole = plan(direction, layout, length, gen::parse_tree(chosen == nullptr ? text : chosen));
   gen::check_length(whole, length);
   const auto merged = gen::merged(forwards ? *forward(whole, length) : *inverse(whole, length));
   const Network& draft = *merged;
@@ -129,8 +136,8 @@ gen::Design design(int length, Precision precision, Direction direction, Layout 
                  .read = forwards ? length : size,
                  .written = forwards ? size : length,
                  .tree = text,
-                 .adds = breakdown.adds,
-                 .mults = breakdown.mults,
+                 .adds = row.adds,
+                 .mults = row.mults,
                  .network = gen::bind(draft, binding(direction, layout, length), gen::negated_values(draft)),
                  .order = gen::scalar_order(precision),
                  .numbering = numbering(direction, layout, length)},

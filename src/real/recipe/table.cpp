@@ -72,44 +72,38 @@ constexpr Row rows[] = {
   {64, {"16 * 4", 417, 132},        {"2 * 2 * 2 * 2 * 2 * 2", 400, 196}},
 };
 
-struct Block {
-  int length;
-  bool inverse;  ///< in inverse transforms too
-};
-constexpr Block blocks[] = {{2, true}, {3, true}, {5, true}, {7, true}, {11, false}};
-
 constexpr RaderStage stages[] = {
-  {13, "3 x 4", "", "3 * 2"},
-  {17, "4 * 4", "", ""},
-  {19, "3 * 3 x 2", "", ""},
-  {23, "2 x 11", "D(11) x 2", ""},
-  {29, "7 x 4", "", ""},
-  {31, "3 x 2 x 5", "", ""},
-  {37, "4 x 3 * 3", "", ""},
-  {41, "5 x 8", "", ""},
-  {43, "2 x 7 x 3", "3 x 7 x 2", ""},
-  {47, "23 x 2", "", ""},
-  {53, "4 x 13", "", ""},
-  {59, "29 x 2", "", ""},
-  {61, "3 x 5 x 4", "", ""},
+  {.length = 13, .forward = "3 x 4", .skew = "3 * 2"},
+  {.length = 17, .forward = "4 * 4"},
+  {.length = 19, .forward = "3 * 3 x 2"},
+  {.length = 23, .forward = "2 x 11", .inverse = "D(11) x 2"},
+  {.length = 29, .forward = "7 x 4"},
+  {.length = 31, .forward = "3 x 2 x 5"},
+  {.length = 37, .forward = "4 x 3 * 3"},
+  {.length = 41, .forward = "5 x 8"},
+  {.length = 43, .forward = "2 x 7 x 3", .inverse = "3 x 7 x 2"},
+  {.length = 47, .forward = "23 x 2"},
+  {.length = 53, .forward = "4 x 13"},
+  {.length = 59, .forward = "29 x 2"},
+  {.length = 61, .forward = "3 x 5 x 4"},
 };
 
-struct ChosenPlan {
+struct ChosenTree {
   int length;
-  bool forward;
-  const char* plan;
+  Direction direction;
+  const char* tree;
 };
-constexpr ChosenPlan chosen[] = {
-  {47, true,
+constexpr ChosenTree chosen[] = {
+  {47, Direction::forward,
    "R(45, R(7, 2 x 11, R(8, 5 x 2, 5), R(2, 5 x 2, 5)) x 2, R(7, 2 x D(11), 11), R(5, D(11) x 2, 11))"},
-  {47, false,
+  {47, Direction::inverse,
    "R(41, 2 x R(5, 2 x D(11), 11), R(5, 2 x 11, R(6, 5 x 2, 5), R(2, 5 x 2, 5)), "
    "R(17, 2 x 11, R(2, 5 x 2, 5)))"},
-  {59, true,
+  {59, Direction::forward,
    "R(10, R(8, 7 x 2 * 2, 7 x 2) x 2, R(3, 2 * 2 x 7, 7 x 2), R(19, 7 x 2 * 2, 2 x 7))"},
-  {53, false,
+  {53, Direction::inverse,
    "R(3, 2 * 2 x R(6, 2 * 2 x 3, 3 x 2), R(2, 3 x 2 * 2, 3 x 2, 3 * 2) x 2, R(2, 2 * 2 x 3, 3 x 2) x 2)"},
-  {59, false,
+  {59, Direction::inverse,
    "R(44, 2 x R(10, 2 * 2 x 7, 7 x 2, 2 x 7), R(21, 2 * 2 x 7, 2 x 7, 7 x 2), "
    "R(2, 7 x 2 * 2, 2 x 7, 2 x 7))"},
 };
@@ -125,24 +119,20 @@ constexpr BlockOrder orders[] = {
 
 }  // namespace
 
-std::span<const Row> table() { return rows; }
-
-const Row& row(int length) { return gen::row_of(rows, length); }
+const Breakdown& breakdown(Direction direction, int length) {
+  const Row& row = gen::row_of(rows, length);
+  return direction == Direction::forward ? row.forward : row.inverse;
+}
 
 RaderStage rader_stage(int length) {
   const auto* const found = gen::find_row(stages, [&](const RaderStage& s) { return s.length == length; });
-  return found == nullptr ? RaderStage{length, "", "", ""} : *found;
+  return found == nullptr ? RaderStage{length} : *found;
 }
 
-bool is_block(int length, bool forward) {
-  const auto* const found = gen::find_row(blocks, [&](const Block& b) { return b.length == length; });
-  return found != nullptr && (forward || found->inverse);
-}
-
-const char* plan_of_least_error(bool forward, int length) {
-  const auto* const found =
-      gen::find_row(chosen, [&](const ChosenPlan& p) { return p.length == length && p.forward == forward; });
-  return found == nullptr ? nullptr : found->plan;
+const char* tree_of_least_error(Direction direction, int length) {
+  const auto* const found = gen::find_row(
+      chosen, [&](const ChosenTree& row) { return row.length == length && row.direction == direction; });
+  return found == nullptr ? nullptr : found->tree;
 }
 
 std::span<const BlockOrder> block_orders() { return orders; }

@@ -1,9 +1,10 @@
-// The breakdown of every real length, fixed in advance: data only.
+// The breakdown of every real length, fixed in advance, and the plan that follows from it.
 #pragma once
 
 #include <span>
 
-#include "src/real/recipe/layouts.h"
+#include "gen/algorithms/tree.h"
+#include "src/real/recipe/real.h"
 
 namespace xfm::real {
 
@@ -12,35 +13,28 @@ struct Breakdown {
   int adds, mults;  ///< real operations without the factor: a kernel costs that much or less
 };
 
-/// Forward trees read from the samples to the bins, inverse ones from the bins to the samples. A number is a
-/// block of that length or stands for its row; a x b Good-Thomas, a * b Cooley-Tukey, R(g, L) Rader with root
-/// g.
+/// Forward trees read from the samples to the bins, inverse ones from the bins to the samples. A number
+/// stands for its row, a block if that is the same number; a x b Good-Thomas, a * b Cooley-Tukey, R(g, L)
+/// Rader with root g.
 struct Row {
   int length;
   Breakdown forward, inverse;
 };
 
-std::span<const Row> table();
-
-/// The row of a length; throws std::out_of_range if there is none.
-const Row& row(int length);
-
-/// Whether numbers of this length stand for a block.
-bool is_block(int length, bool forward);
+/// The half of a length's row; throws std::out_of_range if there is none.
+const Breakdown& breakdown(Direction direction, int length);
 
 /// The stages of length L = N-1 of a Rader transform, where they differ from the rows of L, and the skew
 /// stage of a forward one, where it differs from that of the half length.
 struct RaderStage {
   int length;
-  const char* there;    ///< forward: from the samples
-  const char* closing;  ///< inverse: to the samples
-  const char* skew;
+  const char *forward = "", *inverse = "", *skew = "";
 };
 RaderStage rader_stage(int length);
 
-/// The plan whose primitive roots and orders of half-length stages have the lowest rounding errors in
-/// binary32, found by trying some hundreds; null where the row's own plan is as good.
-const char* plan_of_least_error(bool forward, int length);
+/// The tree whose primitive roots and orders of half-length stages have the lowest rounding errors in
+/// binary32, found by trying some hundreds; null where the row's own is as good.
+const char* tree_of_least_error(Direction direction, int length);
 
 /// Inverse kernels of one layout whose direct blocks sum their bins in an order of their own.
 struct BlockOrder {
@@ -50,5 +44,9 @@ struct BlockOrder {
   const char* order;
 };
 std::span<const BlockOrder> block_orders();
+
+/// A length's tree spelled out down to its blocks, in the order from samples to bins. The plan of an inverse
+/// tree is the one whose network, transposed, runs the tree's stages in their order.
+gen::Tree plan(Direction direction, Layout layout, int length, const gen::Tree& tree);
 
 }  // namespace xfm::real
