@@ -7,6 +7,8 @@
 namespace xfm {
 
 inline constexpr int register_bytes = 16;
+/// Whether one body serves aligned and unaligned memory.
+#define XFM_UNALIGNED_IS_FREE 0
 
 /// The widest register of T.
 template <class T>
@@ -29,11 +31,11 @@ struct UnalignedByElements {
   }
 };
 
-// The same by instructions that more execution units accept, for code that is mostly shuffles and additions.
-// Intel's cores can start two integer shuffles in a cycle, but only one in floating point, though both move
-// the same bits; and a move of half a register goes to units that neither shuffles nor additions keep busy.
-// This gains up to a tenth of a whole Walsh-Hadamard kernel. It is written in assembler because compilers
-// convert the intrinsics back into the usual forms.
+// Transposition by instructions that more execution units accept, for code that is mostly shuffles and
+// additions. Intel's cores can start two integer shuffles in a cycle, but only one in floating point, though
+// both move the same bits; and a move of half a register goes to units that neither shuffles nor additions
+// keep busy. This gains up to a tenth of a whole Walsh-Hadamard kernel. It is written in assembler because
+// compilers convert the intrinsics back into the usual forms.
 
 /// a0 b0 a1 b1
 XFM_INLINE static inline f32x4 interleave_low(f32x4 a, f32x4 b) {

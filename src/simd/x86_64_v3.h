@@ -9,6 +9,8 @@
 namespace xfm {
 
 inline constexpr int register_bytes = 32;
+/// Whether one body serves aligned and unaligned memory.
+#define XFM_UNALIGNED_IS_FREE 1
 
 using f32x8 = Vector<float, 8>;
 using f64x4 = Vector<double, 4>;

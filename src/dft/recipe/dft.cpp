@@ -75,7 +75,7 @@ std::unique_ptr<Network> packed_network(const Recipe& recipe, int width, Form fo
 
 // Lanes in one of the two forms, with sign flips absorbed.
 std::unique_ptr<Network> lanes_network(const Recipe& recipe, Form form) {
-  const int width = recipe.target.lanes(Precision::binary32);
+  const int width = gen::baseline().lanes(Precision::binary32);
   return gen::absorb_sign_flips(*packed_network(recipe, width, form, Rounding::each));
 }
 
