@@ -167,7 +167,7 @@ std::string catalogue_row(const Family& family, int length, const ElementType& t
                .written = facts.points,
                .exchanges = -1,
                .packed = facts.two_variants,
-               .packed_math = facts.vector_code,
+               .packed_math = facts.lanes > 1,
                .straight = facts.straight,
                .tree = facts.tree,
                .adds = facts.adds,

@@ -29,7 +29,7 @@ struct Target {
   std::string_view vocabulary;     ///< the header that kernels are written in
   int register_bytes;
   int registers;
-  bool unaligned_variants;  ///< whether packed kernels have one, since unaligned accesses cost more
+  bool unaligned_is_free;  ///< one body serves aligned and unaligned memory
   std::span<const Permutation> permutations;  ///< the cheapest first
 
   /// How many numbers of a precision a register holds.

@@ -21,7 +21,7 @@ Target x86_64() {
       .vocabulary = "src/simd/x86_64.h",
       .register_bytes = 16,
       .registers = 16,
-      .unaligned_variants = true,
+      .unaligned_is_free = false,
       .permutations = permutations,
   };
   // clang-format on

@@ -12,7 +12,7 @@ Target x86_64_v2() {
       .vocabulary = "src/simd/x86_64.h",
       .register_bytes = 16,
       .registers = 16,
-      .unaligned_variants = true,
+      .unaligned_is_free = false,
       .permutations = x86_64().permutations,
   };
   // clang-format on

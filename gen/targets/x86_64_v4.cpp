@@ -10,9 +10,9 @@ Target x86_64_v4() {
       .folder = "glibc-hwcaps/x86-64-v4",
       .compile_flags = "-march=x86-64-v4 -mtune=generic -mfpmath=sse -mprefer-vector-width=256",
       .vocabulary = "src/simd/x86_64_v3.h",
-      .register_bytes = 16,
+      .register_bytes = 32,
       .registers = 32,
-      .unaligned_variants = false,
+      .unaligned_is_free = true,
       .permutations = x86_64().permutations,
   };
   // clang-format on

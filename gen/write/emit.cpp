@@ -47,7 +47,7 @@ Type value_type(const Kernel& kernel) { return type_of(kernel.type.precision, ke
 
 /// The type in which a body has the factor: repeated in memory for aligned loads, or a scalar to be broadcast.
 Type factor_type(const Kernel& kernel, const Target& target) {
-  return target.unaligned_variants ? value_type(kernel) : Type{kernel.type.precision, 1};
+  return !target.unaligned_is_free ? value_type(kernel) : Type{kernel.type.precision, 1};
 }
 
 /// Whether these scalars come in couples, side by side in memory; behind the last one lanes are idle.
@@ -257,7 +257,7 @@ class Body {
   // In kernels with an unaligned variant, a place that is not a multiple of the register's width is never
   // aligned.
   std::string access(const std::string& what, int scalar, const Type& type) const {
-    if (!target_.unaligned_variants) return fmt::format("{}<{}>", what, type.name());
+    if (target_.unaligned_is_free) return fmt::format("Unaligned::{}<{}>", what, type.name());
     return fmt::format("{}::{}", scalar % type.lanes == 0 ? "Memory" : "Unaligned", what);
   }
 
@@ -334,7 +334,7 @@ std::string emit_kernel(const Kernel& kernel, const Target& target, SharedConsta
   const std::string inner = " {\n" + entry_text(kernel, factor_type(kernel, target)) + body.text() + "  return xfmStsOk;\n}\n\n";
   const std::string head =
       heading(kernel) + "namespace {\n" + factors(kernel, target) + "}\n" + body.declarations() + "\n";
-  if (!kernel.packed() || !target.unaligned_variants)
+  if (!kernel.packed() || target.unaligned_is_free)
     return head + signature(kernel, kernel.name()) + inner;
   const std::string suffix = kernel.type.suffix(), variant = kernel.name() + "_unaligned";
   return head + "template <class Memory>\nXFM_BODY " + signature(kernel, "body_" + suffix) + inner +

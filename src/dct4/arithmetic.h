@@ -12,7 +12,7 @@ XFM_INLINE inline V all(Element<V> x) {
   if constexpr (lanes_of<V> == 1)
     return x;
   else
-    return broadcast(x);
+    return broadcast<V>(x);
 }
 
 /// A complex number, or as many as there are lanes.

@@ -26,7 +26,7 @@ XFM_INLINE inline void load_transposed(const T* classes, V* v) {
 /// The spectrum of L classes, and the part of the table with its twist.
 template <class T, int r>
 struct Twisted {
-  using V = Register<T>;
+  using V = Group<T>;
   static constexpr int width = lanes_of<V>;
   const T* classes;
   const T* table;
@@ -58,7 +58,7 @@ struct Twisted {
 /// Twist and expansion of one group.
 template <class T, int r, class Out>
 XFM_INLINE inline void expand_group(const Twisted<T, r>& source, const Out& out) {
-  using V = Register<T>;
+  using V = Group<T>;
   if constexpr (r % (4 * lanes_of<V>) == 0) {
     expand_quads<V, r>(source, out);
   } else {
@@ -69,8 +69,8 @@ XFM_INLINE inline void expand_group(const Twisted<T, r>& source, const Out& out)
       });
     } else {
       unrolled<r>([&](auto t) XFM_INLINE {
-        w[t] = source.template twist<t>(gather(source.classes + t, 2 * r),
-                                        gather(source.classes + r + t, 2 * r));
+        w[t] = source.template twist<t>(gather<V>(source.classes + t, 2 * r),
+                                        gather<V>(source.classes + r + t, 2 * r));
       });
     }
     expand<V, r>(w, out);
@@ -86,7 +86,7 @@ struct Scatter {
   std::ptrdiff_t fold;
 
   template <int l>
-  XFM_INLINE void put(Register<T> y) const {
+  XFM_INLINE void put(Group<T> y) const {
     if constexpr (l >= 0)
       Unaligned::store(ahead + l * fold, y);
     else
@@ -96,7 +96,7 @@ struct Scatter {
 
 template <class T, int r>
 xfmStatus run_groups(const CombineNode<T>& node, T* dst, const T* work) {
-  constexpr int l = lanes_of<Register<T>>;
+  constexpr int l = group_size<T>;
   const T* table = node.table;
   T* ahead = dst;
   // l = -1 is the last one, step 2 r - 1 from the front.
@@ -117,7 +117,7 @@ struct ToLines {
   T* group;
 
   template <int l>
-  XFM_INLINE void put(Register<T> y) const {
+  XFM_INLINE void put(Group<T> y) const {
     Aligned::store(group + (r + l) * line<T>, y);
   }
 };
@@ -126,7 +126,7 @@ struct ToLines {
 /// few sets of the cache: every line of dst is written once.
 template <class T, int r>
 xfmStatus run_lines(const CombineNode<T>& node, T* dst, const T* work) {
-  constexpr int l = lanes_of<Register<T>>;
+  constexpr int l = group_size<T>;
   const std::ptrdiff_t fold = node.fold;
   const T* table = node.table;
   T* ahead = dst;

@@ -13,7 +13,7 @@ struct ToSpectrum {
   Distance part;
 
   template <int q>
-  XFM_INLINE void put(Complex<Register<T>> z) const {
+  XFM_INLINE void put(Complex<Group<T>> z) const {
     T* const at = start + 2 * q * part;
     Aligned::store(at, z.re);
     Aligned::store(at + part, z.im);
@@ -39,11 +39,11 @@ struct Samples {
 
 template <class T, int m, class Distance>
 xfmStatus fold_batches(const FoldNode& node, T* work, const T* src, Distance r) {
-  constexpr int l = lanes_of<Register<T>>;
+  constexpr int l = group_size<T>;
   // n = -1 is the last one, n = m - 1 from the front.
   const T* behind = src + (node.mirror - (m - 1) * 2 * r - (l - 1));
   for (std::int32_t batch = 0; batch < node.batches; ++batch) {
-    fold<Register<T>, m>(Samples<T, Distance>{src, behind, r}, ToSpectrum<T, Distance>{work, r});
+    fold<Group<T>, m>(Samples<T, Distance>{src, behind, r}, ToSpectrum<T, Distance>{work, r});
     src += l;
     behind -= l;
     work += l;
@@ -85,9 +85,8 @@ template <class T, int m>
 void fold_lines(const T* src, Offsets at, std::ptrdiff_t step, T* out) {
   alignas(line_bytes) T samples[m * line<T>];
   copy_samples<T, m>(src, at, step, samples);
-  for (int batch = 0; batch < line<T>; batch += lanes_of<Register<T>>)
-    fold<Register<T>, m>(SampleLines<T, m>{samples + batch},
-                         ToSpectrum<T, Constant<line<T>>>{out + batch, {}});
+  for (int batch = 0; batch < line<T>; batch += group_size<T>)
+    fold<Group<T>, m>(SampleLines<T, m>{samples + batch}, ToSpectrum<T, Constant<line<T>>>{out + batch, {}});
 }
 
 Offsets next_sequence(const OddFoldNode& node, Offsets at) {

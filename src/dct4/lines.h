@@ -9,13 +9,13 @@ namespace xfm::dct4 {
 
 template <class From, class To, class T>
 XFM_INLINE inline void copy_line(const T* from, T* to) {
-  constexpr int lanes = lanes_of<Register<T>>;
+  constexpr int lanes = group_size<T>;
   for (int i = 0; i < line<T>; i += lanes) To::store(to + i, From::load(from + i));
 }
 
 template <class From, class To, class T>
 XFM_INLINE inline void copy_line_reversed(const T* from, T* to) {
-  constexpr int lanes = lanes_of<Register<T>>;
+  constexpr int lanes = group_size<T>;
   for (int i = 0; i < line<T>; i += lanes)
     To::store(to + i, reversed(From::load(from + line<T> - lanes - i)));
 }

@@ -63,7 +63,7 @@ XFM_INLINE inline void dft(Complex<V>* x) {
 /// class m2 l - 1 - i, for all batches of a line.
 template <class T>
 struct ClassPlace {
-  using V = Register<T>;
+  using V = Group<T>;
   const T* in;
   std::ptrdiff_t sequence_step, in_part;
   T* ahead;   ///< of class i
@@ -84,8 +84,8 @@ struct ClassPlace {
 };
 
 template <class T>
-XFM_INLINE inline Complex<Register<T>> pair(const T* table, int index) {
-  using V = Register<T>;
+XFM_INLINE inline Complex<Group<T>> pair(const T* table, int index) {
+  using V = Group<T>;
   const T* const at = table + 2 * lanes_of<V> * index;
   return {Aligned::load(at), Aligned::load(at + lanes_of<V>)};
 }
@@ -94,7 +94,7 @@ XFM_INLINE inline Complex<Register<T>> pair(const T* table, int index) {
 template <int r2, class T>
 XFM_INLINE inline void combine_once(const ClassPlace<T>& place, const T* near) {
   for (int batch = 0; batch < batches_a_line<T>; ++batch) {
-    Complex<Register<T>> x[r2];
+    Complex<Group<T>> x[r2];
     x[0] = place.load(0, batch);
     unrolled<r2 - 1>([&](auto b) XFM_INLINE { x[b + 1] = place.load(b + 1, batch) * pair(near, b); });
     dft<r2, true>(x);
@@ -107,10 +107,10 @@ XFM_INLINE inline void combine_once(const ClassPlace<T>& place, const T* near) {
 template <int r2, class T>
 XFM_INLINE inline void combine_twice(const ClassPlace<T>& place, const T* near, const T* far) {
   constexpr int outer = r2 / 4;
-  Complex<Register<T>> y[outer][batches_a_line<T>][4];
+  Complex<Group<T>> y[outer][batches_a_line<T>][4];
   for (int a0 = 0; a0 < 4; ++a0) {
     for (int batch = 0; batch < batches_a_line<T>; ++batch) {
-      Complex<Register<T>> x[outer];
+      Complex<Group<T>> x[outer];
       x[0] = place.load(a0, batch);
       unrolled<outer - 1>(
           [&](auto a1) XFM_INLINE { x[a1 + 1] = place.load(4 * (a1 + 1) + a0, batch) * pair(far, a1); });
@@ -120,7 +120,7 @@ XFM_INLINE inline void combine_twice(const ClassPlace<T>& place, const T* near, 
   }
   for (int j = 0; j < outer; ++j) {
     for (int batch = 0; batch < batches_a_line<T>; ++batch) {
-      Complex<Register<T>> x[4];
+      Complex<Group<T>> x[4];
       x[0] = y[j][batch][0];
       unrolled<3>([&](auto b) XFM_INLINE { x[b + 1] = y[j][batch][b + 1] * pair(near, 3 * j + b); });
       dft<4, true>(x);

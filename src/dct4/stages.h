@@ -12,9 +12,9 @@
 
 namespace xfm::dct4 {
 
-// A register holds one group of the plan: the code of a run relies on it.
-static_assert(lanes_of<Register<float>> == group_size<float>);
-static_assert(lanes_of<Register<double>> == group_size<double>);
+/// A register that holds one group of the plan.
+template <class T>
+using Group = Vector<T, group_size<T>>;
 
 constexpr std::size_t line_bytes = 64;
 
@@ -22,7 +22,7 @@ constexpr std::size_t line_bytes = 64;
 template <class T>
 constexpr std::int32_t line = static_cast<std::int32_t>(line_bytes / sizeof(T));
 template <class T>
-constexpr std::int32_t batches_a_line = line<T> / lanes_of<Register<T>>;
+constexpr std::int32_t batches_a_line = line<T> / group_size<T>;
 
 /// Where the samples of a fold are in src. With n + m in place of a negative n, so that n runs from 0 to
 /// m - 1, sample n of the first residue is at forward + step n in the first half and at forward + backward

@@ -2,3 +2,9 @@
 #pragma once
 
 #include XFM_VOCABULARY
+
+namespace xfm {
+
+inline constexpr bool unaligned_is_free = XFM_UNALIGNED_IS_FREE != 0;
+
+}  // namespace xfm

@@ -1,62 +1,76 @@
-// The vocabulary of x86-64-v3 and v4: registers of 128 and of 256 bits.
+// The vocabulary of x86-64-v3: 256-bit registers beside those of 128 bits, AVX2. Unaligned accesses cost
+// nothing here, unless they cross a cache line.
 #pragma once
 
 #include <immintrin.h>
 
-#include "src/simd/x86_64.h"
+#include "src/simd/x86_128.h"
 
 namespace xfm {
 
-using f32x8 = float __attribute__((vector_size(32)));
-using f64x4 = double __attribute__((vector_size(32)));
+inline constexpr int register_bytes = 32;
+/// Whether one body serves aligned and unaligned memory.
+#define XFM_UNALIGNED_IS_FREE 1
 
-template <>
-struct ElementOf<f32x8> {
-  using Type = float;
-};
-template <>
-struct ElementOf<f64x4> {
-  using Type = double;
-};
+using f32x8 = Vector<float, 8>;
+using f64x4 = Vector<double, 4>;
 
-// ---- Memory, aligned as its elements are.
+/// The widest register of T.
+template <class T>
+using Register = Vector<T, register_bytes / sizeof(T)>;
 
-template <class V>
-static inline V load(const Element<V>* p) {
-  using AtElement = V __attribute__((aligned(alignof(Element<V>)), may_alias));
-  return *reinterpret_cast<const AtElement*>(p);
+// ---- Halves.
+
+static inline f32x4 low_half(f32x8 v) { return _mm256_castps256_ps128(v); }
+static inline f64x2 low_half(f64x4 v) { return _mm256_castpd256_pd128(v); }
+static inline f32x4 high_half(f32x8 v) { return _mm256_extractf128_ps(v, 1); }
+static inline f64x2 high_half(f64x4 v) { return _mm256_extractf128_pd(v, 1); }
+static inline f32x8 joined(f32x4 low, f32x4 high) { return _mm256_set_m128(high, low); }
+static inline f64x4 joined(f64x2 low, f64x2 high) { return _mm256_set_m128d(high, low); }
+
+// ---- Complex numbers of binary32 parts.
+
+/// From three or four places; the rest of the register is zero.
+static inline f32x8 load_complex(const float* p, const float* q, const float* r) {
+  return joined(load_complex(p, q), load_complex(r));
 }
-template <class V>
-static inline void store(Element<V>* p, V v) {
-  using AtElement = V __attribute__((aligned(alignof(Element<V>)), may_alias));
-  *reinterpret_cast<AtElement*>(p) = v;
+static inline f32x8 load_complex(const float* p, const float* q, const float* r, const float* s) {
+  return joined(load_complex(p, q), load_complex(r, s));
 }
-static inline f64x4 load_complex(const double* p, const double* q) {
-  return _mm256_insertf128_pd(_mm256_castpd128_pd256(load<f64x2>(p)), load<f64x2>(q), 1);
-}
+
+/// Complex number j of the register.
 template <int j>
-static inline void store_complex(double* p, f64x2 v) {
-  store<f64x2>(p, v);
+static inline void store_complex(float* p, f32x8 v) {
+  store_complex<j % 2>(p, j < 2 ? low_half(v) : high_half(v));
+}
+
+// ---- Complex numbers of binary64 parts.
+
+static inline f64x4 load_complex(const double* p, const double* q) {
+  return joined(Unaligned::load<f64x2>(p), Unaligned::load<f64x2>(q));
 }
 template <int j>
 static inline void store_complex(double* p, f64x4 v) {
-  store<f64x2>(p, _mm256_extractf128_pd(v, j));
+  Unaligned::store(p, j == 0 ? low_half(v) : high_half(v));
 }
 
 // ---- Lanes.
 
-template <class V, class T>
-static inline V broadcast(T x) {
-  if constexpr (std::is_arithmetic_v<V>) {
-    return V{x};
-  } else {
-    return [&]<int... i>(std::integer_sequence<int, i...>) {
-      return V{(static_cast<void>(i), static_cast<Element<V>>(x))...};
-    }(std::make_integer_sequence<int, lanes_of<V>>{});
-  }
+/// Flips the signs of the lanes that are marked by 1.
+template <int a, int b, int c, int d, int e, int f, int g, int h>
+static inline f32x8 flip_signs(f32x8 v) {
+  constexpr float zeros[] = {0.0F, -0.0F};
+  return _mm256_xor_ps(v,
+                       f32x8{zeros[a], zeros[b], zeros[c], zeros[d], zeros[e], zeros[f], zeros[g], zeros[h]});
+}
+template <int a, int b, int c, int d>
+static inline f64x4 flip_signs(f64x4 v) {
+  constexpr double zeros[] = {0.0, -0.0};
+  return _mm256_xor_pd(v, f64x4{zeros[a], zeros[b], zeros[c], zeros[d]});
 }
 
-/// Any lanes of two registers; -1 for idle ones.
+/// Picks any lanes of two registers: those of u count from 0, and those of v follow; -1 for lanes that may hold
+/// anything. Compilers find the instruction for every pick that takes only one.
 template <int... picks, class V>
 static inline auto permute(V u, V v) {
   return __builtin_shufflevector(u, v, picks...);
@@ -71,6 +85,10 @@ template <class V>
 static inline V in_low_lanes(f64x2 v) {
   return _mm256_castpd128_pd256(v);
 }
+template <class V>
+static inline V in_low_lanes(f32x4 v) {
+  return _mm256_castps128_ps256(v);
+}
 
 /// a - b in even lanes, a + b in odd ones.
 static inline f64x2 subtract_add(f64x2 a, f64x2 b) { return _mm_addsub_pd(a, b); }
@@ -78,16 +96,12 @@ static inline f64x4 subtract_add(f64x4 a, f64x4 b) { return _mm256_addsub_pd(a, 
 static inline f32x4 subtract_add(f32x4 a, f32x4 b) { return _mm_addsub_ps(a, b); }
 static inline f32x8 subtract_add(f32x8 a, f32x8 b) { return _mm256_addsub_ps(a, b); }
 
-template <int a, int b, int c, int d>
-static inline f64x4 flip_signs(f64x4 v) {
-  return _mm256_xor_pd(v, f64x4{a ? -0.0 : 0.0, b ? -0.0 : 0.0, c ? -0.0 : 0.0, d ? -0.0 : 0.0});
-}
+// ---- Between the precisions.
 
-// ---- Precisions.
-
+/// The low lanes as V.
 template <class V>
 static inline V widened(f32x4 v) {
-  if constexpr (sizeof(V) == 16) {
+  if constexpr (lanes_of<V> == 2) {
     return _mm_cvtps_pd(v);
   } else {
     return _mm256_cvtps_pd(v);
@@ -97,6 +111,8 @@ template <class V>
 static inline V widened(float x) {
   return x;
 }
+
+/// The upper lanes are zero where there are fewer than four.
 template <class V>
 static inline V narrowed(f64x2 v) {
   return _mm_cvtpd_ps(v);

@@ -12,24 +12,22 @@ namespace xfm::wht {
 
 /// The values that hold a block: registers, or single elements.
 template <class T, int block>
-using BlockValue = std::conditional_t<lanes_in_use(block, lanes_of<Register<T>>) == 1, T, Register<T>>;
+using BlockValue = Vector<T, lanes_in_use(block, lanes_of<Register<T>>, unaligned_is_free)>;
 
-/// Memory of single elements, for lengths that fill no register.
-struct Single {
-  template <class T>
-  XFM_INLINE static T load(const T* p) {
-    return *p;
-  }
-  template <class T>
-  XFM_INLINE static void store(T* p, T v) {
-    *p = v;
-  }
-};
-
-/// How many registers of a block are transposed together. Twice as many as they have lanes cover one stage
-/// more, which pays from four lanes on.
+/// How many registers of a block share their low stages. Those that are transposed are as many as they have
+/// lanes, or twice as many, which covers one stage more and pays from four lanes on.
 template <class V, int count>
-inline constexpr int group_size = (lanes_of<V> > 2 && count > lanes_of<V> ? 2 : 1) * lanes_of<V>;
+inline constexpr int group_size = unaligned_is_free
+                                      ? 1
+                                      : (lanes_of<V> > 2 && count > lanes_of<V> ? 2 : 1) * lanes_of<V>;
+
+template <int count, class V>
+XFM_INLINE inline void low_stages(V* v) {
+  if constexpr (unaligned_is_free)
+    *v = stages_within(*v);
+  else if constexpr (lanes_of<V> > 1)
+    transposed_stages<count>(v);
+}
 
 /// All stages of `block` adjacent elements; take(index, register) of every result.
 template <int block, class Memory, class T, class Take>
@@ -38,18 +36,21 @@ XFM_INLINE inline void block_pass(const T* src, Take take) {
   constexpr int width = lanes_of<V>, count = block / width, group = group_size<V, count>;
   transform<count, group, V>(
       [&](V* v, int at) XFM_INLINE {
-        unrolled<group>([&](auto i) XFM_INLINE { v[i] = Memory::load(src + (at + i) * width); });
-        if constexpr (width > 1) group_stages<group>(v);
+        unrolled<group>([&](auto i) XFM_INLINE { v[i] = Memory::template load<V>(src + (at + i) * width); });
+        low_stages<group>(v);
       },
       [&](int i, V v) XFM_INLINE { take(i * width, v); });
 }
+
+/// Single elements are aligned, and work buffers for the registers of the baseline.
+using AnyMemory = std::conditional_t<unaligned_is_free, Unaligned, Aligned>;
 
 /// The stages between `radix` vectors that are `stride` elements apart.
 template <int radix, int stride, class T, class Take>
 XFM_INLINE inline void column_pass(const T* src, Take take) {
   using V = Register<T>;
   for (int at = 0; at < stride; at += lanes_of<V>) {
-    transform<radix, 1, V>([&](V* v, int i) XFM_INLINE { *v = Aligned::load(src + at + i * stride); },
+    transform<radix, 1, V>([&](V* v, int i) XFM_INLINE { *v = AnyMemory::load<V>(src + at + i * stride); },
                            [&](int i, V v) XFM_INLINE { take(at + i * stride, v); });
   }
 }
@@ -64,11 +65,11 @@ XFM_INLINE inline void fill_main_area(const T* src, T* buffer) {
     T* const blocks = p.has_staging() ? staging : buffer + at;
     for (int b = 0; b < p.super_block(); b += p.block) {
       block_pass<p.block, Memory>(
-          src + at + b, [&](int i, Register<T> v) XFM_INLINE { Aligned::store(blocks + b + i, v); });
+          src + at + b, [&](int i, Register<T> v) XFM_INLINE { AnyMemory::store(blocks + b + i, v); });
     }
     if constexpr (p.has_staging()) {
       column_pass<p.middle, p.block>(
-          staging, [&](int i, Register<T> v) XFM_INLINE { Aligned::store(buffer + at + i, v); });
+          staging, [&](int i, Register<T> v) XFM_INLINE { AnyMemory::store(buffer + at + i, v); });
     }
   }
 }
@@ -81,7 +82,8 @@ constexpr auto make_factors() {
       sizeof(T) == sizeof(float) ? static_cast<T>(0x1.6a09e6p-1F) : static_cast<T>(0x1.6a09e667f3bccp-1);
   constexpr T by_n = T{1} / (1 << order);
   constexpr T by_sqrt_n = (order % 2 == 0 ? T{1} : half_root) / (1 << order / 2);
-  return Factors<T, lanes_of<BlockValue<T, 1 << order>>>(by_n, by_n, by_sqrt_n);
+  constexpr int lanes = unaligned_is_free ? 1 : lanes_of<BlockValue<T, 1 << order>>;
+  return Factors<T, lanes>(by_n, by_n, by_sqrt_n);
 }
 template <class T, int order>
 inline constexpr auto factors = make_factors<T, order>();
@@ -89,8 +91,11 @@ inline constexpr auto factors = make_factors<T, order>();
 template <class T, int order>
 XFM_INLINE inline auto factor(std::int32_t flag) {
   using V = BlockValue<T, 1 << order>;
-  using Memory = std::conditional_t<lanes_of<V> == 1, Single, Aligned>;
-  return Memory::load(factors<T, order>.of(flag));
+  const T* const row = factors<T, order>.of(flag);
+  if constexpr (unaligned_is_free)
+    return broadcast<V>(*row);
+  else
+    return Aligned::load<V>(row);
 }
 
 /// What the last pass does with its results.
@@ -120,11 +125,16 @@ XFM_INLINE inline xfmStatus body(const T* src, T* dst, std::int32_t flag, void* 
 #define XFM_WHT_SIGNATURE(name, type) \
   xfmStatus name(const xfm##type* src, xfm##type* dst, int32_t flag, void* buffer)
 
-/// A kernel that goes element by element, whatever the alignment.
-#define XFM_WHT_SCALAR(order, type)                                                    \
-  XFM_WHT_SIGNATURE(xfmWHT_##order##_##type, type) {                                   \
-    return xfm::wht::body<xfm##type, order, xfm::wht::Single>(src, dst, flag, buffer); \
+/// A kernel of one body, whatever the alignment: element by element, or where unaligned data are free.
+#define XFM_WHT_ONE_BODY(order, type)                                                     \
+  XFM_WHT_SIGNATURE(xfmWHT_##order##_##type, type) {                                      \
+    return xfm::wht::body<xfm##type, order, xfm::wht::AnyMemory>(src, dst, flag, buffer); \
   }
+
+#if XFM_UNALIGNED_IS_FREE
+#define XFM_WHT_TWO_BODIES XFM_WHT_ONE_BODY
+#define XFM_WHT_WITH_UNALIGNED_VARIANT XFM_WHT_ONE_BODY
+#else
 
 /// A kernel that holds both its aligned and its unaligned body.
 #define XFM_WHT_TWO_BODIES(order, type)                                                                 \
@@ -144,3 +154,5 @@ XFM_INLINE inline xfmStatus body(const T* src, T* dst, std::int32_t flag, void* 
     if (!xfm::aligned(src, dst)) return xfmWHT_##order##_##type##_unaligned(src, dst, flag, buffer); \
     return xfm::wht::body<xfm##type, order, xfm::Aligned>(src, dst, flag, buffer);                   \
   }
+
+#endif

@@ -1,6 +1,7 @@
 // How an order is cut into passes: the one table of the family, and what follows from a row.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 
 namespace xfm::wht {
@@ -45,9 +46,13 @@ constexpr const Passes& passes(int order) {
   return (sizeof(T) == sizeof(float) ? passes_32f : passes_64f)[order - lowest_order];
 }
 
-/// How many elements of a block are processed at once, out of the `lanes` of a register: blocks of fewer than
-/// four registers go element by element.
-constexpr int lanes_in_use(int block, int lanes) { return block < 4 * lanes ? 1 : lanes; }
+/// How many elements of a block are processed at once, out of the `lanes` of a register. Where unaligned data
+/// are free, instructions have three operands as well: then the low stages work within a register, or a part
+/// of one. Elsewhere registers are transposed, and blocks of fewer than four go element by element.
+constexpr int lanes_in_use(int block, int lanes, bool unaligned_is_free) {
+  if (unaligned_is_free) return block < 4 ? 1 : std::min(block, lanes);
+  return block < 4 * lanes ? 1 : lanes;
+}
 
 constexpr bool rows_make_their_orders() {
   for (int order = lowest_order; order <= highest_order; ++order) {

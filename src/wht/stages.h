@@ -51,10 +51,29 @@ XFM_INLINE inline void transform(Make make, Take take) {
   }
 }
 
+/// The stage of distance 1, 2, .. within a register: sums in the lower lanes of each pair, differences in the
+/// upper ones.
+template <int distance, class V>
+XFM_INLINE inline V stage_within(V v) {
+  return [&]<int... lane>(std::integer_sequence<int, lane...>) XFM_INLINE {
+    return __builtin_shufflevector(v, v, (lane ^ distance)...) + flip_signs<((lane & distance) != 0)...>(v);
+  }
+  (std::make_integer_sequence<int, lanes_of<V>>{});
+}
+
+/// All stages within a register.
+template <class V, int distance = 1>
+XFM_INLINE inline V stages_within(V v) {
+  if constexpr (distance < lanes_of<V>)
+    return stages_within<V, 2 * distance>(stage_within<distance>(v));
+  else
+    return v;
+}
+
 /// All stages of a group of `count` registers of adjacent elements. The low stages combine lanes of one
 /// register, so a transposition makes registers of these lanes first, and another one restores them.
 template <int count, class V>
-XFM_INLINE inline void group_stages(V* v) {
+XFM_INLINE inline void transposed_stages(V* v) {
   constexpr int width = lanes_of<V>, sets = count / width;
   V t[count];  // register i holds the elements i, i + count, i + 2 count, ...
   unrolled<sets>([&](auto set) XFM_INLINE {

@@ -23,16 +23,18 @@ int additions(const Passes& p, int lanes) {
 }
 
 template <class T>
-Facts facts(int order, int lanes) {
+Facts facts(int order, int lanes, bool unaligned_is_free) {
   const Passes& p = passes<T>(order);
-  const int n = p.length(), width = lanes_in_use(p.block, lanes);
+  const int n = p.length(), width = lanes_in_use(p.block, lanes, unaligned_is_free);
+  const bool one_body = width == 1 || unaligned_is_free;
   return {.points = n,
           .tree = text(p),
           .adds = n * order,
           .add_instructions = additions(p, width),
           .mult_instructions = p.is_block() ? n / width : p.last,
-          .vector_code = width > 1,
-          .two_variants = width > 1 && !p.one_function,
+          .lanes = width,
+          .two_variants = !one_body && !p.one_function,
+          .bodies = !one_body && p.one_function ? 2 : 1,
           .straight = p.is_block(),
           .buffer_bytes = static_cast<int>(p.template buffer_bytes<T>())};
 }
@@ -40,8 +42,8 @@ Facts facts(int order, int lanes) {
 }  // namespace
 
 Facts facts(int order, gen::Precision precision, const gen::Target& target) {
-  const int lanes = target.lanes(precision);
-  return precision == gen::Precision::binary32 ? facts<float>(order, lanes) : facts<double>(order, lanes);
+  const auto facts_of = precision == gen::Precision::binary32 ? facts<float> : facts<double>;
+  return facts_of(order, target.lanes(precision), target.unaligned_is_free);
 }
 
 }  // namespace xfm::wht

@@ -12,8 +12,9 @@ struct Facts {
   std::string tree;  ///< "64 x 8 x 16": block, middle radix, last radix
   int adds;          ///< real operations
   int add_instructions, mult_instructions;
-  bool vector_code;   ///< packed arithmetic
+  int lanes;          ///< elements in a register of its arithmetic; 1 if it goes element by element
   bool two_variants;  ///< an aligned and an unaligned one, as functions of their own
+  int bodies;         ///< in the function itself: two if it holds both variants
   bool straight;      ///< no loop and no call
   int buffer_bytes;
 };
