@@ -26,7 +26,7 @@ class Folding : public Rebuilding {
 
  private:
   Value make(NodeId id) override {
-    return is_product(id) ? scaled(node(id).in[0], node(id).constants) : copy(node(id));
+    return is_product(id) ? scaled(node(id).in[0], node(id).constants) : repeat(node(id));
   }
 
   bool is_product(NodeId id) const { return node(id).op == Op::mul; }

@@ -1,5 +1,6 @@
 // What passes have in common: they walk through the live nodes of a network, operands first, and rebuild them
-// in a new one.
+// in a new one. A value that its only user takes in may be left there as a dead node, which the next walk
+// drops.
 #pragma once
 
 #include <memory>
@@ -57,9 +58,12 @@ class Rebuilding {
     return all;
   }
 
+  /// The same operation on what its operands have become; throws for a linear combination.
+  Value repeat(const Node& of) { return made_->repeat(of, value(of.in[0]), value(of.in[1])); }
+
+  /// The same, but a linear combination begins with a positive term.
   Value copy(const Node& of) {
-    if (of.op == Op::combination) return combination(terms(of), of.finish);
-    return made_->repeat(of, value(of.in[0]), value(of.in[1]));
+    return of.op == Op::combination ? combination(terms(of), of.finish) : repeat(of);
   }
 
   std::unique_ptr<Network> made_;

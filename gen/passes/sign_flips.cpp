@@ -14,7 +14,7 @@ class Absorbing : public Rebuilding {
  private:
   Value make(NodeId id) override {
     const Node& of = node(id);
-    return of.op == Op::sign_flip && carries(of.in[0]) ? flipped(of.in[0], of.lanes) : copy(of);
+    return of.op == Op::sign_flip && carries(of.in[0]) ? flipped(of.in[0], of.lanes) : repeat(of);
   }
 
   // Every lane of one value, in another order.
