@@ -19,7 +19,7 @@ Kernel make_kernel(Design design) {
 }
 
 Kernel paired(Kernel kernel, int times) {
-  if (times == 0) return kernel;
+  if (times == 0 || (kernel.type.complex && kernel.type.precision == Precision::binary32)) return kernel;
   InstructionCosts costs;
   if (kernel.type.precision == Precision::binary32) costs.upper_store = 6;
   Programs programs(Equality::bits);

@@ -9,6 +9,11 @@
 namespace xfm::gen {
 namespace {
 
+// Whether all lanes of a value leave by this store: a value may also leave lane by lane.
+bool leaves_whole(const Store& store) {
+  return store.node >= 0 && std::find(store.lanes.begin(), store.lanes.end(), -1) == store.lanes.end();
+}
+
 // The graph of a network's operations as the search wants it. A unit is a node of the network.
 class Graph {
  public:
@@ -22,7 +27,7 @@ class Graph {
                    .upper_store = costs.upper_store};
     for (NodeId id = 0; id < network.nodes().size(); ++id) units_.push_back(unit(id));
     for (const Store& store : network.stores()) {
-      if (store.node >= 0) leaving_.push_back({store.node, place(store.lanes)});
+      if (leaves_whole(store)) leaving_.push_back({store.node, place(store.lanes)});
     }
   }
 
@@ -33,7 +38,7 @@ class Graph {
   // Where a value of several lanes is in memory, such that neighbours have successive numbers. Starts at even
   // and at odd elements are numbered apart, and so are lanes that are not side by side.
   int place(const PerLane& lanes) {
-    const int width = lanes.size(), far = 1 << 20;
+    const int width = lanes.size(), far = 1 << 10;
     for (int l = 1; l < width; ++l) {
       if (lanes[l] != lanes[0] + l) return far * ++scattered_;
     }
@@ -289,7 +294,7 @@ class Pairing {
     for (int t = 0; t < old_.stores().size(); ++t) {
       const Store& other = old_.stores()[t];
       const Store &low = behind ? store : other, &high = behind ? other : store;
-      if (low.node < 0 || high.node < 0 || !is_pair(low.node, high.node)) continue;
+      if (!leaves_whole(low) || !leaves_whole(high) || !is_pair(low.node, high.node)) continue;
       if (high.lanes[0] == low.lanes.back() + 1) return t;
     }
     return std::nullopt;

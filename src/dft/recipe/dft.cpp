@@ -95,7 +95,7 @@ gen::Design design(int length, Precision precision, Direction direction, const s
   } else if (const auto rounding = choices.scalar()) {
     network = packed_network(recipe, 1, Form::planar, *rounding);
   } else {
-    const int width = target.lanes(precision);
+    const int width = gen::baseline().lanes(precision);
     network = packed_network(recipe, width, Form::interleaved, Rounding::each);
     other_form = packed_network(recipe, width, Form::planar, Rounding::each);
     if (gen::instructions(*other_form) < gen::instructions(*network)) std::swap(network, other_form);
