@@ -31,7 +31,9 @@ constexpr bool kOptimized = false;
 
 }  // namespace
 
-Build this_build() { return {kCompiler, XFM_BENCH_CONFIGURATION, kFlags, kKernelFlags, processor()}; }
+Build this_build(const catalogue::Target& target) {
+  return {target.name, kCompiler, XFM_BENCH_CONFIGURATION, kFlags, target.compile_flags, processor()};
+}
 
 double load() {
   double average = 0;

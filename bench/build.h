@@ -1,11 +1,14 @@
-// What was measured: compiler, options and processor; and which builds are not worth measuring.
+// What was measured: target, compiler, options and processor; and which builds are not worth measuring.
 #pragma once
 
 #include <string>
 
+#include "tools/catalogue.h"
+
 namespace xfm::bench {
 
 struct Build {
+  std::string target;
   std::string compiler;
   std::string configuration;  ///< "Release"
   std::string flags;          ///< of everything
@@ -13,7 +16,7 @@ struct Build {
   std::string processor;
 };
 
-Build this_build();
+Build this_build(const catalogue::Target& target);
 
 /// Load average of the last minute. Work on a core that shares its units with ours slows every batch alike,
 /// so no statistic can reveal it: figures of a run under load deserve a second look.

@@ -178,15 +178,9 @@ catalogue::Kernel row(const std::string& name, Precision precision, int exponent
           .points = n,
           .read = n,
           .written = n,
-          .exchanges = -1,
-          .packed = n > 32,
-          .packed_math = n > 32,
-          .straight = false,
           .tree = "",
           .adds = 3 * n * exponent / 2,
           .mults = n * exponent / 2,  // and one for every output, which the limit counts
-          .add_instructions = 0,
-          .mult_instructions = 0,
           .buffer_bytes = 0,
           .call = nullptr,
           .call_with_buffer = nullptr};
@@ -207,6 +201,17 @@ std::span<const catalogue::Kernel> dct4_kernels() {
     return result;
   }();
   return rows;
+}
+
+catalogue::Form dct4_form(const catalogue::Kernel& kernel) {
+  const int lanes = kernel.precision == Precision::binary32 ? 4 : 2;
+  return {.lanes = kernel.length > 32 ? lanes : 1,
+          .straight = false,
+          .two_variants = false,
+          .bodies = 1,
+          .exchanges = -1,
+          .add_instructions = 0,
+          .mult_instructions = 0};
 }
 
 ContestantPtr make_dct4(const Library& library, const catalogue::Kernel& kernel, Arrays& arrays) {

@@ -15,6 +15,9 @@ namespace xfm::bench {
 /// operation counts are those of the best known algorithms.
 std::span<const catalogue::Kernel> dct4_kernels();
 
+/// The form of such a row on the baseline, as far as the limit asks.
+catalogue::Form dct4_form(const catalogue::Kernel& kernel);
+
 /// A state of the row's length, which the library itself initialises.
 ContestantPtr make_dct4(const Library& library, const catalogue::Kernel& kernel, Arrays& arrays);
 

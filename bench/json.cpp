@@ -60,9 +60,11 @@ void write_json(std::FILE* file, const Conditions& conditions, const std::vector
   std::vector<std::string> objects;
   objects.reserve(groups.size());
   for (const Group& group : groups) objects.push_back(object(group));
-  fmt::print(
-      file, "{{\n  \"compiler\": {},\n  \"configuration\": {},\n  \"flags\": {},\n  \"kernel_flags\": {},\n",
-      quoted(build.compiler), quoted(build.configuration), quoted(build.flags), quoted(build.kernel_flags));
+  fmt::print(file,
+             "{{\n  \"target\": {},\n  \"compiler\": {},\n  \"configuration\": {},\n  \"flags\": {},\n  "
+             "\"kernel_flags\": {},\n",
+             quoted(build.target), quoted(build.compiler), quoted(build.configuration), quoted(build.flags),
+             quoted(build.kernel_flags));
   fmt::print(file, "  \"processor\": {},\n  \"rival\": {},\n  \"unaligned\": {},\n  \"in_place\": {},\n",
              quoted(build.processor), quoted(conditions.rival), conditions.placement.unaligned,
              conditions.placement.in_place);

@@ -7,6 +7,8 @@
 #include <filesystem>
 #include <stdexcept>
 
+#include "xfm.h"
+
 namespace xfm::bench {
 
 namespace {
@@ -24,7 +26,32 @@ std::string temporary_folder() {
   return folder;
 }
 
+const catalogue::Target* target_named(const std::string& name) {
+  for (const catalogue::Target& target : catalogue::targets())
+    if (target.name == name) return &target;
+  return nullptr;
+}
+
+const catalogue::Target* target_loaded() {
+  const std::string file = file_of(reinterpret_cast<const void*>(&xfmGetLibVersion));
+  for (const catalogue::Target& target : catalogue::targets()) {
+    std::error_code missing;
+    if (fs::equivalent(target.library, file, missing)) return &target;
+  }
+  return nullptr;
+}
+
 }  // namespace
+
+const catalogue::Target& chosen_target(const std::string& name) {
+  const catalogue::Target* const target = name.empty() ? target_loaded() : target_named(name);
+  if (target == nullptr)
+    throw std::runtime_error(name.empty() ? "the library loaded is not of this build"
+                                          : "no target " + name + " in this build");
+  if (!runs_here(*target))
+    throw std::runtime_error(fmt::format("this processor cannot run {}", target->name));
+  return *target;
+}
 
 Library::Library(const std::string& file) {
   const std::string folder = temporary_folder();
@@ -39,25 +66,19 @@ Library::Library(const std::string& file) {
 
 void Library::Close::operator()(void* handle) const { dlclose(handle); }
 
-std::string Library::file() const { return file_of(address("xfmGetLibVersion")); }
-
 void* Library::address(const std::string& name) const {
-  void* const function = dlsym(handle_ ? handle_.get() : RTLD_DEFAULT, name.c_str());
-  if (function == nullptr || (handle_ && file_of(function) != file_))
-    throw std::runtime_error(fmt::format("{}: not exported{}", name, handle_ ? " by both libraries" : ""));
+  void* const function = dlsym(handle_.get(), name.c_str());
+  if (function == nullptr || file_of(function) != file_)
+    throw std::runtime_error(fmt::format("{}: not exported by both libraries", name));
   return function;
 }
 
-Builds loaded_builds(const std::string& other_file) {
-  constexpr int kCopies = 3;
-  Builds builds;
-  if (other_file.empty()) {
-    builds.ours.emplace_back();
-    return builds;
-  }
-  for (int i = 0; i < kCopies; ++i) {
-    builds.ours.emplace_back(Library().file());
-    builds.other.emplace_back(other_file);
+Builds loaded_builds(const catalogue::Target& target, const std::string& other) {
+  const bool alone = other.empty();
+  Builds builds{&target, {}, {}};
+  for (int copies = alone ? 1 : 3; copies > 0; --copies) {
+    builds.ours.emplace_back(target.library);
+    if (!alone) builds.other.emplace_back(target_named(other) ? chosen_target(other).library : other);
   }
   return builds;
 }

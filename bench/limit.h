@@ -5,9 +5,9 @@
 
 namespace xfm::bench {
 
-/// The least core cycles that a call of a kernel with 128-bit instructions can take on a core that starts two
-/// additions, two multiplications, two loads and one store a cycle, and three additions and shuffles
-/// together:
+/// The least core cycles that a call of a kernel of this form can take, with all lanes of its registers in
+/// use, on a core that starts two additions, two multiplications, two loads and one store a cycle, and three
+/// additions and shuffles together:
 ///
 ///   max(additions / 2, multiplications / 2, (additions + shuffles) / 3, loads / 2, stores) + 7
 ///
@@ -15,6 +15,6 @@ namespace xfm::bench {
 /// dependency chains, spills, conversions between formats and the transpositions inside a kernel, so some
 /// kernels cannot reach it. The figures are those of a Zen 4; other cores differ in detail, and wider ones
 /// can go below it.
-double limit_in_cycles(const catalogue::Kernel& kernel);
+double limit_in_cycles(const catalogue::Kernel& kernel, const catalogue::Form& form);
 
 }  // namespace xfm::bench

@@ -28,7 +28,7 @@ using Kernels = std::vector<const catalogue::Kernel*>;
 
 struct Options {
   std::vector<std::string> only;
-  std::string against;
+  std::string target, against;
   int rounds = 1000;
   std::string json;
   std::string markdown;
@@ -40,9 +40,12 @@ void define(CLI::App& app, Options& options) {
   app.add_option("--only", options.only, "Only kernels whose name contains TEXT, such as _64fc; repeatable")
       ->type_name("TEXT")
       ->allow_extra_args(false);
+  app.add_option("--target", options.target,
+                 "Measure the library of this target, instead of the one that the loader chooses")
+      ->type_name("NAME");
   app.add_option("--against", options.against,
-                 "Race another build of libxfm, the shared library FILE, instead of FFTW")
-      ->type_name("FILE");
+                 "Race another libxfm, a shared library or a target of this build, instead of FFTW")
+      ->type_name("FILE|NAME");
   app.add_option("--rounds", options.rounds, "Rounds per kernel")
       ->check(CLI::Range(1, 1000000))
       ->capture_default_str();
@@ -128,9 +131,9 @@ void measure(const Options& options) {
   if (const std::string reason = objection(); !reason.empty())
     throw std::runtime_error("refusing to measure: " + reason);
   const File json = opened(options.json), markdown = opened(options.markdown);
-  const Builds builds = loaded_builds(options.against);
+  const Builds builds = loaded_builds(chosen_target(options.target), options.against);
   const std::string rival = builds.other.empty() ? rival_version() : "libxfm, " + options.against;
-  const Conditions conditions{this_build(), rival, options.placement, options.rounds, load()};
+  const Conditions conditions{this_build(*builds.target), rival, options.placement, options.rounds, load()};
   print_heading(conditions);
   std::fflush(stdout);
   const auto groups = grouped(raced(planned(kernels, options.placement, builds), options.rounds));

@@ -51,8 +51,8 @@ void write_table(std::FILE* file, const Groups& groups) {
 }  // namespace
 
 void write_markdown(std::FILE* file, const Conditions& conditions, const std::vector<Group>& groups) {
-  fmt::print(file, "{}, {}, {}; rounds: {}.\n", conditions.build.processor, conditions.build.compiler,
-             conditions.rival, conditions.rounds);
+  fmt::print(file, "{} on {}, {}, {}; rounds: {}.\n", conditions.build.target, conditions.build.processor,
+             conditions.build.compiler, conditions.rival, conditions.rounds);
   for (const Groups& table : tables(groups)) write_table(file, table);
 }
 

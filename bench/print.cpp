@@ -62,6 +62,7 @@ void print_means(const Group& group) {
 
 void print_heading(const Conditions& conditions) {
   const Build& build = conditions.build;
+  fmt::print("target     {}\n", build.target);
   fmt::print("compiler   {}, {}\n", build.compiler, build.configuration);
   fmt::print("flags      {}\n", build.flags);
   fmt::print("kernels    {}\n", build.kernel_flags);
@@ -77,7 +78,7 @@ void print_heading(const Conditions& conditions) {
 void print_tables(const std::vector<Group>& groups) {
   fmt::print(
       "\nratio: the rival's time over ours, by least time and by median; above 1 we are ahead.\n"
-      "ours, rival, limit: core cycles per call; the limit is an estimate for 128-bit instructions.\n");
+      "ours, rival, limit: core cycles per call; the limit is an estimate for the target's registers.\n");
   for (const Group& group : groups) {
     print_table(group);
     print_others(group);

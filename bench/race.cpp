@@ -98,6 +98,10 @@ void check_agreement(const catalogue::Kernel& kernel, Contestant& ours, Contesta
         fmt::format("{}: output differs from the rival's by {:.1e} of its norm", kernel.name, apart));
 }
 
+double limit(const catalogue::Kernel& kernel, const catalogue::Target& target) {
+  return limit_in_cycles(kernel, kernel.call == nullptr ? dct4_form(kernel) : form(target, kernel));
+}
+
 Summary divided(Summary summary, double divisor) {
   return {summary.least / divisor, summary.median / divisor};
 }
@@ -111,7 +115,7 @@ void Race::Lane::warm_up() { time_batch(*contestant, calls); }
 void Race::Lane::sample() { samples.push_back(time_batch(*contestant, calls)); }
 
 Race::Race(const catalogue::Kernel& kernel, Placement placement, const Builds& builds)
-    : kernel_(&kernel), arrays_(kernel, placement) {
+    : kernel_(&kernel), limit_(limit(kernel, *builds.target)), arrays_(kernel, placement) {
   const bool beside_fftw = builds.other.empty();
   auto rival = beside_fftw ? make_rival(kernel, arrays_) : make_kernel(builds.other, kernel, arrays_);
   auto ours = make_kernel(builds.ours, kernel, arrays_);
@@ -141,7 +145,7 @@ void Race::run(int rounds) {
 Result Race::result() const {
   const double cycle = summarize(lanes_[kChain].samples).least / CycleChain::kCyclesPerCall;
   const auto time = [&](std::size_t lane) { return divided(summarize(lanes_[lane].samples), cycle); };
-  Result result{kernel_, cycle, limit_in_cycles(*kernel_), time(kOurs), {}, {}};
+  Result result{kernel_, cycle, limit_, time(kOurs), {}, {}};
   const std::size_t first_other = lanes_.size() - others_.size();
   if (first_other > kRival) result.rival = time(kRival);
   for (std::size_t i = 0; i < others_.size(); ++i)

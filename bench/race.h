@@ -62,6 +62,7 @@ class Race {
   };
 
   const catalogue::Kernel* kernel_;
+  double limit_;
   Arrays arrays_;
   std::vector<Lane> lanes_;          // the cycle chain, the kernel, its rival if there is one, further rivals
   std::vector<std::string> others_;  // their names

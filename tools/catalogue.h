@@ -1,5 +1,5 @@
-// The kernels of this build as a table that programs can walk: tests and the bench are driven by it. Both
-// tables are generated from the list of families (families.h), like the public header and the export map.
+// The kernels of this build as tables that programs can walk: tests and the bench are driven by them. They
+// are generated from the list of families (families.h), like the public header and the export map.
 #pragma once
 
 #include <cstdint>
@@ -32,20 +32,14 @@ struct Kernel {
   const char* type;    ///< suffix of the element type, "32fc"
   Precision precision;
   Scaling scaling;
-  int length;             ///< transform length, or the order in families that count by it
-  int points;             ///< the N of the factors
-  int read;               ///< real scalars read from src
-  int written;            ///< real scalars written to dst
-  int exchanges;          ///< exact number of lane exchanges in the body, or -1 where it is not prescribed
-  bool packed;            ///< vector body: has an aligned and an unaligned variant
-  bool packed_math;       ///< false where the body must hold no packed arithmetic at all
-  bool straight;          ///< no loop and no call
-  const char* tree;       ///< breakdown
-  int adds;               ///< bound: real additions without the factor
-  int mults;              ///< bound: real multiplications without the factor
-  int add_instructions;   ///< additions and subtractions in a body as written
-  int mult_instructions;  ///< multiplications in a body, including those by the factor
-  int buffer_bytes;       ///< work buffer
+  int length;        ///< transform length, or the order in families that count by it
+  int points;        ///< the N of the factors
+  int read;          ///< real scalars read from src
+  int written;       ///< real scalars written to dst
+  const char* tree;  ///< breakdown
+  int adds;          ///< bound: real additions without the factor
+  int mults;         ///< bound: real multiplications without the factor
+  int buffer_bytes;  ///< work buffer
   Call call;
   BufferedCall call_with_buffer;  ///< null where the family has none
 };
@@ -60,7 +54,34 @@ struct Generic {
   BufferedGenericCall call_with_buffer;  ///< null where the family has none
 };
 
+/// How a target's library computes a kernel. The bits are the same on all targets.
+struct Form {
+  int lanes;             ///< numbers in the widest register of its arithmetic; 1: no packed arithmetic at all
+  bool straight;         ///< no loop and no call
+  bool two_variants;     ///< an aligned and an unaligned one, as functions of their own
+  int bodies;            ///< in the function itself: two if it holds both variants
+  int exchanges;         ///< exact number of lane exchanges in a body, or -1 where it is not prescribed
+  int add_instructions;  ///< additions and subtractions in a body as written
+  int mult_instructions;  ///< multiplications in a body, including those by the factor
+};
+
+/// A target that this build has a library for.
+struct Target {
+  const char* name;             ///< "x86-64-v3"
+  const char* library;          ///< the path of its libxfm
+  const char* compile_flags;    ///< of its kernels
+  std::span<const Form> forms;  ///< in the order of kernels()
+};
+
 std::span<const Kernel> kernels();
 std::span<const Generic> generics();
+/// The baseline first.
+std::span<const Target> targets();
+
+/// How the target computes the kernel; throws std::out_of_range if it is not in the catalogue.
+const Form& form(const Target& target, const Kernel& kernel);
+
+/// Whether this processor has the target's instructions. The loader judges, as when it chooses a library.
+bool runs_here(const Target& target);
 
 }  // namespace xfm::catalogue

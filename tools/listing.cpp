@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <sstream>
 
 #include "src/wht/recipe/rows.h"
@@ -68,26 +69,34 @@ std::string calls(const std::string& function, bool takes_buffer) {
                       : fmt::format("&call<{}>, nullptr", function);
 }
 
-// A kernel as the catalogue has it.
+// A kernel and its form as the catalogue has them.
 struct Row {
   std::string name, family;
   ElementType type;
   gen::Scaling scaling;
-  int length, points, read, written, exchanges;
-  bool packed, packed_math, straight;
+  int length, points, read, written;
   std::string tree;
-  int adds, mults, add_instructions, mult_instructions, buffer_bytes;
+  int adds, mults, buffer_bytes;
+};
+struct Form {
+  int lanes;
+  bool straight, two_variants;
+  int bodies, exchanges, add_instructions, mult_instructions;
 };
 
 std::string text(const Row& row, bool takes_buffer) {
   std::string text = fmt::format(R"(    {{"{}", "{}", "{}", )", row.name, row.family, row.type.suffix());
   text += row.type.precision == gen::Precision::binary32 ? "Precision::binary32, " : "Precision::binary64, ";
-  text += fmt::format("{}, {}, {}, {}, {}, {}, ", scaling_name(row.scaling), row.length, row.points, row.read,
-                      row.written, row.exchanges);
-  text += fmt::format("{}, {}, {}, \"{}\", ", row.packed, row.packed_math, row.straight, row.tree);
-  text += fmt::format("{}, {}, {}, {}, {}, ", row.adds, row.mults, row.add_instructions,
-                      row.mult_instructions, row.buffer_bytes);
+  text += fmt::format("{}, {}, {}, {}, {}, ", scaling_name(row.scaling), row.length, row.points, row.read,
+                      row.written);
+  text += fmt::format("\"{}\", {}, {}, {}, ", row.tree, row.adds, row.mults, row.buffer_bytes);
   return text + calls(row.name, takes_buffer) + "},\n";
+}
+
+std::string text(const Form& form, const std::string& name) {
+  return fmt::format("    {{{}, {}, {}, {}, {}, {}, {}}},  // {}\n", form.lanes, form.straight,
+                     form.two_variants, form.bodies, form.exchanges, form.add_instructions,
+                     form.mult_instructions, name);
 }
 
 }  // namespace
@@ -128,57 +137,87 @@ std::string generic_functions() {
   return text;
 }
 
+Listed& Listed::operator+=(const Listed& more) {
+  kernel += more.kernel;
+  form += more.form;
+  return *this;
+}
+
 // With one complex number per register, each join exchanges the parts once, so the number of permutations is
 // exact.
-std::string catalogue_row(const Family& family, const gen::Kernel& kernel) {
+Listed listed(const Family& family, const gen::Kernel& kernel) {
   const gen::Counts counts = count(*kernel.network);
-  const bool joined = kernel.type.complex && kernel.type.precision == gen::Precision::binary64;
-  return text({.name = kernel.name(),
-               .family = kernel.family,
-               .type = kernel.type,
-               .scaling = kernel.scaling,
-               .length = kernel.length,
-               .points = kernel.length,
-               .read = kernel.read,
-               .written = kernel.written,
-               .exchanges = joined ? counts.permutations : -1,
-               .packed = kernel.packed(),
-               .packed_math = kernel.packed(),
-               .straight = true,
-               .tree = kernel.tree,
-               .adds = kernel.adds,
-               .mults = kernel.mults,
-               .add_instructions = counts.add_nodes,
-               .mult_instructions = counts.mult_nodes,
-               .buffer_bytes = 0},
-              family.takes_buffer());
+  const int lanes = kernel.network->width();
+  const bool joined = kernel.type.complex && kernel.type.precision == gen::Precision::binary64 && lanes == 2;
+  const Row row = {.name = kernel.name(),
+                   .family = kernel.family,
+                   .type = kernel.type,
+                   .scaling = kernel.scaling,
+                   .length = kernel.length,
+                   .points = kernel.length,
+                   .read = kernel.read,
+                   .written = kernel.written,
+                   .tree = kernel.tree,
+                   .adds = kernel.adds,
+                   .mults = kernel.mults,
+                   .buffer_bytes = 0};
+  const Form form = {.lanes = lanes,
+                     .straight = true,
+                     .two_variants = kernel.packed(),
+                     .bodies = 1,
+                     .exchanges = joined ? counts.permutations : -1,
+                     .add_instructions = counts.add_nodes,
+                     .mult_instructions = counts.mult_nodes};
+  return {text(row, family.takes_buffer()), text(form, row.name)};
 }
 
-std::string catalogue_row(const Family& family, int length, const ElementType& type,
-                          const gen::Target& target) {
+Listed listed(const Family& family, int length, const ElementType& type, const gen::Target& target) {
   const wht::Facts facts = wht::facts(length, type.precision, target);
-  return text({.name = kernel_name(family, length, type),
-               .family = family.name,
-               .type = type,
-               .scaling = gen::Scaling::symmetric,
-               .length = length,
-               .points = facts.points,
-               .read = facts.points,
-               .written = facts.points,
-               .exchanges = -1,
-               .packed = facts.two_variants,
-               .packed_math = facts.lanes > 1,
-               .straight = facts.straight,
-               .tree = facts.tree,
-               .adds = facts.adds,
-               .mults = 0,
-               .add_instructions = facts.add_instructions,
-               .mult_instructions = facts.mult_instructions,
-               .buffer_bytes = facts.buffer_bytes},
-              family.takes_buffer());
+  const Row row = {.name = kernel_name(family, length, type),
+                   .family = family.name,
+                   .type = type,
+                   .scaling = gen::Scaling::symmetric,
+                   .length = length,
+                   .points = facts.points,
+                   .read = facts.points,
+                   .written = facts.points,
+                   .tree = facts.tree,
+                   .adds = facts.adds,
+                   .mults = 0,
+                   .buffer_bytes = facts.buffer_bytes};
+  const Form form = {.lanes = facts.lanes,
+                     .straight = facts.straight,
+                     .two_variants = facts.two_variants,
+                     .bodies = facts.bodies,
+                     .exchanges = -1,
+                     .add_instructions = facts.add_instructions,
+                     .mult_instructions = facts.mult_instructions};
+  return {text(row, family.takes_buffer()), text(form, row.name)};
 }
 
-std::string catalogue(const std::string& rows) {
+std::string catalogue_of_forms(const gen::Target& target, const std::string& forms) {
+  std::string identifier(target.name);
+  std::ranges::replace(identifier, '-', '_');
+  return fmt::format(R"(// Written by xfmgen from the list of families.
+#include "tools/catalogue.h"
+
+namespace xfm::catalogue {{
+namespace {{
+
+constexpr Form all_forms[] = {{
+{1}}};
+
+}}  // namespace
+
+extern const std::span<const Form> forms_{0};
+constinit const std::span<const Form> forms_{0} = all_forms;
+
+}}  // namespace xfm::catalogue
+)",
+                     identifier, forms);
+}
+
+std::string catalogue(const std::string& kernels) {
   std::string generics;
   for_each_type([&](const Family& family, const ElementType& type) {
     generics += fmt::format("    {{\"{}\", \"{}\", \"{}\", {}, {}, {}}},\n", family.generic(type),
@@ -206,7 +245,7 @@ xfmStatus call_with_null(const void* src, void* dst, Rest... rest) {
 }
 
 constexpr Kernel all_kernels[] = {
-)" + rows +
+)" + kernels +
          "};\n\nconstexpr Generic all_generics[] = {\n" + generics + R"(};
 
 }  // namespace

@@ -16,12 +16,18 @@ std::string export_map();
 /// The generic functions: length to kernel.
 std::string generic_functions();
 
-/// A row of the catalogue (catalogue.h explains the columns), of a generated or a hand-written kernel.
-std::string catalogue_row(const Family& family, const gen::Kernel& kernel);
-std::string catalogue_row(const Family& family, int length, const gen::ElementType& type,
-                          const gen::Target& target);
+/// What the catalogue has of a kernel, as rows of its tables; catalogue.h explains the columns.
+struct Listed {
+  std::string kernel, form;
 
-/// The tables behind catalogue.h.
-std::string catalogue(const std::string& rows);
+  Listed& operator+=(const Listed& more);
+};
+/// Of a generated or a hand-written kernel.
+Listed listed(const Family& family, const gen::Kernel& kernel);
+Listed listed(const Family& family, int length, const gen::ElementType& type, const gen::Target& target);
+
+/// The tables behind catalogue.h: those of the library, and that of the forms on a target.
+std::string catalogue(const std::string& kernels);
+std::string catalogue_of_forms(const gen::Target& target, const std::string& forms);
 
 }  // namespace xfm

@@ -33,13 +33,14 @@ std::vector<Kernel> kernels_of(const Family& family, int length, const Target& t
 }
 
 // One file for each family and length: a changed row recompiles that file and no other. The loop is by
-// length, so that the kernels of all families can be compared.
+// length, so that the kernels of all families can be compared. What is the same for all targets is written
+// with the baseline's.
 void write_all(const std::filesystem::path& out, const Target& target) {
   const auto write = [&](const std::string& name, const std::string& text) {
     xfm::gen::write_if_changed(out / name, text);
   };
   xfm::gen::SharedConstants shared;
-  std::map<std::string, std::string> rows;  // of each family
+  std::map<std::string, xfm::Listed> rows;  // of each family
   std::map<int, std::vector<const Family*>> by_length;
   for (const Family& family : families()) {
     for (const int length : family.lengths())
@@ -48,24 +49,25 @@ void write_all(const std::filesystem::path& out, const Target& target) {
   for (const auto& [length, all] : by_length) {
     std::vector<Kernel> kernels;
     for (const Family* const family : all) {
-      std::string& family_rows = rows[family->name];
+      xfm::Listed& family_rows = rows[family->name];
       if (family->by_hand()) {
-        for (const auto& type : family->types())
-          family_rows += xfm::catalogue_row(*family, length, type, target);
+        for (const auto& type : family->types()) family_rows += xfm::listed(*family, length, type, target);
         continue;
       }
       std::vector<Kernel> of_family = kernels_of(*family, length, target);
-      for (const Kernel& kernel : of_family) family_rows += xfm::catalogue_row(*family, kernel);
+      for (const Kernel& kernel : of_family) family_rows += xfm::listed(*family, kernel);
       write(fmt::format("{}_{}.cpp", family->name, length), emit_file(of_family, target, shared));
       std::ranges::move(of_family, std::back_inserter(kernels));
     }
     xfm::check_promises(kernels);
   }
-  std::string all_rows;
+  xfm::Listed all_rows;
   for (const Family& family : families()) all_rows += rows[family.name];
   write("constants.cpp", shared.definitions(target));
+  write("forms.cpp", xfm::catalogue_of_forms(target, all_rows.form));
+  if (target.name != xfm::gen::baseline().name) return;
+  write("catalogue.cpp", xfm::catalogue(all_rows.kernel));
   write("generic.cpp", xfm::generic_functions());
-  write("catalogue.cpp", xfm::catalogue(all_rows));
   write("xfm.map", xfm::export_map());
 }
 

@@ -63,6 +63,7 @@ class Tracer {
     }
     body_.has_loop = has_loop();
     body_.late_branches = late_branches();
+    body_.dirty_exits = dirty_exits();
     return std::move(body_);
   }
 
@@ -109,22 +110,39 @@ class Tracer {
 
   static bool is_arithmetic(const Instruction& instruction) { return instruction.sort >= Sort::scalar_add; }
 
-  std::vector<std::string> late_branches() const {
+  /// Everything that can run after an instruction that starts, without passing one that ends.
+  template <class Starts, class Ends>
+  std::unordered_set<const Instruction*> reached(Starts starts, Ends ends) const {
     Instructions open;
     for (const auto& [instruction, next] : successors_)
-      if (is_arithmetic(*instruction)) open.push_back(instruction);
+      if (starts(*instruction)) open.insert(open.end(), next.begin(), next.end());
     std::unordered_set<const Instruction*> seen;
-    std::vector<std::string> branches;
     while (!open.empty()) {
       const Instruction* instruction = open.back();
       open.pop_back();
-      if (!seen.insert(instruction).second) continue;
-      if (instruction->is_jump() && !instruction->is_unconditional_jump())
-        branches.push_back(instruction->text());
+      if (ends(*instruction) || !seen.insert(instruction).second) continue;
       const Instructions& next = successors_.at(instruction);
       open.insert(open.end(), next.begin(), next.end());
     }
+    return seen;
+  }
+
+  std::vector<std::string> late_branches() const {
+    std::vector<std::string> branches;
+    for (const Instruction* const instruction :
+         reached(is_arithmetic, [](const Instruction&) { return false; }))
+      if (instruction->is_jump() && !instruction->is_unconditional_jump())
+        branches.push_back(instruction->text());
     return branches;
+  }
+
+  std::vector<std::string> dirty_exits() const {
+    const auto dirties = [](const Instruction& i) { return i.writes_upper_half(); };
+    const auto cleans = [](const Instruction& i) { return i.sort == Sort::upper_halves; };
+    std::vector<std::string> exits;
+    for (const Instruction* const instruction : reached(dirties, cleans))
+      if (instruction->is_return() || instruction->is_call()) exits.push_back(instruction->text());
+    return exits;
   }
 
   /// Removes instructions that nothing leads to until none is left; a loop remains.

@@ -40,6 +40,7 @@ struct Body {
   std::vector<const Instruction*> instructions;
   std::vector<Departure> departures;
   std::vector<std::string> late_branches;  ///< conditional jumps that come after arithmetic
+  std::vector<std::string> dirty_exits;    ///< returns and calls with the upper halves of registers in use
   bool has_loop = false;
 };
 

@@ -39,7 +39,8 @@ std::vector<Kernel> packed_complex_kernels() {
   std::vector<Kernel> kernels;
   for (const Kernel& kernel : catalogue::kernels()) {
     const bool complex = std::string(kernel.family).ends_with("_CToC");
-    if (complex && kernel.packed && kernel.precision == Precision::binary32) kernels.push_back(kernel);
+    const bool packed = catalogue::form(catalogue::targets().front(), kernel).lanes > 1;
+    if (complex && packed && kernel.precision == Precision::binary32) kernels.push_back(kernel);
   }
   return kernels;
 }

@@ -1,11 +1,14 @@
 #!/bin/sh
-# usage: deterministic.sh XFMGEN FOLDER
-# Passes if the generator writes the same bytes to two folders, from two working directories.
+# usage: deterministic.sh XFMGEN FOLDER TARGET...
+# Passes if the generator writes the same bytes for each target to two folders, from two working directories.
 set -eu
 generator=$1 place=$2
+shift 2
 rm -rf "$place"
 mkdir -p "$place/one" "$place/another/place"
-(cd "$place" && "$generator" --out one)
-(cd "$place/another/place" && "$generator" --out "$place/another/place/two")
-[ "$(ls "$place/one" | wc -l)" -gt 10 ] # something was written
+for target; do
+  (cd "$place" && "$generator" --target "$target" --out "one/$target")
+  (cd "$place/another/place" && "$generator" --target "$target" --out "$place/another/place/two/$target")
+  [ "$(ls "$place/one/$target" | wc -l)" -gt 10 ] # something was written
+done
 diff -r "$place/one" "$place/another/place/two"

@@ -40,13 +40,17 @@ foreach(language c cxx)
   endforeach()
 endforeach()
 
-# A copy in a folder for newer processors, with nothing beside it, finds the core two folders up.
+# Each target's library, where it was installed, finds the core.
 add_executable(package_load load.c)
 target_link_libraries(package_load PRIVATE xfm_options ${CMAKE_DL_LIBS})
-add_test(NAME package.processor_folder COMMAND sh ${CMAKE_CURRENT_SOURCE_DIR}/processor_folder.sh
-  $<TARGET_FILE:package_load> ${prefix}/${CMAKE_INSTALL_LIBDIR} ${stage}/processor_folder
-  $<TARGET_FILE_NAME:xfm> $<TARGET_FILE_NAME:xfmcore>)
-set_tests_properties(package.processor_folder PROPERTIES FIXTURES_REQUIRED package_installed)
+foreach(target IN LISTS XFM_TARGET_NAMES)
+  xfm_target_field(${target} folder folder)
+  cmake_path(SET library NORMALIZE
+    ${prefix}/${CMAKE_INSTALL_LIBDIR}/${folder}/$<TARGET_SONAME_FILE_NAME:xfm${XFM_SUFFIX_${target}}>)
+  add_test(NAME package.load.${target} COMMAND package_load ${library})
+  set_tests_properties(package.load.${target} PROPERTIES FIXTURES_REQUIRED package_installed
+    ENVIRONMENT_MODIFICATION LD_LIBRARY_PATH=unset:)
+endforeach()
 
 # A consumer's project builds the whole library again, so the everyday test only configures it.
 set(embed -D XFM_SOURCE=${PROJECT_SOURCE_DIR})

@@ -115,7 +115,6 @@ TEST(RealFamilies, AreComplete) {
         const auto spectrum = static_cast<int>(cells(family.layout, length).size());
         EXPECT_EQ(kernel->read, family.forward ? length : spectrum) << kernel->name;
         EXPECT_EQ(kernel->written, family.forward ? spectrum : length) << kernel->name;
-        EXPECT_FALSE(kernel->packed || kernel->packed_math) << kernel->name;
       }
     }
   }

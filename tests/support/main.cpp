@@ -1,7 +1,10 @@
 // The main program of every suite that calls the library. One program tests any build of it: XFM_LIBRARY
-// names the file, and LD_LIBRARY_PATH makes the loader take it. If the two disagree, no test runs.
+// names the file, and LD_LIBRARY_PATH makes the loader take it. If the two disagree, no test runs. The
+// library of a target that this processor cannot run is not called at all: the status 77 stands for a skipped
+// test.
 #include <gtest/gtest.h>
 
+#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 
@@ -21,10 +24,21 @@ class NamedLibrary : public testing::Environment {
   }
 };
 
+/// The target of the library that XFM_LIBRARY names, if this processor cannot run it.
+const catalogue::Target* impossible_target() {
+  const char* const named = std::getenv("XFM_LIBRARY");
+  const catalogue::Target* const target = named == nullptr ? nullptr : target_of(named);
+  return target == nullptr || catalogue::runs_here(*target) ? nullptr : target;
+}
+
 }  // namespace
 }  // namespace xfm::test
 
 int main(int argc, char** argv) {
+  if (const auto* const target = xfm::test::impossible_target()) {
+    std::printf("SKIPPED: this processor cannot run %s\n", target->name);
+    return 77;
+  }
   testing::InitGoogleTest(&argc, argv);
   testing::AddGlobalTestEnvironment(new xfm::test::NamedLibrary);  // GoogleTest deletes it
   return RUN_ALL_TESTS();
