@@ -18,16 +18,16 @@ Kernel make_kernel(Design design) {
   return std::move(design.kernel);
 }
 
-Kernel paired(Kernel kernel, int times) {
-  if (times == 0 || (kernel.type.complex && kernel.type.precision == Precision::binary32)) return kernel;
-  InstructionCosts costs;
-  if (kernel.type.precision == Precision::binary32) costs.upper_store = 6;
+Kernel paired(Kernel kernel, int lanes) {
+  if (kernel.network->width() >= lanes) return kernel;
+  const Precision precision = kernel.type.precision;
   Programs programs(Equality::bits);
-  const auto read = [&](const Network& network) { return programs.read(network, kernel.type.precision); };
-  const Program program = read(*kernel.network);
-  kernel.network = lowered(*kernel.network, kernel.type.precision);
-  for (int time = 0; time < times; ++time) kernel.network = paired(*kernel.network, costs);
-  check_same(read(*kernel.network), kernel.name() + " in pairs", program, "that of single operations");
+  const Program program = programs.read(*kernel.network, precision);
+  InstructionCosts costs;
+  if (precision == Precision::binary32) costs.upper_store = 6;
+  kernel.network = lowered(*kernel.network, precision);
+  while (kernel.network->width() < lanes) kernel.network = paired(*kernel.network, costs);
+  check_same(programs.read(*kernel.network, precision), kernel.name() + " in pairs", program, "the single one");
   return kernel;
 }
 

@@ -54,8 +54,8 @@ struct Design {
 /// at the first check that fails, naming the kernel.
 Kernel make_kernel(Design design);
 
-/// The kernel with its operations in pairs, so many times: its values have up to 2, 4, .. times the lanes, and
-/// it computes the same scalar program. Throws if it does not.
-Kernel paired(Kernel kernel, int times);
+/// The kernel with its operations in pairs, again and again until its widest values have so many lanes. It
+/// computes the same scalar program; throws if it does not.
+Kernel paired(Kernel kernel, int lanes);
 
 }  // namespace xfm::gen

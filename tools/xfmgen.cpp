@@ -11,6 +11,7 @@
 #include "gen/algorithms/rules.h"
 #include "gen/write/emit.h"
 #include "gen/write/files.h"
+#include "tools/lanes.h"
 #include "tools/listing.h"
 #include "tools/promises.h"
 
@@ -21,12 +22,32 @@ using xfm::Family;
 using xfm::gen::Kernel;
 using xfm::gen::Target;
 
+// A target, and how many lanes its kernels have: those of the table, or as many as possible up to a limit.
+struct Form {
+  const Target& target;
+  int lanes = 0;
+};
+
+struct Named {
+  const Family* family;
+  xfm::gen::ElementType type;
+  int length;
+};
+
+// A kernel in the form that it has on a target.
+Kernel made(const Named& what, const std::string& tree, const Form& form) {
+  Kernel kernel = what.family->make(what.length, what.type.precision, tree, form.target);
+  const int lanes = form.lanes == 0 ? xfm::chosen_lanes(kernel, form.target)
+                                    : std::min(form.lanes, xfm::most_lanes(kernel, form.target));
+  return paired(std::move(kernel), lanes);
+}
+
 // Both precisions, on every target with the baseline's bits.
-std::vector<Kernel> kernels_of(const Family& family, int length, const Target& target) {
+std::vector<Kernel> kernels_of(const Family& family, int length, const Form& form) {
   std::vector<Kernel> kernels;
   for (const auto& type : family.types()) {
-    kernels.push_back(paired(family.make(length, type.precision, "", target), std::getenv("PAIR") ? std::atoi(std::getenv("PAIR")) : 0));
-    if (target.name != xfm::gen::baseline().name)
+    kernels.push_back(made({&family, type, length}, "", form));
+    if (form.target.name != xfm::gen::baseline().name)
       xfm::check_against_baseline(kernels.back(), family.make(length, type.precision));
   }
   return kernels;
@@ -35,7 +56,8 @@ std::vector<Kernel> kernels_of(const Family& family, int length, const Target& t
 // One file for each family and length: a changed row recompiles that file and no other. The loop is by
 // length, so that the kernels of all families can be compared. What is the same for all targets is written
 // with the baseline's.
-void write_all(const std::filesystem::path& out, const Target& target) {
+void write_all(const std::filesystem::path& out, const Form& form) {
+  const Target& target = form.target;
   const auto write = [&](const std::string& name, const std::string& text) {
     xfm::gen::write_if_changed(out / name, text);
   };
@@ -54,7 +76,7 @@ void write_all(const std::filesystem::path& out, const Target& target) {
         for (const auto& type : family->types()) family_rows += xfm::listed(*family, length, type, target);
         continue;
       }
-      std::vector<Kernel> of_family = kernels_of(*family, length, target);
+      std::vector<Kernel> of_family = kernels_of(*family, length, form);
       for (const Kernel& kernel : of_family) family_rows += xfm::listed(*family, kernel);
       write(fmt::format("{}_{}.cpp", family->name, length), emit_file(of_family, target, shared));
       std::ranges::move(of_family, std::back_inserter(kernels));
@@ -83,12 +105,6 @@ int write_header(const std::filesystem::path& frame, const std::filesystem::path
   return 1;
 }
 
-// A generated kernel that was asked for by name.
-struct Named {
-  const Family* family;
-  xfm::gen::ElementType type;
-  int length;
-};
 Named named(const std::tuple<std::string, int, std::string>& what) {
   const auto& [name, length, suffix] = what;
   for (const Family& family : families()) {
@@ -107,8 +123,8 @@ void show_rules(const xfm::gen::Tree& tree, std::set<std::string_view>& shown) {
   for (const xfm::gen::Tree& arg : tree.args) show_rules(arg, shown);
 }
 
-void show(const Named& what, const std::string& tree, const Target& target) {
-  const Kernel kernel = paired(what.family->make(what.length, what.type.precision, tree, target), std::getenv("PAIR") ? std::atoi(std::getenv("PAIR")) : 0);
+void show(const Named& what, const std::string& tree, const Form& form) {
+  const Kernel kernel = made(what, tree, form);
   const xfm::gen::Counts counts = count(*kernel.network);
   const xfm::gen::Tree parsed = xfm::gen::parse_tree(kernel.tree);
   fmt::print("{}\n  tree       {}\n  adds       {} (row {})\n  mults      {} (row {})\n", kernel.name(),
@@ -121,7 +137,7 @@ void show(const Named& what, const std::string& tree, const Target& target) {
   std::set<std::string_view> shown;
   show_rules(parsed, shown);
   xfm::gen::SharedConstants shared;
-  fmt::print("\n{}", emit_file({&kernel, 1}, target, shared));
+  fmt::print("\n{}", emit_file({&kernel, 1}, form.target, shared));
 }
 
 void show_program(const Named& what, const std::string& tree, const Target& target) {
@@ -132,12 +148,12 @@ void show_program(const Named& what, const std::string& tree, const Target& targ
              programs.text(program));
 }
 
-void costs(const Target& target) {
+void costs(const Form& form) {
   fmt::print("{:<32} {:>6} {:>6} {:>6} {:>6}  {}\n", "kernel", "adds", "row", "mults", "row", "tree");
   for (const Family& family : families()) {
     for (const auto& type : family.types()) {
       for (const int length : family.by_hand() ? std::vector<int>{} : family.lengths()) {
-        const Kernel kernel = family.make(length, type.precision, "", target);
+        const Kernel kernel = made({&family, type, length}, "", form);
         const xfm::gen::Counts counts = count(*kernel.network);
         fmt::print("{:<32} {:>6} {:>6} {:>6} {:>6}  {}\n", kernel.name(), counts.adds, kernel.adds,
                    counts.mults, kernel.mults, kernel.tree);
@@ -150,9 +166,11 @@ int run(int argc, char** argv) {
   CLI::App app{"Writes the kernels of xfm, or shows what becomes of a table's row."};
   std::string out, header, frame, tree, target_name{xfm::gen::baseline().name};
   std::tuple<std::string, int, std::string> shown, program;
+  int lanes = 0;
   bool check = false, list_costs = false;
   app.add_option("--out", out, "Write all generated sources to this folder");
   app.add_option("--target", target_name, "For this target")->capture_default_str();
+  app.add_option("--lanes", lanes, "Up to so many lanes wherever possible, instead of those of the table");
   app.add_option("--show", shown, "FAMILY N TYPE: tree, costs, rules and text of one kernel");
   app.add_option("--program", program, "FAMILY N TYPE: the scalar program of one kernel");
   app.add_option("--tree", tree, "With --show and --program: this tree instead of the row's");
@@ -163,9 +181,10 @@ int run(int argc, char** argv) {
   CLI11_PARSE(app, argc, argv);
 
   const Target& target = xfm::gen::target(target_name);
-  if (!out.empty()) write_all(out, target);
-  if (list_costs) costs(target);
-  if (!std::get<0>(shown).empty()) show(named(shown), tree, target);
+  const Form form{target, lanes};
+  if (!out.empty()) write_all(out, form);
+  if (list_costs) costs(form);
+  if (!std::get<0>(shown).empty()) show(named(shown), tree, form);
   if (!std::get<0>(program).empty()) show_program(named(program), tree, target);
   return header.empty() ? 0 : write_header(frame, header, check);
 }

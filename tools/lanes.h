@@ -1,0 +1,16 @@
+// How many lanes the kernels of a target use: the one table, from measurements.
+#pragma once
+
+#include "gen/kernel.h"
+#include "gen/targets/target.h"
+
+namespace xfm {
+
+/// The most lanes that a kernel can have on a target in whose registers its values fit. Those of real kernels
+/// are binary64 between the rounding of one statement and the next.
+int most_lanes(const gen::Kernel& kernel, const gen::Target& target);
+
+/// The lanes that the table has for a kernel; those that its recipe gave it where there is no row.
+int chosen_lanes(const gen::Kernel& kernel, const gen::Target& target);
+
+}  // namespace xfm
