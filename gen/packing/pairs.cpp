@@ -1,267 +1,230 @@
 #include "gen/packing/pairs.h"
 
 #include <algorithm>
-#include <bit>
+#include <utility>
 
+#include "gen/math/random.h"
 #include "gen/packing/matching.h"
 
 namespace xfm::gen {
 namespace {
 
-// S. Vigna's splitmix64: small, and the same everywhere.
-class Random {
- public:
-  explicit Random(std::uint64_t seed) : state_(seed) {}
-
-  std::uint64_t bits() {
-    std::uint64_t z = state_ += 0x9e3779b97f4a7c15U;
-    z = (z ^ (z >> 30)) * 0xbf58476d1ce4e5b9U;
-    z = (z ^ (z >> 27)) * 0x94d049bb133111ebU;
-    return z ^ (z >> 31);
-  }
-  int below(int n) { return static_cast<int>((bits() >> 32) * static_cast<std::uint64_t>(n) >> 32); }
-  bool one_in(int n) { return below(n) == 0; }
-
-  // -log2 of a number between 0 and 1, in units of 2^-16; straight between the powers of two.
-  std::int64_t logarithm() {
-    const std::uint64_t r = bits() | 1;
-    const int zeros = std::countl_zero(r);
-    const std::uint64_t fraction = (r << zeros << 1) >> 48;
-    return (std::int64_t{zeros + 1} << 16) - static_cast<std::int64_t>(fraction);
-  }
-
- private:
-  std::uint64_t state_;
-};
-
+// Random changes of a matching. They start where a shuffle could go or where units are alike, and grow along
+// operands and users.
 class Moves {
  public:
   Moves(Matching& matching, const Sequence<Leaving>& leaving, Random& random)
-      : matching_(matching), random_(random) {
-    for (int u = 0; u < matching.size(); ++u) {
-      const Unit& unit = matching.unit(u);
-      if (unit.load >= 0) {
-        if (unit.load >= loads_.size()) loads_.resize(static_cast<std::size_t>(unit.load) + 1, -1);
-        loads_[unit.load] = u;
-        continue;
+      : matching_(matching), graph_(matching.graph()), random_(random) {
+    for (int u = 0; u < graph_.size(); ++u) {
+      if (graph_[u].load < 0) {
+        operations_.push_back(u);
+      } else {
+        put(loads_, graph_[u].load, u);
       }
-      operations_.push_back(u);
-      if (unit.kind >= of_kind_.size()) of_kind_.resize(static_cast<std::size_t>(unit.kind) + 1);
-      of_kind_[unit.kind].push_back(u);
     }
-    for (const Leaving& l : leaving) {
-      if (l.place >= outputs_.size()) outputs_.resize(static_cast<std::size_t>(l.place) + 1, -1);
-      outputs_[l.place] = l.unit;
-    }
+    for (const auto& [unit, place] : leaving) put(outputs_, place, unit);
+    for (const int steps : {0, 1, 2, 4, 6}) classes_.push_back(likeness(graph_, steps));
   }
 
+  /// Whether there is anything to do at all.
   bool none() const { return operations_.empty(); }
 
-  // Changes the matching somewhere.
+  // Operands and users of a pair are the likeliest; the proportions matter little.
   void make() {
-    const int which = random_.below(16);
-    if (which < 6) {
-      beside_operands();
-    } else if (which < 10) {
-      beside_users();
-    } else if (which < 11) {
-      neighbours();
-    } else if (which < 13) {
-      anywhere();
-    } else if (which < 14) {
-      stretch();
-    } else if (which < 15) {
-      flip();
-    } else {
-      single_or_crossed();
-    }
+    const int choice = random_.below(14);
+    if (choice < 6) return operands_of_pair();
+    if (choice < 10) return users_of_pair();
+    if (choice < 11) return neighbours_in_memory();
+    if (choice < 13) return units_alike();
+    undo_pair();
   }
 
  private:
-  int any() { return operations_[random_.below(operations_.size())]; }
+  static void put(Sequence<int>& units, int place, int unit) {
+    if (place >= units.size()) units.resize(static_cast<std::size_t>(place) + 1, -1);
+    units[place] = unit;
+  }
 
-  void beside_operands() {
-    const int u = any();
-    if (!matching_.paired(u)) return anywhere();
-    const std::size_t slot = matching_.unit(u).in[1] >= 0 && random_.one_in(2) ? 1 : 0;
-    const int a = matching_.unit(u).in[slot], b = matching_.beside(u, slot);
-    if (matching_.high(u)) {
-      grow(b, a);
-    } else {
+  template <class Range>
+  auto some(const Range& range) {
+    return range.begin()[random_.below(static_cast<int>(range.size()))];
+  }
+  int some_user(int u) { return graph_.users(u).empty() ? -1 : some(graph_.users(u)).unit; }
+
+  void operands_of_pair() {
+    const int u = some(operations_);
+    const auto slot = static_cast<std::size_t>(random_.below(2));
+    if (!matching_.paired(u)) return units_alike();
+    if (graph_[u].in[slot] < 0) return;
+    grow_as(u, graph_[u].in[slot], matching_.beside(u, slot));
+  }
+
+  void users_of_pair() {
+    const int u = some(operations_);
+    if (!matching_.paired(u)) return units_alike();
+    grow_as(u, some_user(u), some_user(matching_.partner(u)));
+  }
+
+  void neighbours_in_memory() {
+    const bool at_outputs = random_.below(2) == 0;
+    const Sequence<int>& units = at_outputs ? outputs_ : loads_;
+    if (units.size() < 2) return;
+    const int place = random_.below(units.size() - 1), a = units[place], b = units[place + 1];
+    if (a < 0 || b < 0) return;
+    if (at_outputs) {
       grow(a, b);
-    }
-  }
-
-  void beside_users() {
-    const int u = any();
-    if (!matching_.paired(u)) return anywhere();
-    const int v = matching_.partner(u);
-    if (matching_.users(u).empty() || matching_.users(v).empty()) return;
-    const int a = some_user(u), b = some_user(v);
-    if (matching_.high(u)) {
-      grow(b, a);
     } else {
-      grow(a, b);
+      grow(some_user(a), some_user(b));
     }
   }
 
-  int some_user(int u) { return matching_.users(u)[random_.below(matching_.users(u).size())].unit; }
-
-  void neighbours() {
-    if (random_.one_in(2)) {
-      if (outputs_.size() < 2) return;
-      const int p = random_.below(outputs_.size() - 1);
-      const int a = outputs_[p], b = outputs_[p + 1];
-      if (a >= 0 && b >= 0) grow(a, b);
-    } else {
-      if (loads_.size() < 2) return;
-      const int p = random_.below(loads_.size() - 1);
-      const int a = loads_[p], b = loads_[p + 1];
-      if (a >= 0 && b >= 0) grow(some_user(a), some_user(b));
-    }
+  void units_alike() {
+    const Classes& classes = classes_[random_.below(classes_.size())];
+    const int u = some(operations_);
+    grow(u, some(classes.members[classes.of[u]]));
   }
 
-  void anywhere() {
-    const int a = any();
-    const Sequence<int>& others = of_kind_[matching_.unit(a).kind];
-    grow(a, others[random_.below(others.size())]);
-  }
-
-  void stretch() {
-    const int from = random_.below(operations_.size()), by = 1 + random_.below(operations_.size() / 2);
-    const int length = 1 + random_.below(32);
-    for (int i = from; i < from + length && i + by < operations_.size(); ++i)
-      pair(operations_[i], operations_[i + by]);
-  }
-
-  // Lanes of a group that hangs together change places.
-  void flip() {
-    const int u = any();
+  void undo_pair() {
+    const int u = some(operations_);
     if (!matching_.paired(u)) return;
-    group_.assign(1, u);
-    const int most = 1 << random_.below(8);
-    for (int next = 0; next < group_.size() && next < most; ++next) {
-      const int w = group_[next];
-      const int v = matching_.partner(w);
-      if (matching_.high(w)) {
-        repair(w, v);
-      } else {
-        repair(v, w);
-      }
-      const auto meet = [&](int x, int y) {
-        if (matching_.paired(x) && matching_.partner(x) == y &&
-            std::find(group_.begin(), group_.end(), x) == group_.end() &&
-            std::find(group_.begin(), group_.end(), y) == group_.end())
-          group_.push_back(x);
-      };
-      for (std::size_t slot = 0; slot < 2; ++slot) {
-        if (matching_.unit(w).in[slot] >= 0) meet(matching_.unit(w).in[slot], matching_.beside(w, slot));
-      }
-      for (const Use& use : matching_.users(w)) {
-        if (matching_.paired(use.unit) && matching_.beside(use.unit, use.slot) == v)
-          meet(use.unit, matching_.partner(use.unit));
-      }
-    }
-  }
-
-  void repair(int low, int high) {
-    matching_.part(low);
-    matching_.join(low, high);
-  }
-
-  void single_or_crossed() {
-    const int u = any();
-    if (!matching_.paired(u)) return;
-    if (matching_.can_cross(u, matching_.partner(u)) && random_.one_in(2)) {
+    if (matching_.can_cross(u, matching_.partner(u)) && random_.below(2) == 0) {
       matching_.cross(u);
     } else {
       matching_.part(u);
     }
   }
 
-  bool pair(int a, int b) {
-    if (!matching_.alike(a, b) || matching_.is_pair(a, b)) return false;
-    const int c = matching_.partner(a), d = matching_.partner(b);
-    const bool a_low = c >= 0 && !matching_.high(a);
-    if (c >= 0) matching_.part(a);
-    if (d >= 0 && d != a) matching_.part(b);
-    matching_.join(a, b);
-    if (c >= 0 && d >= 0 && c != b && matching_.alike(c, d) && !random_.one_in(4)) {
-      if (a_low)
-        matching_.join(d, c);
-      else
-        matching_.join(c, d);
-    }
+  // Pairs two units whatever they were paired with, and their partners with each other.
+  bool pair(int low, int high) {
+    if (low < 0 || high < 0 || !matching_.alike(low, high) || matching_.is_pair(low, high)) return false;
+    const int c = matching_.partner(low), d = matching_.partner(high);
+    const bool lanes_change = c >= 0 && !matching_.high(low);
+    if (c >= 0) matching_.part(low);
+    if (d >= 0 && d != low) matching_.part(high);
+    matching_.join(low, high);
+    if (c >= 0 && d >= 0 && c != high && matching_.alike(c, d))
+      matching_.join(lanes_change ? d : c, lanes_change ? c : d);
     return true;
   }
 
+  // With the lanes of u and its partner.
+  void grow_as(int u, int a, int b) {
+    if (matching_.high(u)) std::swap(a, b);
+    grow(a, b);
+  }
+
+  // Pairs operands with operands and users with users, as far as that may pay, and goes back to the best
+  // state on the way (B. W. Kernighan, S. Lin: An efficient heuristic procedure for partitioning graphs,
+  // 1970).
   void grow(int a, int b) {
     if (!pair(a, b)) return;
-    const int most = 1 << random_.below(7);
-    group_.assign(1, a);
-    int best_cost = matching_.cost(), best = matching_.history();
-    int made = 1;
-    for (int next = 0; next < group_.size() && made < most; ++next) {
-      const int u = group_[next], v = matching_.partner(u);
-      if (v < 0) continue;
-      const bool low = !matching_.high(u);
-      const auto meet = [&](int x, int y) {
-        if (made >= most) return;
-        if (!low) std::swap(x, y);
-        if (pair(x, y)) {
-          ++made;
-          group_.push_back(x);
-          if (matching_.cost() < best_cost) {
-            best_cost = matching_.cost();
-            best = matching_.history();
-          }
-        }
-      };
-      for (std::size_t slot = 0; slot < 2; ++slot) {
-        const int x = matching_.unit(u).in[slot];
-        if (x >= 0 && matching_.partner(u) == v) meet(x, matching_.beside(u, slot));
-      }
-      for (const Use& mine : matching_.users(u)) {
-        for (const Use& other : matching_.users(v)) {
-          if (mine.slot == other.slot &&
-              matching_.unit(mine.unit).subtracts == matching_.unit(other.unit).subtracts)
-            meet(mine.unit, other.unit);
-        }
+    constexpr int patience = 100;  // in tenths of an addition
+    most_ = 1 << random_.below(7);
+    grown_.assign(1, a);
+    best_cost_ = matching_.cost();
+    best_ = matching_.history();
+    for (int next = 0;
+         next < grown_.size() && grown_.size() < most_ && matching_.cost() < best_cost_ + patience; ++next)
+      spread(grown_[next]);
+    matching_.undo(best_);
+  }
+
+  void spread(int u) {
+    const int v = matching_.partner(u);
+    if (v < 0) return;
+    for (std::size_t slot = 0; slot < 2; ++slot) {
+      if (graph_[u].in[slot] >= 0) take(u, graph_[u].in[slot], matching_.beside(u, slot));
+    }
+    for (const Use& mine : graph_.users(u)) {
+      for (const Use& other : graph_.users(v)) {
+        if (mine.slot == other.slot && graph_[mine.unit].subtracts == graph_[other.unit].subtracts)
+          take(u, mine.unit, other.unit);
       }
     }
-    matching_.undo(best);
+  }
+
+  void take(int u, int a, int b) {
+    if (grown_.size() >= most_) return;
+    if (matching_.high(u)) std::swap(a, b);
+    if (!pair(a, b)) return;
+    grown_.push_back(a);
+    if (matching_.cost() >= best_cost_) return;
+    best_cost_ = matching_.cost();
+    best_ = matching_.history();
   }
 
   Matching& matching_;
+  const UnitGraph& graph_;
   Random& random_;
-  Sequence<int> operations_, loads_, outputs_, group_;
-  Sequence<Sequence<int>> of_kind_;
+  Sequence<int> operations_, loads_, outputs_;
+  Sequence<Classes> classes_;  // seen from farther and farther away
+  Sequence<int> grown_;
+  int most_ = 0, best_cost_ = 0, best_ = 0;
 };
+
+// The temperature falls geometrically from two additions to a tenth of one.
+class Cooling {
+ public:
+  explicit Cooling(int moves) : a_step_(std::max(moves / steps, 1)) {}
+
+  bool done() const { return step_ == steps; }
+  void next() {
+    if (++move_ < a_step_) return;
+    move_ = 0;
+    ++step_;
+    temperature_ = temperature_ * ratio >> 16;
+  }
+
+  /// With the probability exp(-worse / temperature).
+  bool accepts(std::int64_t worse, Random& random) const {
+    return worse <= 0 || worse << 32 <= temperature_ * random.minus_log2();
+  }
+
+ private:
+  static constexpr int steps = 128;
+  static constexpr std::int64_t log_2 = 45426;  // times 2^16, as all three
+  static constexpr std::int64_t ratio = 63908;  // (1/25)^(1/128)
+
+  int a_step_, move_ = 0, step_ = 0;
+  std::int64_t temperature_ = 20 * log_2;
+};
+
+Matching matching_of(const Sequence<Pair>& pairs, const UnitGraph& graph, const Sequence<Leaving>& leaving,
+                     const PairCosts& costs) {
+  Matching matching(graph, leaving, costs);
+  for (const Pair& pair : pairs) matching.join(pair);
+  return matching;
+}
 
 }  // namespace
 
 Sequence<Pair> find_pairs(const Sequence<Unit>& units, const Sequence<Leaving>& leaving,
                           const PairCosts& costs, const Search& search) {
-  Matching matching(units, leaving, costs);
+  const UnitGraph graph(units);
+  Matching matching(graph, leaving, costs);
   Random random(search.seed);
   Moves moves(matching, leaving, random);
   if (moves.none()) return {};
-  const int total = search.moves > 0 ? search.moves : 150 * units.size();
-  constexpr int steps = 128;
-  // In tenths, times 2^16 * ln 2: from 12 to 0.8 in 128 steps.
-  std::int64_t temperature = 12 * 45426;
-  for (int step = 0; step < steps; ++step) {
-    for (int i = 0; i < total / steps; ++i) {
-      const int before = matching.cost();
-      moves.make();
-      const std::int64_t worse = matching.cost() - before;
-      const bool taken = worse <= 0 || (worse << 32) <= temperature * random.logarithm();
-      if (!taken || (matching.history() > 0 && !matching.acyclic())) matching.undo(0);
-      matching.accept();
-    }
-    temperature = temperature * 64164 >> 16;
+  for (Cooling cooling(search.moves > 0 ? search.moves : 5000 + 100 * units.size()); !cooling.done();
+       cooling.next()) {
+    const int before = matching.cost();
+    moves.make();
+    if (!cooling.accepts(matching.cost() - before, random) || !matching.acyclic()) matching.undo(0);
+    matching.accept();
   }
   return matching.pairs();
+}
+
+int cost_of(const Sequence<Pair>& pairs, const Sequence<Unit>& units, const Sequence<Leaving>& leaving,
+            const PairCosts& costs) {
+  const UnitGraph graph(units);
+  return matching_of(pairs, graph, leaving, costs).cost();
+}
+
+Sequence<int> joint_stores(const Sequence<Pair>& pairs, const Sequence<Unit>& units,
+                           const Sequence<Leaving>& leaving, const PairCosts& costs) {
+  const UnitGraph graph(units);
+  return matching_of(pairs, graph, leaving, costs).joint_stores();
 }
 
 }  // namespace xfm::gen
