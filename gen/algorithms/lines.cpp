@@ -1,5 +1,6 @@
 #include "gen/algorithms/lines.h"
 
+#include <algorithm>
 #include <map>
 
 #include "gen/algorithms/rules.h"
@@ -16,19 +17,29 @@ Lines LineTransform::run(const Tree& tree, const Lines& x, Direction direction) 
 // places are grouped, so that a block never computes with zeros. Blocks are forward. For an inverse one, real
 // and imaginary parts are exchanged before and after it, or in the interleaved form the outputs p + i*q
 // become p - i*q.
-Lines LineTransform::each(const Lines& x, Direction direction, const Block& block) {
+Lines LineTransform::each(const Lines& lines, Direction direction, const Block& block) {
+  const Form form = grouping_.form;
+  const Lines x = marked(lines);
   Lines out(x.size());
-  for (const Sequence<int>& group : groups(x)) {
-    const bool exchange = direction == Direction::inverse && form_ == Form::planar;
+  const auto all = groups(x, grouping_);
+  const auto inputs_of = [&](const Sequence<int>& group) {
+    Sequence<Elements> inputs(x[group[0]].size());
+    for (const int i : group) {
+      for (int j = 0; j < x[i].size(); ++j) inputs[j].push_back(x[i][j]);
+    }
+    return inputs;
+  };
+  for (const Sequence<int>& group : all) lanes_.expect(inputs_of(group));
+  for (const Sequence<int>& group : all) {
+    const bool exchange = direction == Direction::inverse && form == Form::planar;
     Points inputs;
-    for (int j = 0; j < x[group[0]].size(); ++j) {
-      const Elements elements = tabulated(group.size(), [&](int l) { return x[group[l]][j]; });
-      const Complex z = elements[0].absent() ? Complex{} : lanes_.gather(elements, form_);
+    for (const Elements& elements : inputs_of(group)) {
+      const Complex z = elements[0].absent() ? Complex{} : lanes_.gather(elements, form);
       inputs.push_back(exchange ? exchanged(z) : z);
     }
     for (const Complex& z : block(inputs)) {
       const Complex directed = exchange ? exchanged(z) : direction == Direction::inverse ? conjugate(z) : z;
-      const Elements elements = lanes_.scatter(directed, group.size(), form_);
+      const Elements elements = lanes_.scatter(directed, group.size(), form);
       for (int l = 0; l < group.size(); ++l) out[group[l]].push_back(elements[l]);
     }
   }
@@ -36,20 +47,37 @@ Lines LineTransform::each(const Lines& x, Direction direction, const Block& bloc
 }
 
 // Instances with the same pattern of zeros, in groups no larger than the lanes hold.
-Sequence<Sequence<int>> LineTransform::groups(const Lines& x) const {
+Sequence<Sequence<int>> LineTransform::groups(const Lines& x, const Grouping& grouping) {
+  const auto patterns = tabulated(
+      x.size(), [&](int i) { return tabulated(x[i].size(), [&](int j) { return x[i][j].absent(); }); });
   Sequence<Sequence<int>> groups;
   std::map<Sequence<bool>, int> open;
   for (int i = 0; i < x.size(); ++i) {
-    const auto pattern = tabulated(x[i].size(), [&](int j) { return x[i][j].absent(); });
-    const auto found = open.find(pattern);
-    if (found != open.end() && groups[found->second].size() < lanes_.instances(form_)) {
+    const auto alike = static_cast<int>(std::count(patterns.begin(), patterns.end(), patterns[i]));
+    const int least = (alike + grouping.instances - 1) / grouping.instances;
+    const int most = grouping.balanced ? (alike + least - 1) / least : grouping.instances;
+    const auto found = open.find(patterns[i]);
+    if (found != open.end() && groups[found->second].size() < most) {
       groups[found->second].push_back(i);
     } else {
-      open[pattern] = groups.size();
+      open[patterns[i]] = groups.size();
       groups.push_back({i});
     }
   }
   return groups;
+}
+
+// The lines with their products by 0 marked.
+Lines LineTransform::marked(Lines x) const {
+  for (const Sequence<int>& group : groups(x, as_)) {
+    for (int j = 0; j < x[group[0]].size(); ++j) {
+      const Elements together = tabulated(group.size(), [&](int l) { return x[group[l]][j]; });
+      if (together.front().absent()) continue;
+      const Manner manner = lanes_.manner(together, as_.form);
+      for (const int i : group) x[i][j].manner = manner;
+    }
+  }
+  return x;
 }
 
 // Columns and rows as in two_stages.cpp, those of all lines next to each other.

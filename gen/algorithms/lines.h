@@ -17,10 +17,19 @@ namespace xfm::gen {
 using Line = Elements;         ///< the points of one transform
 using Lines = Sequence<Line>;  ///< transforms of one length, side by side
 
+/// How the instances of a stage fill registers.
+struct Grouping {
+  Form form;
+  int instances;          ///< at most so many side by side
+  bool balanced = false;  ///< 3 + 3 + 3 rather than 4 + 4 + 1
+};
+
 class LineTransform {
  public:
-  LineTransform(Lanes& lanes, Form form, const Choices& choices)
-      : lanes_(lanes), form_(form), choices_(choices), blocks_(Rounding::each, choices) {}
+  /// Products by 0 are those of the grouping `as`: they are part of what a kernel computes, so they are the
+  /// same on all targets.
+  LineTransform(Lanes& lanes, const Grouping& grouping, const Grouping& as, const Choices& choices)
+      : lanes_(lanes), grouping_(grouping), as_(as), choices_(choices), blocks_(Rounding::each, choices) {}
 
   Lines run(const Tree& tree, const Lines& x, Direction direction);
 
@@ -33,11 +42,12 @@ class LineTransform {
 
  private:
   using Block = std::function<Points(const Points&)>;
-  Lines each(const Lines& x, Direction direction, const Block& block);
-  Sequence<Sequence<int>> groups(const Lines& x) const;
+  Lines each(const Lines& lines, Direction direction, const Block& block);
+  static Sequence<Sequence<int>> groups(const Lines& x, const Grouping& grouping);
+  Lines marked(Lines x) const;
 
   Lanes& lanes_;
-  Form form_;
+  Grouping grouping_, as_;
   Choices choices_;
   Transform blocks_;
 };

@@ -57,6 +57,11 @@ Constant operator-(const Constant& c) {
   return {c.name.starts_with('-') ? c.name.substr(1) : "-" + c.name, -c.value};
 }
 
+Constant signed_constant(const Constant& c, bool negative) {
+  if (!negative) return c;
+  return c.is_zero() ? Constant{"-0", -Wide(0)} : -c;
+}
+
 Constant magnitude(const Constant& c) { return c.is_negative() ? -c : c; }
 
 namespace {

@@ -20,6 +20,8 @@ Wide wide_abs(Wide v);
 /// The two precisions of the library.
 enum class Precision { binary32, binary64 };
 
+inline int bytes(Precision precision) { return precision == Precision::binary32 ? 4 : 8; }
+
 /// The nearest number of the precision.
 inline double rounded(Wide value, Precision precision) {
   return precision == Precision::binary32 ? static_cast<float>(value) : static_cast<double>(value);
@@ -45,6 +47,9 @@ struct Constant {
 
 Constant operator-(const Constant& c);
 Constant magnitude(const Constant& c);
+
+/// The constant, or minus the constant; unlike -c, a zero has a sign too.
+Constant signed_constant(const Constant& c, bool negative);
 
 /// A product, multiplied out before it is rounded; its name does not depend on the order of the factors.
 Constant operator*(const Constant& a, const Constant& b);

@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include <bit>
+#include <cmath>
 #include <stdexcept>
 #include <utility>
 
@@ -74,7 +75,7 @@ Result Programs::add(Result a, Result b, Precision precision) {
 }
 
 Result Programs::mul(double constant, Result a, Precision precision) {
-  if (constant < 0) return -mul(-constant, a, precision);
+  if (std::signbit(constant)) return -mul(-constant, a, precision);
   if (constant == 1) return a;
   if (equality_ == Equality::values && (constant == 0 || is_zero(a))) return zero(precision);
   return linear({.kind = Kind::mul, .precision = precision, .constant = constant}, a);

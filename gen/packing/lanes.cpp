@@ -43,7 +43,29 @@ Element weighted(Element e, const ComplexConstant& w) {
   return e;
 }
 
+Manner Lanes::manner(const Elements& elements, Form form) const {
+  const auto all = [&](const auto& holds) { return std::all_of(elements.begin(), elements.end(), holds); };
+  const ComplexConstant& first = elements.front().weight;
+  const bool planar = form == Form::planar, alike = weighed_alike(elements),
+             memory = elements.front().in_memory();
+  const bool turns = !memory && all([](const Element& e) { return is_quarter_turn(e.weight); });
+  const bool one = all_real(elements) || (alike && (planar || is_quarter_turn(first)));
+  // Constants of single lanes carry their signs themselves.
+  const bool c = planar && alike && first.re.is_negative(), s = planar && alike && first.im.is_negative();
+  const bool p = !memory && all([](const Element& e) { return e.re.value.negative; });
+  const bool q = !memory && all([](const Element& e) { return e.im.value.negative; });
+  return {.zeros = !turns && !one,
+          .difference = planar,
+          .sign_outside = {planar ? p != c && q == s : p, planar ? p != s && q != c : q}};
+}
+
 Complex Lanes::gather(Elements elements, Form form) {
+  if (units_) {
+    const bool loads = elements.front().in_memory();
+    return {
+        weigh_units(elements, loads ? Value{&network_, load(elements, 0), false} : gather_units(elements)),
+        {}};
+  }
   // Quarter turns need no product, even if they differ from lane to lane.
   const bool turns = std::ranges::all_of(
       elements, [](const Element& e) { return !e.in_memory() && is_quarter_turn(e.weight); });

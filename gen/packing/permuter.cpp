@@ -41,7 +41,7 @@ NodeId Permuter::find(const Places& wanted) const {
 }
 
 NodeId Permuter::by_one(const Permutation& permutation, const Places& wanted, NodeId a, NodeId b) {
-  if (permutation.idle.size() != width()) return -1;
+  if (!permutation.suits(width(), lane_bytes_)) return -1;
   PerLane picks = permutation.idle;
   for (int l = 0; l < width(); ++l) {
     const auto [node, lane] = wanted[l];
@@ -100,7 +100,7 @@ PerLane Permuter::side_by_side(const Place& a, const Place& b) const {
   };
   const Permutation* free = nullptr;
   for (const Permutation& p : target_.permutations) {
-    if (p.idle.size() != width()) continue;
+    if (!p.suits(width(), lane_bytes_)) continue;
     if (p.fixed() && has(p.idle, a.lane) && has(p.idle, width() + b.lane)) return p.idle;
     if (!p.fixed() && free == nullptr) free = &p;
   }

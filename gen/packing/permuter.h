@@ -8,7 +8,8 @@ namespace xfm::gen {
 
 class Permuter {
  public:
-  Permuter(Network& network, const Target& target) : network_(network), target_(target) {}
+  Permuter(Network& network, const Target& target, Precision precision)
+      : network_(network), target_(target), lane_bytes_(bytes(precision)) {}
 
   /// A node with the contents of these places in its lanes. Idle places come last, and their lanes may hold
   /// anything.
@@ -34,6 +35,7 @@ class Permuter {
 
   Network& network_;
   const Target& target_;
+  int lane_bytes_;
   Sequence<NodeId> made_;  // permutations, in the order in which they were made
 };
 

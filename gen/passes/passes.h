@@ -19,8 +19,10 @@ std::unique_ptr<Network> fold_constants(const Network& network);
 
 /// Drops the sign flips that constants can carry: where only a flip uses a product, or a sum of such
 /// products, directly or through permutations, the products' constants take the signs. Signs are exact, so no
-/// value changes; only a sum that cancels to zero may change the sign of that zero.
-std::unique_ptr<Network> absorb_sign_flips(const Network& network);
+/// value changes; only a sum that cancels to zero may change the sign of that zero. Single products alone
+/// keep that sign too.
+enum class Carriers { products, sums_too };
+std::unique_ptr<Network> absorb_sign_flips(const Network& network, Carriers carriers = Carriers::sums_too);
 
 /// Lowers a network to operations on one or two operands: the operands of linear combinations are widened,
 /// multiplied, added from left to right and narrowed, each step by an operation of its own.

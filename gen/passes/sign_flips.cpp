@@ -9,7 +9,7 @@ namespace {
 
 class Absorbing : public Rebuilding {
  public:
-  using Rebuilding::Rebuilding;
+  Absorbing(const Network& old, Carriers carriers) : Rebuilding(old), carriers_(carriers) {}
 
  private:
   Value make(NodeId id) override {
@@ -29,7 +29,8 @@ class Absorbing : public Rebuilding {
     const Node& of = node(id);
     if (uses_of(id) != 1) return false;
     if (of.op == Op::permute) return permutes(of) && carries(of.in[0]);
-    return of.op == Op::mul || (of.is_sum() && carries(of.in[0]) && carries(of.in[1]));
+    return of.op == Op::mul ||
+           (carriers_ == Carriers::sums_too && of.is_sum() && carries(of.in[0]) && carries(of.in[1]));
   }
 
   // The value with the signs of the marked lanes changed.
@@ -51,10 +52,14 @@ class Absorbing : public Rebuilding {
       lanes.push_back(signs[l] == 1 ? -product.constant(l) : product.constant(l));
     return lanes;
   }
+
+  Carriers carriers_;
 };
 
 }  // namespace
 
-std::unique_ptr<Network> absorb_sign_flips(const Network& network) { return Absorbing(network).run(); }
+std::unique_ptr<Network> absorb_sign_flips(const Network& network, Carriers carriers) {
+  return Absorbing(network, carriers).run();
+}
 
 }  // namespace xfm::gen

@@ -13,11 +13,14 @@ namespace xfm::gen {
 /// A permutation of lanes from two registers in one instruction. Lanes are numbered across both registers.
 struct Permutation {
   std::string_view name;
-  int cost;                         ///< in additions
+  int lane_bytes;                   ///< what it moves together
+  int cost;                         ///< in tenths of an addition
   Sequence<std::uint64_t> sources;  ///< for each lane the set of lanes that it can come from, as bits
   PerLane idle;                     ///< the picks for idle lanes
 
   bool allows(int lane, int pick) const { return (sources[lane] >> static_cast<unsigned>(pick) & 1U) != 0; }
+  /// Whether it works on registers of so many lanes of this size.
+  bool suits(int lanes, int bytes) const { return idle.size() == lanes && lane_bytes == bytes; }
   /// Whether every lane has only one source.
   bool fixed() const;
 };
@@ -29,11 +32,11 @@ struct Target {
   std::string_view vocabulary;     ///< the header that kernels are written in
   int register_bytes;
   int registers;
-  bool unaligned_is_free;  ///< one body serves aligned and unaligned memory
+  bool unaligned_is_free;                     ///< one body serves aligned and unaligned memory
   std::span<const Permutation> permutations;  ///< the cheapest first
 
   /// How many numbers of a precision a register holds.
-  int lanes(Precision precision) const { return register_bytes / (precision == Precision::binary32 ? 4 : 8); }
+  int lanes(Precision precision) const { return register_bytes / bytes(precision); }
 };
 
 /// @name The descriptions, each in its own file

@@ -8,10 +8,10 @@ namespace xfm::gen {
 
 Target x86_64() {
   static const Permutation permutations[] = {
-      {"shufps", 1, {0x0f, 0x0f, 0xf0, 0xf0}, {0, 1, 4, 5}},
-      {"unpcklps", 1, {1 << 0, 1 << 4, 1 << 1, 1 << 5}, {0, 4, 1, 5}},
-      {"unpckhps", 1, {1 << 2, 1 << 6, 1 << 3, 1 << 7}, {2, 6, 3, 7}},
-      {"shufpd", 1, {0x3, 0xc}, {0, 2}},
+      {"shufps", 4, 10, {0x0f, 0x0f, 0xf0, 0xf0}, {0, 1, 4, 5}},
+      {"unpcklps", 4, 10, {1 << 0, 1 << 4, 1 << 1, 1 << 5}, {0, 4, 1, 5}},
+      {"unpckhps", 4, 10, {1 << 2, 1 << 6, 1 << 3, 1 << 7}, {2, 6, 3, 7}},
+      {"shufpd", 8, 10, {0x3, 0xc}, {0, 2}},
   };
   // clang-format off
   return {

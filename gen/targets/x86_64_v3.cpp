@@ -1,9 +1,23 @@
-// Processors with AVX2, since about 2013.
+// Processors with AVX2, since about 2013. Two registers of 256 bits: instructions that move numbers within
+// each half of 128 bits are cheaper than those that cross the middle.
 #include "gen/targets/target.h"
 
 namespace xfm::gen {
 
 Target x86_64_v3() {
+  static const Permutation permutations[] = {
+      {"vblendpd", 8, 7, {0x11, 0x22, 0x44, 0x88}, {0, 1, 2, 3}},
+      {"shufps", 4, 10, {0x0f, 0x0f, 0xf0, 0xf0}, {0, 1, 4, 5}},
+      {"unpcklps", 4, 10, {1 << 0, 1 << 4, 1 << 1, 1 << 5}, {0, 4, 1, 5}},
+      {"unpckhps", 4, 10, {1 << 2, 1 << 6, 1 << 3, 1 << 7}, {2, 6, 3, 7}},
+      {"shufpd", 8, 10, {0x3, 0xc}, {0, 2}},
+      {"vshufpd", 8, 10, {0x03, 0x30, 0x0c, 0xc0}, {0, 4, 2, 6}},
+      {"vpermilps", 4, 10, {0x0f, 0x0f, 0x0f, 0x0f, 0xf0, 0xf0, 0xf0, 0xf0}, {0, 1, 2, 3, 4, 5, 6, 7}},
+      {"vinsertf128", 8, 11, {1 << 0, 1 << 1, 1 << 4, 1 << 5}, {0, 1, 4, 5}},
+      {"vperm2f128", 8, 12, {1 << 2, 1 << 3, 1 << 6, 1 << 7}, {2, 3, 6, 7}},
+      {"vperm2f128", 8, 12, {1 << 2, 1 << 3, 1 << 4, 1 << 5}, {2, 3, 4, 5}},
+      {"vpermpd", 8, 13, {0x0f, 0x0f, 0x0f, 0x0f}, {0, 1, 2, 3}},
+  };
   // clang-format off
   return {
       .name = "x86-64-v3",
@@ -13,7 +27,7 @@ Target x86_64_v3() {
       .register_bytes = 32,
       .registers = 16,
       .unaligned_is_free = true,
-      .permutations = x86_64().permutations,
+      .permutations = permutations,
   };
   // clang-format on
 }

@@ -13,7 +13,7 @@ Target x86_64_v4() {
       .register_bytes = 32,
       .registers = 32,
       .unaligned_is_free = true,
-      .permutations = x86_64().permutations,
+      .permutations = x86_64_v3().permutations,
   };
   // clang-format on
 }

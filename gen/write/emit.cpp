@@ -45,7 +45,8 @@ Type type_of(Precision precision, int width) {
 /// The type of a kernel's widest values.
 Type value_type(const Kernel& kernel) { return type_of(kernel.type.precision, kernel.network->width()); }
 
-/// The type in which a body has the factor: repeated in memory for aligned loads, or a scalar to be broadcast.
+/// The type in which a body has the factor: repeated in memory for aligned loads, or a scalar to be
+/// broadcast.
 Type factor_type(const Kernel& kernel, const Target& target) {
   return !target.unaligned_is_free ? value_type(kernel) : Type{kernel.type.precision, 1};
 }
@@ -111,6 +112,7 @@ class Body {
 
   // Constants appear by name, with their sign in front; 0 and 1 as they are.
   std::string use(const Constant& c) {
+    if (c.is_zero() && c.name != "0") return "-0.0F";
     if (is_trivial(c)) return fmt::format("{}", static_cast<int>(c.value));
     constants_.insert(magnitude(c));
     return (c.is_negative() ? "-" : "") + named(magnitude(c).name);
@@ -134,9 +136,9 @@ class Body {
       case Op::permute:
         return permutation(id);
       case Op::sign_flip:
-        return type(id).scalar() ? fmt::format("-{}", var(node.in[0]))
-                                 : fmt::format("flip_signs<{}>({})", list(node.lanes, type(id).lanes, 0),
-                                               var(node.in[0]));
+        return type(id).scalar()
+                   ? fmt::format("-{}", var(node.in[0]))
+                   : fmt::format("flip_signs<{}>({})", list(node.lanes, type(id).lanes, 0), var(node.in[0]));
       case Op::add:
         return fmt::format("{} + {}", var(node.in[0]), var(node.in[1]));
       case Op::sub:
@@ -250,8 +252,17 @@ class Body {
       places.resize(static_cast<std::size_t>(type.lanes), "0");
       return fmt::format("{}{{{}}}", type.name(), fmt::join(places, ", "));
     }
+    if (from.size() == 8) return fmt::format("joined({}, {})", half(from, 0), half(from, 4));
     for (int l = 0; l < from.size() && from[l] >= 0; l += 2) places.push_back(fmt::format("x + {}", from[l]));
     return fmt::format("load_complex({})", fmt::join(places, ", "));
+  }
+
+  // Four lanes of a register of eight, from this one on.
+  std::string half(const PerLane& from, int first) const {
+    const Type type = type_of(kernel_.type.precision, 4);
+    if (from[first] < 0) return type.name() + "{}";
+    return load({.op = Op::load, .lanes = PerLane(from.begin() + first, from.begin() + first + type.lanes)},
+                type);
   }
 
   // In kernels with an unaligned variant, a place that is not a multiple of the register's width is never
@@ -275,8 +286,17 @@ class Body {
         if (to[l] >= 0) text += fmt::format("  y[{}] = {}[{}];\n", to[l], v, l);
       return text;
     }
-    for (int l = 0; l < to.size(); l += 2)
-      if (to[l] >= 0) text += fmt::format("  store_complex<{}>(y + {}, {});\n", l / 2, to[l], v);
+    for (int l = 0; l < to.size(); l += 2) {
+      const bool starts_half = to.size() == 8 && l % 4 == 0;
+      if (starts_half && contiguous(PerLane(to.begin() + l, to.begin() + l + 4))) {
+        text += fmt::format("  {}(y + {}, {}_half({}));\n",
+                            access("store", to[l], type_of(kernel_.type.precision, 4)), to[l],
+                            l == 0 ? "low" : "high", v);
+        l += 2;
+      } else if (to[l] >= 0) {
+        text += fmt::format("  store_complex<{}>(y + {}, {});\n", l / 2, to[l], v);
+      }
+    }
     return text;
   }
 
@@ -331,11 +351,11 @@ std::string entry_text(const Kernel& kernel, const Type& factor_type) {
 // share, one for aligned and one for unaligned memory.
 std::string emit_kernel(const Kernel& kernel, const Target& target, SharedConstants& shared) {
   Body body(kernel, target, shared);
-  const std::string inner = " {\n" + entry_text(kernel, factor_type(kernel, target)) + body.text() + "  return xfmStsOk;\n}\n\n";
+  const std::string inner =
+      " {\n" + entry_text(kernel, factor_type(kernel, target)) + body.text() + "  return xfmStsOk;\n}\n\n";
   const std::string head =
       heading(kernel) + "namespace {\n" + factors(kernel, target) + "}\n" + body.declarations() + "\n";
-  if (!kernel.packed() || target.unaligned_is_free)
-    return head + signature(kernel, kernel.name()) + inner;
+  if (!kernel.packed() || target.unaligned_is_free) return head + signature(kernel, kernel.name()) + inner;
   const std::string suffix = kernel.type.suffix(), variant = kernel.name() + "_unaligned";
   return head + "template <class Memory>\nXFM_BODY " + signature(kernel, "body_" + suffix) + inner +
          "extern \"C\" XFM_UNALIGNED_VARIANT " + signature(kernel, variant) +
@@ -358,8 +378,7 @@ std::string SharedConstants::use(const Constant& c, const std::string& type, Pre
   const std::string definition = fmt::format("extern \"C\" XFM_CONSTANT {} {} = {{{}}};  // {:.17g}\n", type,
                                              name, fmt::join(copies, ", "), static_cast<double>(c.value));
   const auto [known, fresh] = definitions_.try_emplace(name, definition);
-  if (!fresh && known->second != definition)
-    throw std::logic_error("two constants named " + name);
+  if (!fresh && known->second != definition) throw std::logic_error("two constants named " + name);
   return name;
 }
 

@@ -23,7 +23,8 @@ std::unique_ptr<gen::Network> on_one_lane(const Kernel& kernel, gen::Direction d
   const dft::Choices chosen{kernel.length, gen::Precision::binary32};
   const gen::Tree tree = chosen.spelled_out(gen::parse_tree(kernel.tree));
   const gen::Line x = gen::tabulated(kernel.length, gen::source_element);
-  gen::LineTransform transform(lanes, gen::Form::planar, chosen.open());
+  constexpr gen::Grouping one{gen::Form::planar, 1};
+  gen::LineTransform transform(lanes, one, one, chosen.open());
   const gen::Lines outputs = transform.run(tree, {x}, direction);
   int scalar = 0;
   for (const gen::Element& e : outputs.front()) {

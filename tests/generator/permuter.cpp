@@ -13,7 +13,9 @@ namespace {
 
 /// Registers 0, 1, ... hold the scalars 0, 1, ... in their order.
 struct Registers {
-  Registers(int width, int count) : network(width) {
+  Registers(int width, int count)
+      : network(width),
+        permuter(network, baseline(), width == 2 ? Precision::binary64 : Precision::binary32) {
     for (int j = 0; j < count; ++j) {
       PerLane scalars;
       for (int l = 0; l < width; ++l) scalars.push_back(width * j + l);
@@ -25,7 +27,7 @@ struct Registers {
 
   Network network;
   Sequence<NodeId> nodes{};
-  Permuter permuter{network, baseline()};
+  Permuter permuter;
 };
 
 /// Whether the target has an instruction that makes the picks of a node.

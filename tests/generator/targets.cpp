@@ -60,7 +60,8 @@ TEST(Target, PermutationsAllowTheirIdlePicks) {
       }
       EXPECT_EQ(permutation.fixed(), choices == 1) << permutation.name;
     }
-    EXPECT_EQ(widths, (std::set<int>{target.lanes(Precision::binary64), target.lanes(Precision::binary32)}));
+    for (const Precision precision : {Precision::binary32, Precision::binary64})
+      EXPECT_TRUE(widths.contains(target.lanes(precision))) << target.name;
   }
 }
 

@@ -27,6 +27,10 @@ struct Scalar {
 constexpr Scalar scalars[] = {
     {2, Rounding::each}, {3, Rounding::combination}, {4, Rounding::each}, {5, Rounding::combination}};
 
+// Kernels that keep the baseline's lanes on every target: zeros of their chirp products come out with other
+// signs in any other form.
+constexpr int narrow_everywhere[] = {59};
+
 // Length-5 blocks in another form than the default; the first row that fits applies.
 constexpr int all = std::numeric_limits<int>::max();
 struct ChosenFive {
@@ -85,6 +89,10 @@ gen::Tree Choices::spelled_out(const gen::Tree& tree) const {
 std::optional<Rounding> Choices::scalar() const {
   const auto* const found = gen::find_row(scalars, [&](const Scalar& row) { return row.length == length; });
   return found == nullptr ? std::nullopt : std::optional(found->rounding);
+}
+
+bool Choices::narrow() const {
+  return gen::find_row(narrow_everywhere, [&](int narrow) { return narrow == length; }) != nullptr;
 }
 
 gen::Choices Choices::open() const {

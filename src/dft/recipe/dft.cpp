@@ -3,6 +3,7 @@
 #include <stdexcept>
 
 #include "gen/algorithms/lines.h"
+#include "gen/packing/cost.h"
 #include "gen/passes/passes.h"
 #include "src/dft/recipe/table.h"
 
@@ -29,12 +30,27 @@ struct Recipe {
   const Target& target;
 };
 
+// How the points fill registers and reach memory.
+struct Packing {
+  int width;
+  Form form;
+  std::optional<gen::Grouping> as{};  // where products by 0 stand, if not as here
+  bool balanced = false;
+  bool loads_in_order = false,
+       stores_in_order = false;  // or as the first and the last stage have the numbers
+};
+
+// Rader blocks on sequences multiply by constants one after the other.
+std::unique_ptr<Network> folded(const Recipe& recipe, std::unique_ptr<Network> network) {
+  return gen::uses_rule(recipe.tree, "RS") ? gen::fold_constants(*network) : std::move(network);
+}
+
 // One complex number per register, and real coefficients only: X[k] = P + i*Q and X[N-k] = P - i*Q share one
 // exchange of parts, just before the addition and the subtraction. An inverse kernel has the opposite signs.
 std::unique_ptr<Network> joined_network(const Recipe& recipe) {
   constexpr int parts = 2;
   auto network = std::make_unique<Network>(parts);
-  gen::Lanes lanes(*network, recipe.target);
+  gen::Lanes lanes(*network, gen::baseline(), Precision::binary64);
   const int length = recipe.length;
   const auto place = [](int n) { return gen::PerLane{parts * n, parts * n + 1}; };
   const auto store = [&](int k, Value v) { network->store(network->factor(v), place(k)); };
@@ -50,17 +66,71 @@ std::unique_ptr<Network> joined_network(const Recipe& recipe) {
   if (length % 2 == 0) store(length / 2, out[length / 2].p);
   if (gen::count(*network).permutations != (length - 1) / 2)
     throw std::logic_error("the number of joins is not that of output pairs");
-  return network;
+  return folded(recipe, std::move(network));
 }
 
 // Lanes in one of the two forms, or scalar code in a single lane.
-std::unique_ptr<Network> packed_network(const Recipe& recipe, int width, Form form, Rounding rounding) {
-  auto network = std::make_unique<Network>(width, rounding);
-  gen::Lanes lanes(*network, recipe.target);
-  gen::LineTransform transform(lanes, form, recipe.choices.open());
-  const gen::Line x = gen::tabulated(recipe.length, gen::source_element);
-  lanes.store(transform.run(recipe.tree, {x}, recipe.direction).front());
-  return width == 1 ? std::move(network) : gen::absorb_sign_flips(*network);
+std::unique_ptr<Network> packed_network(const Recipe& recipe, const Target& target, const Packing& packing,
+                                        Rounding rounding) {
+  auto network = std::make_unique<Network>(packing.width, rounding);
+  gen::Lanes lanes(*network, target);
+  const gen::Line x =
+      packing.loads_in_order ? lanes.load(recipe.length) : gen::tabulated(recipe.length, gen::source_element);
+  const gen::Grouping grouping{packing.form, lanes.instances(packing.form), packing.balanced};
+  gen::LineTransform transform(lanes, grouping, packing.as.value_or(grouping), recipe.choices.open());
+  const gen::Line out = transform.run(recipe.tree, {x}, recipe.direction).front();
+  if (packing.stores_in_order) {
+    lanes.store_in_order(out);
+  } else {
+    lanes.store(out);
+  }
+  // A planar network has no flips: its bits are those of sums as they are.
+  const bool planar = packing.as.value_or(grouping).form == Form::planar;
+  if (packing.width > 1)
+    network = gen::absorb_sign_flips(
+        *network, planar && packing.form != Form::planar ? gen::Carriers::products : gen::Carriers::sums_too);
+  return folded(recipe, std::move(network));
+}
+
+// The baseline's lanes, in the form that takes fewer instructions; the other one must be the same program.
+struct Forms {
+  std::unique_ptr<Network> network, other;
+  gen::Grouping grouping;
+};
+Forms narrow_forms(const Recipe& recipe) {
+  const Target& target = gen::baseline();
+  const int width = target.lanes(Precision::binary32);
+  const auto make = [&](Form form) {
+    return packed_network(recipe, target, {.width = width, .form = form}, Rounding::each);
+  };
+  Forms forms{make(Form::interleaved), make(Form::planar), {Form::interleaved, width / 2}};
+  if (gen::instructions(*forms.other) < gen::instructions(*forms.network)) {
+    std::swap(forms.network, forms.other);
+    forms.grouping = {Form::planar, width};
+  }
+  return forms;
+}
+
+// More lanes, where that pays. Of all ways to fill registers and to reach memory the cheapest is taken.
+Forms wide_forms(const Recipe& recipe, Forms narrow) {
+  const int width = recipe.target.lanes(Precision::binary32);
+  std::unique_ptr<Network> best;
+  int least = 0;
+  for (const bool balanced : {false, true}) {
+    for (const bool loads : {false, true}) {
+      for (const bool stores : {false, true}) {
+        const Packing packing{width, Form::interleaved, narrow.grouping, balanced, loads, stores};
+        auto network = packed_network(recipe, recipe.target, packing, Rounding::each);
+        const int cost = gen::cost(*network, recipe.target);
+        if (best != nullptr && cost >= least) continue;
+        least = cost;
+        best = std::move(network);
+      }
+    }
+  }
+  constexpr int percent = 93;  // measured: at less gain the narrow kernel is faster
+  if (100 * least > percent * gen::cost(*narrow.network, gen::baseline())) return narrow;
+  return {std::move(best), std::move(narrow.network), narrow.grouping};
 }
 
 // dst[k] = sum over n of src[n] * exp(-+2 pi i n k/N), on interleaved parts.
@@ -93,15 +163,13 @@ gen::Design design(int length, Precision precision, Direction direction, const s
   if (!single) {
     network = joined_network(recipe);
   } else if (const auto rounding = choices.scalar()) {
-    network = packed_network(recipe, 1, Form::planar, *rounding);
+    network = packed_network(recipe, target, {.width = 1, .form = Form::planar}, *rounding);
   } else {
-    const int width = gen::baseline().lanes(precision);
-    network = packed_network(recipe, width, Form::interleaved, Rounding::each);
-    other_form = packed_network(recipe, width, Form::planar, Rounding::each);
-    if (gen::instructions(*other_form) < gen::instructions(*network)) std::swap(network, other_form);
-  }
-  for (auto* const form : {&network, &other_form}) {
-    if (*form != nullptr && gen::uses_rule(recipe.tree, "RS")) *form = gen::fold_constants(**form);
+    Forms forms = narrow_forms(recipe);
+    if (target.lanes(precision) > forms.network->width() && !choices.narrow())
+      forms = wide_forms(recipe, std::move(forms));
+    network = std::move(forms.network);
+    other_form = std::move(forms.other);
   }
   return {.kernel = {.family = forward ? "DFTFwd_CToC" : "DFTInv_CToC",
                      .type = {precision, true},

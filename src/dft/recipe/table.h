@@ -34,6 +34,9 @@ struct Choices {
   /// How sums of products round in a binary32 kernel of scalar code; nothing for a packed one.
   std::optional<gen::Rounding> scalar() const;
 
+  /// Whether a binary32 kernel has the baseline's lanes on every target.
+  bool narrow() const;
+
   gen::Root root(int prime) const;
   gen::Five five(bool real, int instance, bool transposed) const;
   gen::Choices open() const;  ///< both, for the transforms
