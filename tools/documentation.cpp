@@ -123,7 +123,7 @@ xfmWHTGetBufferSize_TYPE returns, aligned to 16. Its contents before the call do
 afterwards. It serves one call at a time. If buffer is null, each call does one xfmMalloc and one xfmFree; the bits
 are the same.
 Hazards: the call does not check the result of xfmMalloc, so a program that is out of memory crashes there. A buffer
-that is not aligned to 16 crashes the program as well. A buffer that is too small is written past its end.
+that is not aligned to 16 may crash the program as well. A buffer that is too small is written past its end.
 
 Errors, in the order of the tests: xfmStsBadSize (unsupported order, generic functions only), xfmStsNullPtr (src or
 dst is null), xfmStsBadScale (flag). A failed call writes nothing and allocates nothing. Re-entrant.

@@ -14,12 +14,13 @@ namespace xfm::wht {
 template <class T, int block>
 using BlockValue = Vector<T, lanes_in_use(block, lanes_of<Register<T>>, unaligned_is_free)>;
 
-/// How many registers of a block share their low stages. Those that are transposed are as many as they have
-/// lanes, or twice as many, which covers one stage more and pays from four lanes on.
+/// How many registers of a block take their low stages together: one, or, to be transposed, as many as they
+/// have lanes. Twice as many cover one stage more, which pays from four lanes on.
 template <class V, int count>
-inline constexpr int group_size = unaligned_is_free
-                                      ? 1
-                                      : (lanes_of<V> > 2 && count > lanes_of<V> ? 2 : 1) * lanes_of<V>;
+constexpr int group_size() {
+  if (unaligned_is_free) return 1;
+  return (lanes_of<V> > 2 && count > lanes_of<V> ? 2 : 1) * lanes_of<V>;
+}
 
 template <int count, class V>
 XFM_INLINE inline void low_stages(V* v) {
@@ -33,7 +34,7 @@ XFM_INLINE inline void low_stages(V* v) {
 template <int block, class Memory, class T, class Take>
 XFM_INLINE inline void block_pass(const T* src, Take take) {
   using V = BlockValue<T, block>;
-  constexpr int width = lanes_of<V>, count = block / width, group = group_size<V, count>;
+  constexpr int width = lanes_of<V>, count = block / width, group = group_size<V, count>();
   transform<count, group, V>(
       [&](V* v, int at) XFM_INLINE {
         unrolled<group>([&](auto i) XFM_INLINE { v[i] = Memory::template load<V>(src + (at + i) * width); });
@@ -42,7 +43,8 @@ XFM_INLINE inline void block_pass(const T* src, Take take) {
       [&](int i, V v) XFM_INLINE { take(i * width, v); });
 }
 
-/// Single elements are aligned, and work buffers for the registers of the baseline.
+/// For what is aligned if registers have 16 bytes, and anywhere if they are wider: work buffers, single
+/// elements.
 using AnyMemory = std::conditional_t<unaligned_is_free, Unaligned, Aligned>;
 
 /// The stages between `radix` vectors that are `stride` elements apart.

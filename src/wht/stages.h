@@ -51,8 +51,9 @@ XFM_INLINE inline void transform(Make make, Take take) {
   }
 }
 
-/// The stage of distance 1, 2, .. within a register: sums in the lower lanes of each pair, differences in the
-/// upper ones.
+/// The stage of this distance within a register. With the lanes of each pair exchanged and the sign of the
+/// upper one flipped, one addition gives the sum below and the difference above: a - b is a + (-b), signed
+/// zeros included; only the sign of a NaN may differ.
 template <int distance, class V>
 XFM_INLINE inline V stage_within(V v) {
   return [&]<int... lane>(std::integer_sequence<int, lane...>) XFM_INLINE {
