@@ -25,7 +25,8 @@ using xfm::gen::Target;
 std::vector<Kernel> kernels_of(const Family& family, int length, const Target& target) {
   std::vector<Kernel> kernels;
   for (const auto& type : family.types()) {
-    kernels.push_back(paired(family.make(length, type.precision, "", target), std::getenv("PAIR") ? std::atoi(std::getenv("PAIR")) : 0));
+    kernels.push_back(paired(family.make(length, type.precision, "", target),
+                             std::getenv("PAIR") ? std::atoi(std::getenv("PAIR")) : 0));
     if (target.name != xfm::gen::baseline().name)
       xfm::check_against_baseline(kernels.back(), family.make(length, type.precision));
   }
@@ -55,7 +56,7 @@ void write_all(const std::filesystem::path& out, const Target& target) {
         continue;
       }
       std::vector<Kernel> of_family = kernels_of(*family, length, target);
-      for (const Kernel& kernel : of_family) family_rows += xfm::listed(*family, kernel);
+      for (const Kernel& kernel : of_family) family_rows += xfm::listed(*family, kernel, target);
       write(fmt::format("{}_{}.cpp", family->name, length), emit_file(of_family, target, shared));
       std::ranges::move(of_family, std::back_inserter(kernels));
     }
@@ -108,7 +109,8 @@ void show_rules(const xfm::gen::Tree& tree, std::set<std::string_view>& shown) {
 }
 
 void show(const Named& what, const std::string& tree, const Target& target) {
-  const Kernel kernel = paired(what.family->make(what.length, what.type.precision, tree, target), std::getenv("PAIR") ? std::atoi(std::getenv("PAIR")) : 0);
+  const Kernel kernel = paired(what.family->make(what.length, what.type.precision, tree, target),
+                               std::getenv("PAIR") ? std::atoi(std::getenv("PAIR")) : 0);
   const xfm::gen::Counts counts = count(*kernel.network);
   const xfm::gen::Tree parsed = xfm::gen::parse_tree(kernel.tree);
   fmt::print("{}\n  tree       {}\n  adds       {} (row {})\n  mults      {} (row {})\n", kernel.name(),
