@@ -145,10 +145,11 @@ Listed& Listed::operator+=(const Listed& more) {
 
 // With one complex number per register, each join exchanges the parts once, so the number of permutations is
 // exact.
-Listed listed(const Family& family, const gen::Kernel& kernel) {
+Listed listed(const Family& family, const gen::Kernel& kernel, const gen::Target& target) {
   const gen::Counts counts = count(*kernel.network);
-  const int lanes = kernel.network->width();
-  const bool joined = kernel.type.complex && kernel.type.precision == gen::Precision::binary64 && lanes == 2;
+  const bool two_variants = kernel.packed() && !target.unaligned_is_free;
+  const bool joined =
+      two_variants && kernel.type.complex && kernel.type.precision == gen::Precision::binary64;
   const Row row = {.name = kernel.name(),
                    .family = kernel.family,
                    .type = kernel.type,
@@ -161,9 +162,9 @@ Listed listed(const Family& family, const gen::Kernel& kernel) {
                    .adds = kernel.adds,
                    .mults = kernel.mults,
                    .buffer_bytes = 0};
-  const Form form = {.lanes = lanes,
+  const Form form = {.lanes = kernel.network->width(),
                      .straight = true,
-                     .two_variants = kernel.packed(),
+                     .two_variants = two_variants,
                      .bodies = 1,
                      .exchanges = joined ? counts.permutations : -1,
                      .add_instructions = counts.add_nodes,

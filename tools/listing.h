@@ -23,7 +23,7 @@ struct Listed {
   Listed& operator+=(const Listed& more);
 };
 /// Of a generated or a hand-written kernel.
-Listed listed(const Family& family, const gen::Kernel& kernel);
+Listed listed(const Family& family, const gen::Kernel& kernel, const gen::Target& target);
 Listed listed(const Family& family, int length, const gen::ElementType& type, const gen::Target& target);
 
 /// The tables behind catalogue.h: those of the library, and that of the forms on a target.

@@ -77,7 +77,7 @@ void write_all(const std::filesystem::path& out, const Form& form) {
         continue;
       }
       std::vector<Kernel> of_family = kernels_of(*family, length, form);
-      for (const Kernel& kernel : of_family) family_rows += xfm::listed(*family, kernel);
+      for (const Kernel& kernel : of_family) family_rows += xfm::listed(*family, kernel, target);
       write(fmt::format("{}_{}.cpp", family->name, length), emit_file(of_family, target, shared));
       std::ranges::move(of_family, std::back_inserter(kernels));
     }

@@ -83,9 +83,9 @@ class Matching {
   const PairCosts& costs_;
   Sequence<int> partners_;
   Sequence<char> high_, crossed_;
-  Sequence<int> uses_, alone_;  // by all, stores included, and by single units
-  Sequence<int> places_,
-      at_place_;  // where a unit leaves to, and what leaves to a place; -1: nowhere, nothing
+  Sequence<int> uses_, alone_;       // by all, stores included, and by single units
+  Sequence<int> at_place_;           // what leaves to a place, or -1
+  Sequence<Sequence<int>> couples_;  // of places, that a unit leaves to
   int cost_ = 0;
   Sequence<Change> log_;
   Sequence<Lift> lifted_;
