@@ -17,6 +17,14 @@ std::array<Vector, 2> operand_vectors(const Sequence<Unit>& units, const Pair& p
   return {{{low[0], high[0]}, {low[1], high[1]}}};
 }
 
+namespace {
+
+bool contains(const Sequence<int>& numbers, int n) {
+  return std::find(numbers.begin(), numbers.end(), n) != numbers.end();
+}
+
+}  // namespace
+
 Matching::Matching(const UnitGraph& graph, const Sequence<Leaving>& leaving, const PairCosts& costs)
     : graph_(graph),
       costs_(costs),
@@ -25,7 +33,7 @@ Matching::Matching(const UnitGraph& graph, const Sequence<Leaving>& leaving, con
       crossed_(graph.size()),
       uses_(graph.size()),
       alone_(graph.size()),
-      places_(graph.size(), -1),
+      couples_(graph.size()),
       levels_(graph.size()),
       new_levels_(graph.size()),
       waiting_(graph.size()) {
@@ -38,7 +46,7 @@ Matching::Matching(const UnitGraph& graph, const Sequence<Leaving>& leaving, con
     ++uses_[unit];
     if (place >= at_place_.size()) at_place_.resize(static_cast<std::size_t>(place) + 1, -1);
     at_place_[place] = unit;
-    places_[unit] = place;
+    if (!contains(couples_[unit], place / 2)) couples_[unit].push_back(place / 2);
   }
   for (int couple = 0; 2 * couple < at_place_.size(); ++couple) cost_ += couple_cost(couple);
   find_levels();
@@ -84,11 +92,11 @@ int Matching::operands_cost(const Pair& pair) const {
 
 // What the results of two units cost: out of the high lane, next to each other, and into memory.
 int Matching::results_cost(const Pair& pair) const {
-  const int first = places_[pair.low] / 2, second = places_[pair.high] / 2;
   int cost = alone_cost(pair.low) + alone_cost(pair.high);
   if (wanted({pair.low, pair.high})) cost += vector_cost({pair.low, pair.high});
-  if (places_[pair.low] >= 0) cost += couple_cost(first);
-  if (places_[pair.high] >= 0 && (first != second || places_[pair.low] < 0)) cost += couple_cost(second);
+  for (const int couple : couples_[pair.low]) cost += couple_cost(couple);
+  for (const int couple : couples_[pair.high])
+    if (!contains(couples_[pair.low], couple)) cost += couple_cost(couple);
   return cost;
 }
 
@@ -119,12 +127,26 @@ int Matching::store_cost(int place) const {
   return costs_.store + (high(u) ? costs_.upper_store : 0);
 }
 
-// Two places side by side, apart or shuffled together if both are free.
+// An even place and the next, whose values may be shuffled together if no pair leaves there.
 int Matching::couple_cost(int couple) const {
-  const int p = 2 * couple, q = p + 1, a = unit_at(p), b = unit_at(q);
-  const int apart = store_cost(p) + store_cost(q);
-  if (a < 0 || b < 0 || leaves_paired(p) || leaves_paired(q)) return apart;
-  return std::min(apart, costs_.store + costs_.shuffle);
+  const int apart = store_cost(2 * couple) + store_cost(2 * couple + 1);
+  return may_meet(couple) ? std::min(apart, costs_.store + costs_.shuffle) : apart;
+}
+
+bool Matching::may_meet(int couple) const {
+  const int p = 2 * couple, q = p + 1;
+  return unit_at(p) >= 0 && unit_at(q) >= 0 && !leaves_paired(p) && !leaves_paired(q);
+}
+
+Sequence<int> Matching::joint_stores() const {
+  Sequence<int> places;
+  for (int p = 0; p < at_place_.size(); ++p) {
+    const bool pair = leaves_paired(p) && !high(unit_at(p));
+    const bool meet =
+        p % 2 == 0 && may_meet(p / 2) && costs_.store + costs_.shuffle < store_cost(p) + store_cost(p + 1);
+    if (pair || meet) places.push_back(p);
+  }
+  return places;
 }
 
 // Links two units or separates them, whatever that costs.
@@ -186,14 +208,32 @@ void Matching::undo(int history) {
   }
 }
 
-// Levels rise along every edge of the accepted pairs. New pairs of one level leave that so; only for others
-// the levels are found anew.
+// Levels rise along every edge of the graph of pairs, which shows that there is no cycle. New pairs whose
+// units had one level leave that so. Others lift what is above them; where that takes long, the levels are
+// found anew.
 bool Matching::acyclic() {
-  const bool level = std::all_of(log_.begin(), log_.end(), [&](const Change& change) {
-    const int low = change.pair.low, high = change.pair.high;
-    return !is_pair(low, high) || levels_[low] == levels_[high];
-  });
-  return level || find_levels();
+  lifted_.clear();
+  for (const Change& change : log_) {
+    const auto [low, high, crossed] = change.pair;
+    if (is_pair(low, high) && levels_[low] != levels_[high]) lift(low, std::max(levels_[low], levels_[high]));
+  }
+  const int most = 32 + graph_.size() / 8;
+  for (int next = 0; next < lifted_.size() && lifted_.size() < most; ++next) {
+    const int u = lifted_[next].unit;
+    for (const Use& use : graph_.users(u)) lift(use.unit, levels_[u] + 1);
+  }
+  if (lifted_.size() < most) return true;
+  for (; !lifted_.empty(); lifted_.pop_back()) levels_[lifted_.back().unit] = lifted_.back().level;
+  return find_levels();
+}
+
+// To a level at least, with the partner.
+void Matching::lift(int u, int level) {
+  if (levels_[u] < level) {
+    lifted_.push_back({u, levels_[u]});
+    levels_[u] = level;
+  }
+  if (paired(u) && levels_[partner(u)] < level) lift(partner(u), level);
 }
 
 // Takes away what has no operands left, pair by pair, until nothing is left (A. B. Kahn 1962).

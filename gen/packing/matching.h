@@ -33,6 +33,7 @@ class Matching {
   /// @name Changes. They can be taken back to an earlier length of the history.
   /// @{
   void join(int low, int high);  ///< both single; crossed if that is cheaper
+  void join(const Pair& pair);
   void part(int u) { part(pair_of(u)); }
   void cross(int u);  ///< the other way to put a pair's operands together
   int history() const { return log_.size(); }
@@ -45,12 +46,17 @@ class Matching {
   bool acyclic();
 
   Sequence<Pair> pairs() const;
+  Sequence<int> joint_stores() const;
 
  private:
   struct Change {
     Pair pair;
     bool joined;
     int cost;  ///< before
+  };
+
+  struct Lift {
+    int unit, level;  ///< before
   };
 
   int vector_cost(const Vector& v) const;
@@ -66,21 +72,23 @@ class Matching {
   bool leaves_paired(int place) const;
   int store_cost(int place) const;
   int couple_cost(int couple) const;
+  bool may_meet(int couple) const;
   int unit_at(int place) const { return place < 0 || place >= at_place_.size() ? -1 : at_place_[place]; }
   Pair pair_of(int u) const;
-  void join(const Pair& pair);
   bool find_levels();
+  void lift(int u, int level);
   void part(const Pair& pair);
 
   const UnitGraph& graph_;
   const PairCosts& costs_;
   Sequence<int> partners_;
   Sequence<char> high_, crossed_;
-  Sequence<int> uses_, alone_;  // by all, stores included, and by single units
-  Sequence<int> places_,
-      at_place_;  // where a unit leaves to, and what leaves to a place; -1: nowhere, nothing
+  Sequence<int> uses_, alone_;       // by all, stores included, and by single units
+  Sequence<int> at_place_;           // what leaves to a place, or -1
+  Sequence<Sequence<int>> couples_;  // of places, that a unit leaves to
   int cost_ = 0;
   Sequence<Change> log_;
+  Sequence<Lift> lifted_;
   Sequence<int> levels_, new_levels_, waiting_, ready_;
 };
 

@@ -23,7 +23,7 @@ class Moves {
       }
     }
     for (const auto& [unit, place] : leaving) put(outputs_, place, unit);
-    for (const int steps : {0, 1, 2, 3}) classes_.push_back(likeness(graph_, steps));
+    for (const int steps : {0, 1, 2, 4, 6}) classes_.push_back(likeness(graph_, steps));
   }
 
   /// Whether there is anything to do at all.
@@ -47,7 +47,7 @@ class Moves {
 
   template <class Range>
   auto some(const Range& range) {
-    return range[static_cast<std::size_t>(random_.below(static_cast<int>(range.size())))];
+    return range.begin()[random_.below(static_cast<int>(range.size()))];
   }
   int some_user(int u) { return graph_.users(u).empty() ? -1 : some(graph_.users(u)).unit; }
 
@@ -189,6 +189,13 @@ class Cooling {
   std::int64_t temperature_ = 20 * log_2;
 };
 
+Matching matching_of(const Sequence<Pair>& pairs, const UnitGraph& graph, const Sequence<Leaving>& leaving,
+                     const PairCosts& costs) {
+  Matching matching(graph, leaving, costs);
+  for (const Pair& pair : pairs) matching.join(pair);
+  return matching;
+}
+
 }  // namespace
 
 Sequence<Pair> find_pairs(const Sequence<Unit>& units, const Sequence<Leaving>& leaving,
@@ -198,7 +205,7 @@ Sequence<Pair> find_pairs(const Sequence<Unit>& units, const Sequence<Leaving>& 
   Random random(search.seed);
   Moves moves(matching, leaving, random);
   if (moves.none()) return {};
-  for (Cooling cooling(search.moves > 0 ? search.moves : 2000 + 80 * units.size()); !cooling.done();
+  for (Cooling cooling(search.moves > 0 ? search.moves : 5000 + 100 * units.size()); !cooling.done();
        cooling.next()) {
     const int before = matching.cost();
     moves.make();
@@ -206,6 +213,18 @@ Sequence<Pair> find_pairs(const Sequence<Unit>& units, const Sequence<Leaving>& 
     matching.accept();
   }
   return matching.pairs();
+}
+
+int cost_of(const Sequence<Pair>& pairs, const Sequence<Unit>& units, const Sequence<Leaving>& leaving,
+            const PairCosts& costs) {
+  const UnitGraph graph(units);
+  return matching_of(pairs, graph, leaving, costs).cost();
+}
+
+Sequence<int> joint_stores(const Sequence<Pair>& pairs, const Sequence<Unit>& units,
+                           const Sequence<Leaving>& leaving, const PairCosts& costs) {
+  const UnitGraph graph(units);
+  return matching_of(pairs, graph, leaving, costs).joint_stores();
 }
 
 }  // namespace xfm::gen

@@ -25,7 +25,7 @@ struct Unit {
   int load = -1;                  ///< of a load: its place in memory, in units of its own size
 };
 
-/// A store of a unit. A unit leaves at most once.
+/// A store of a unit.
 struct Leaving {
   int unit, place;
 };
@@ -63,5 +63,14 @@ struct Search {
 /// The pairs that were found, in the order of their low units.
 Sequence<Pair> find_pairs(const Sequence<Unit>& units, const Sequence<Leaving>& leaving,
                           const PairCosts& costs, const Search& search = {});
+
+/// What the graph costs with these pairs.
+int cost_of(const Sequence<Pair>& pairs, const Sequence<Unit>& units, const Sequence<Leaving>& leaving,
+            const PairCosts& costs);
+
+/// The places p whose value leaves by one store together with that of p + 1: the two are a pair, or they are
+/// shuffled together because that costs less than two stores.
+Sequence<int> joint_stores(const Sequence<Pair>& pairs, const Sequence<Unit>& units,
+                           const Sequence<Leaving>& leaving, const PairCosts& costs);
 
 }  // namespace xfm::gen
