@@ -23,6 +23,12 @@ unsigned fills(const Permutation& permutation, const Units& wanted, const Units&
   return filled;
 }
 
+// What a register costs one of those that it serves.
+template <class Plan>
+int share(const Plan& plan) {
+  return plan.cost / std::max(1, plan.serves);
+}
+
 }  // namespace
 
 UnitPermuter::UnitPermuter(Network& network, const Target& target) : network_(network) {
@@ -161,7 +167,7 @@ void UnitPermuter::by_two(const Units& wanted, const Permutation& permutation, i
     if (way.a == wanted || way.b == wanted) return;
     const bool one = std::all_of(way.b.begin(), way.b.end(), [](Number u) { return u < 0; });
     const Plan a = plan(way.a, depth), b = one ? Plan{.cost = 0} : plan(way.b, depth);
-    const int cost = permutation.cost + a.cost + b.cost, serves = a.serves + b.serves;
+    const int cost = permutation.cost + share(a) + share(b), serves = a.serves + b.serves;
     if (a.cost >= impossible || b.cost >= impossible) return;
     if (cost > best.cost || (cost == best.cost && serves <= best.serves)) return;
     best = way;

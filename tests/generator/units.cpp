@@ -44,7 +44,8 @@ struct Numbers {
       const int number = numbers[static_cast<std::size_t>(l / 2)];
       Place at{node, l};
       while (network.node(at.node).op == Op::permute) at = network.source(network.node(at.node), at.lane);
-      if (number >= 0) ASSERT_EQ(network.node(at.node).lanes[at.lane], 2 * number + l % 2) << "lane " << l;
+      if (number < 0) continue;
+      ASSERT_EQ(network.node(at.node).lanes[at.lane], 2 * number + l % 2) << "lane " << l;
     }
   }
 
