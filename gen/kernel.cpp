@@ -1,6 +1,5 @@
 #include "gen/kernel.h"
 
-#include "gen/packing/paired.h"
 #include "gen/passes/passes.h"
 
 namespace xfm::gen {
@@ -18,7 +17,7 @@ Kernel make_kernel(Design design) {
   return std::move(design.kernel);
 }
 
-Kernel paired(Kernel kernel, int lanes) {
+Kernel paired(Kernel kernel, int lanes, Pairing& pairing) {
   if (kernel.network->width() >= lanes) return kernel;
   const Precision precision = kernel.type.precision;
   Programs programs(Equality::bits);
@@ -26,7 +25,7 @@ Kernel paired(Kernel kernel, int lanes) {
   InstructionCosts costs;
   if (precision == Precision::binary32) costs.upper_store = 6;
   kernel.network = lowered(*kernel.network, precision);
-  while (kernel.network->width() < lanes) kernel.network = paired(*kernel.network, costs);
+  while (kernel.network->width() < lanes) kernel.network = pairing.run(*kernel.network, kernel.numbering, costs);
   check_same(programs.read(*kernel.network, precision), kernel.name() + " in pairs", program, "the single one");
   return kernel;
 }

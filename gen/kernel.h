@@ -7,6 +7,7 @@
 #include "gen/network/check.h"
 #include "gen/network/program.h"
 #include "gen/order/schedule.h"
+#include "gen/packing/paired.h"
 
 namespace xfm::gen {
 
@@ -56,6 +57,6 @@ Kernel make_kernel(Design design);
 
 /// The kernel with its operations in pairs, again and again until its widest values have so many lanes. It
 /// computes the same scalar program; throws if it does not.
-Kernel paired(Kernel kernel, int lanes);
+Kernel paired(Kernel kernel, int lanes, Pairing& pairing);
 
 }  // namespace xfm::gen

@@ -26,6 +26,7 @@ using xfm::gen::Target;
 struct Form {
   const Target& target;
   int lanes = 0;
+  xfm::gen::Pairing& pairing;
 };
 
 struct Named {
@@ -39,7 +40,7 @@ Kernel made(const Named& what, const std::string& tree, const Form& form) {
   Kernel kernel = what.family->make(what.length, what.type.precision, tree, form.target);
   const int lanes = form.lanes == 0 ? xfm::chosen_lanes(kernel, form.target)
                                     : std::min(form.lanes, xfm::most_lanes(kernel, form.target));
-  return paired(std::move(kernel), lanes);
+  return paired(std::move(kernel), lanes, form.pairing);
 }
 
 // Both precisions, on every target with the baseline's bits.
@@ -181,7 +182,8 @@ int run(int argc, char** argv) {
   CLI11_PARSE(app, argc, argv);
 
   const Target& target = xfm::gen::target(target_name);
-  const Form form{target, lanes};
+  xfm::gen::Pairing pairing;
+  const Form form{target, lanes, pairing};
   if (!out.empty()) write_all(out, form);
   if (list_costs) costs(form);
   if (!std::get<0>(shown).empty()) show(named(shown), tree, form);

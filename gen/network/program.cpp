@@ -10,12 +10,6 @@
 #include "gen/network/interpreter.h"
 
 namespace xfm::gen {
-namespace {
-
-int number(const PerLane& numbers, int place) { return place < numbers.size() ? numbers[place] : place; }
-
-}  // namespace
-
 // The arithmetic that writes down operations. Under Equality::values 0 - v is -v.
 struct Programs::Arithmetic {
   using Scalar = Result;
@@ -25,7 +19,7 @@ struct Programs::Arithmetic {
   const PerLane& inputs;
 
   Result input(int place) const {
-    return programs.make({.kind = Kind::input, .precision = precision, .input = number(inputs, place)});
+    return programs.make({.kind = Kind::input, .precision = precision, .input = number(place, inputs)});
   }
   Result zero() const { return programs.zero(precision); }
   Result add(Result a, Result b) const { return programs.add(a, b, precision); }
@@ -43,7 +37,7 @@ Program Programs::read(const Network& network, Precision precision, const Number
   Program program;
   const Arithmetic arithmetic{*this, precision, numbering.inputs};
   Interpreter(network, arithmetic).each_output([&](int place, Result result) {
-    const int output = number(numbering.outputs, place);
+    const int output = number(place, numbering.outputs);
     if (output >= program.size()) program.resize(static_cast<std::size_t>(output) + 1);
     program[output] = result;
   });

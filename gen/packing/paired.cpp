@@ -17,7 +17,8 @@ bool leaves_whole(const Store& store) {
 // The graph of a network's operations as the search wants it. A unit is a node of the network.
 class Graph {
  public:
-  Graph(const Network& network, const InstructionCosts& costs) : network_(network), costs_(costs) {
+  Graph(const Network& network, const Numbering& numbering, const InstructionCosts& costs)
+      : network_(network), numbering_(numbering), costs_(costs) {
     pair_costs_ = {.kind = {},
                    .load = costs.load,
                    .merged_load = costs.merged_load,
@@ -27,22 +28,34 @@ class Graph {
                    .upper_store = costs.upper_store};
     for (NodeId id = 0; id < network.nodes().size(); ++id) units_.push_back(unit(id));
     for (const Store& store : network.stores()) {
-      if (leaves_whole(store)) leaving_.push_back({store.node, place(store.lanes)});
+      if (leaves_whole(store)) leaving_.push_back({store.node, place(store.lanes, numbering.outputs)});
     }
   }
 
   const Sequence<Unit>& units() const { return units_; }
   Sequence<Pair> pairs() const { return find_pairs(units_, leaving_, pair_costs_); }
 
+  /// All that the search depends on.
+  Sequence<int> key() const {
+    Sequence<int> key = pair_costs_.kind;
+    for (const Unit& unit : units_) {
+      key.insert(key.end(), {unit.kind, unit.in[0], unit.in[1], unit.commutative, unit.subtracts,
+                             unit.constant_product, unit.load});
+    }
+    for (const Leaving& leaving : leaving_) key.insert(key.end(), {leaving.unit, leaving.place});
+    key.push_back(costs_.upper_store);
+    return key;
+  }
+
  private:
   // Where a value of several lanes is in memory, such that neighbours have successive numbers. Starts at even
   // and at odd elements are numbered apart, and so are lanes that are not side by side.
-  int place(const PerLane& lanes) {
-    const int width = lanes.size(), far = 1 << 10;
+  int place(const PerLane& lanes, const PerLane& numbers) {
+    const int width = lanes.size(), far = 1 << 10, first = number(lanes[0], numbers);
     for (int l = 1; l < width; ++l) {
-      if (lanes[l] != lanes[0] + l) return far * ++scattered_;
+      if (number(lanes[l], numbers) != first + l) return far * ++scattered_;
     }
-    return lanes[0] / width + lanes[0] % width * (far / width);
+    return first / width + first % width * (far / width);
   }
 
   Unit unit(NodeId id) {
@@ -51,7 +64,7 @@ class Graph {
     unit.commutative = node.op == Op::add;
     unit.subtracts = node.op == Op::sub;
     unit.constant_product = node.op == Op::mul;
-    if (node.op == Op::load) unit.load = place(node.lanes);
+    if (node.op == Op::load) unit.load = place(node.lanes, numbering_.inputs);
     return unit;
   }
 
@@ -91,6 +104,7 @@ class Graph {
   }
 
   const Network& network_;
+  const Numbering& numbering_;
   const InstructionCosts& costs_;
   PairCosts pair_costs_;
   std::map<PerLane, int> kinds_;
@@ -106,9 +120,9 @@ struct Held {
 };
 
 // Builds the network of the pairs.
-class Pairing {
+class Builder {
  public:
-  Pairing(const Network& old, const Sequence<Unit>& units, const Sequence<Pair>& pairs)
+  Builder(const Network& old, const Sequence<Unit>& units, const Sequence<Pair>& pairs)
       : old_(old),
         made_(std::make_unique<Network>(2 * old.width(), old.rounding())),
         uses_(uses(old)),
@@ -311,9 +325,12 @@ class Pairing {
 
 }  // namespace
 
-std::unique_ptr<Network> paired(const Network& network, const InstructionCosts& costs) {
-  const Graph graph(network, costs);
-  return Pairing(network, graph.units(), graph.pairs()).run();
+std::unique_ptr<Network> Pairing::run(const Network& network, const Numbering& numbering,
+                                      const InstructionCosts& costs) {
+  const Graph graph(network, numbering, costs);
+  const auto [known, fresh] = known_.try_emplace(graph.key());
+  if (fresh) known->second = graph.pairs();
+  return Builder(network, graph.units(), known->second).run();
 }
 
 }  // namespace xfm::gen

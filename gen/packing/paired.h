@@ -1,9 +1,11 @@
 // Pairing: a network of twice as many lanes that computes the same scalar program.
 #pragma once
 
+#include <map>
 #include <memory>
 
-#include "gen/network/network.h"
+#include "gen/network/program.h"
+#include "gen/packing/pairs.h"
 
 namespace xfm::gen {
 
@@ -13,9 +15,17 @@ struct InstructionCosts {
       upper_store = 3;
 };
 
-/// Packs like operations of a network in pairs (pairs.h). The network must consist of operations on one or
-/// two operands (lowered() in passes.h); it may be the result of an earlier pairing, whose permutations are
-/// operations like others.
-std::unique_ptr<Network> paired(const Network& network, const InstructionCosts& costs);
+/// Makes networks in pairs. Kernels that differ only in their addresses in memory are searched once.
+class Pairing {
+ public:
+  /// Packs like operations in pairs (pairs.h). The network must consist of operations on one or two operands
+  /// (lowered() in passes.h); it may be the result of an earlier pairing, whose permutations are operations
+  /// like others. Memory is numbered as in the scalar program, so that layouts of one spectrum look alike.
+  std::unique_ptr<Network> run(const Network& network, const Numbering& numbering,
+                               const InstructionCosts& costs);
+
+ private:
+  std::map<Sequence<int>, Sequence<Pair>> known_;  // by the graph, as numbers
+};
 
 }  // namespace xfm::gen
