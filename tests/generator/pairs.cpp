@@ -243,8 +243,8 @@ TEST(Pairs, NeverHoldAValueAndWhatIsComputedFromIt) {
 
 TEST(Pairs, AreFoundAmongNothing) { EXPECT_TRUE(find_pairs({}, {}, costs).empty()); }
 
-// Products that would pair well with each other, each computed from the other's partner.
-TEST(Pairs, WaitForEachOtherInNoCircle) {
+// Each of two pairs would wait for the other.
+TEST(Pairs, FormNoCycle) {
   Graph g;
   const int x = g.load(0), y = g.load(1);
   const int early = g.times(x), late = g.times(g.sum(early, early));
