@@ -18,7 +18,6 @@ class Matching {
   bool paired(int u) const { return partners_[u] >= 0; }
   int partner(int u) const { return partners_[u]; }
   bool high(int u) const { return high_[u] != 0; }
-  bool crossed(int u) const { return crossed_[u] != 0; }
   bool is_pair(int low, int high) const { return partners_[low] == high && high_[high] != 0; }
   /// The operand beside operand `slot` of a paired unit.
   int beside(int u, std::size_t slot) const {

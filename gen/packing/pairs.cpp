@@ -62,7 +62,8 @@ class Moves {
   void users_of_pair() {
     const int u = some(operations_);
     if (!matching_.paired(u)) return units_alike();
-    grow_as(u, some_user(u), some_user(matching_.partner(u)));
+    const int a = some_user(u), b = some_user(matching_.partner(u));
+    grow_as(u, a, b);
   }
 
   void neighbours_in_memory() {
@@ -74,7 +75,8 @@ class Moves {
     if (at_outputs) {
       grow(a, b);
     } else {
-      grow(some_user(a), some_user(b));
+      const int user = some_user(a);
+      grow(user, some_user(b));
     }
   }
 
@@ -205,7 +207,7 @@ Sequence<Pair> find_pairs(const Sequence<Unit>& units, const Sequence<Leaving>& 
   Random random(search.seed);
   Moves moves(matching, leaving, random);
   if (moves.none()) return {};
-  for (Cooling cooling(search.moves > 0 ? search.moves : 5000 + 100 * units.size()); !cooling.done();
+  for (Cooling cooling(search.moves > 0 ? search.moves : 5000 + 150 * units.size()); !cooling.done();
        cooling.next()) {
     const int before = matching.cost();
     moves.make();
