@@ -25,8 +25,10 @@ Kernel paired(Kernel kernel, int lanes, Pairing& pairing) {
   InstructionCosts costs;
   if (precision == Precision::binary32) costs.upper_store = 6;
   kernel.network = lowered(*kernel.network, precision);
-  while (kernel.network->width() < lanes) kernel.network = pairing.run(*kernel.network, kernel.numbering, costs);
-  check_same(programs.read(*kernel.network, precision), kernel.name() + " in pairs", program, "the single one");
+  while (kernel.network->width() < lanes)
+    kernel.network = pairing.run(*kernel.network, kernel.numbering, costs);
+  check_same(programs.read(*kernel.network, precision), kernel.name() + " in pairs", program,
+             "the single one");
   return kernel;
 }
 

@@ -9,9 +9,7 @@ namespace {
 class Counter {
  public:
   explicit Counter(const Network& network)
-      : network_(network),
-        live_(live_lanes(network)),
-        zero_(live_.size(), Sequence<bool>(network.width())) {}
+      : network_(network), live_(live_lanes(network)), zero_(live_.size(), Sequence<bool>(network.width())) {}
 
   Counts run() {
     for (NodeId id = 0; id < live_.size(); ++id) {

@@ -17,9 +17,7 @@ class Interpreter {
   using Scalar = typename Arithmetic::Scalar;
 
   Interpreter(const Network& network, const Arithmetic& arithmetic)
-      : network_(network),
-        arithmetic_(arithmetic),
-        values_(network.nodes().size()) {
+      : network_(network), arithmetic_(arithmetic), values_(network.nodes().size()) {
     for (NodeId id = 0; id < values_.size(); ++id) {
       for (int l = 0; l < network.width(id); ++l) values_[id].push_back(lane(id, l));
     }

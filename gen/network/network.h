@@ -1,10 +1,11 @@
 // The network: what a kernel computes, from its loads to its stores, as a graph of rounded operations.
 //
-// A value has a width: how many lanes it carries (1: scalar; 2: the parts of one complex number; more: numbers
-// side by side). Recipes give all values the network's width; pairing (gen/packing) makes wider ones of them.
-// Operations treat all lanes alike, except loads, stores, permutations, sign flips and products by lane
-// constants. A value is a node and a sign, so a negation costs nothing until an output needs it. Equal operations are one node (hash-consing), and nothing else is ever simplified, reassociated or
-// merged by value: what a recipe writes is what rounds.
+// A value has a width: how many lanes it carries (1: scalar; 2: the parts of one complex number; more:
+// numbers side by side). Recipes give all values the network's width; pairing (gen/packing) makes wider ones
+// of them. Operations treat all lanes alike, except loads, stores, permutations, sign flips and products by
+// lane constants. A value is a node and a sign, so a negation costs nothing until an output needs it. Equal
+// operations are one node (hash-consing), and nothing else is ever simplified, reassociated or merged by
+// value: what a recipe writes is what rounds.
 #pragma once
 
 #include <array>

@@ -34,7 +34,9 @@ using Program = Sequence<Result>;
 struct Numbering {
   PerLane inputs{}, outputs{};
 };
-inline int number(int place, const PerLane& numbers) { return place < numbers.size() ? numbers[place] : place; }
+inline int number(int place, const PerLane& numbers) {
+  return place < numbers.size() ? numbers[place] : place;
+}
 
 /// Where two programs may differ.
 enum class Equality {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <map>
 #include <optional>
+#include <set>
 
 #include "gen/packing/pairs.h"
 
@@ -34,6 +35,16 @@ class Graph {
 
   const Sequence<Unit>& units() const { return units_; }
   Sequence<Pair> pairs() const { return find_pairs(units_, leaving_, pair_costs_); }
+
+  /// The units that leave by one store: low and high.
+  std::set<Vector> joint(const Sequence<Pair>& pairs) const {
+    std::map<int, int> at;
+    for (const Leaving& leaving : leaving_) at[leaving.place] = leaving.unit;
+    std::set<Vector> joint;
+    for (const int place : joint_stores(pairs, units_, leaving_, pair_costs_))
+      joint.insert({at.at(place), at.at(place + 1)});
+    return joint;
+  }
 
   /// All that the search depends on.
   Sequence<int> key() const {
@@ -122,17 +133,18 @@ struct Held {
 // Builds the network of the pairs.
 class Builder {
  public:
-  Builder(const Network& old, const Sequence<Unit>& units, const Sequence<Pair>& pairs)
+  Builder(const Network& old, const Graph& graph, const Sequence<Pair>& pairs)
       : old_(old),
         made_(std::make_unique<Network>(2 * old.width(), old.rounding())),
         uses_(uses(old)),
         of_(uses_.size(), Pair{-1, -1}),
         operands_(uses_.size()),
+        joint_(graph.joint(pairs)),
         negated_(uses_.size()),
         held_(uses_.size(), Held{-1, 0}) {
     for (const Pair& pair : pairs) {
       of_[pair.low] = of_[pair.high] = pair;
-      operands_[pair.low] = operand_vectors(units, pair);
+      operands_[pair.low] = operand_vectors(graph.units(), pair);
     }
   }
 
@@ -249,7 +261,7 @@ class Builder {
       case Op::permute:
         return made_->permute(a, b, picks(node)).node;
       case Op::sign_flip:
-        return made_->flip_signs(a, concatenated(node.lanes, old_.node(high).lanes)).node;
+        return flipped(a, concatenated(node.lanes, old_.node(high).lanes)).node;
       default:
         return made_->repeat(node, a, b).node;
     }
@@ -260,7 +272,16 @@ class Builder {
     const auto subtracting = std::count(lanes.begin(), lanes.end(), 1);
     if (subtracting == 0) return made_->add(a, b);
     if (subtracting == lanes.size() || alternates(low, high)) return made_->subtract(a, b, lanes);
-    return made_->add(a, made_->flip_signs(b, lanes));
+    return made_->add(a, flipped(b, lanes));
+  }
+
+  // Two sign flips in a row are one.
+  Value flipped(Value v, PerLane lanes) {
+    const Node& node = made_->node(v.node);
+    if (node.op != Op::sign_flip) return made_->flip_signs(v, lanes);
+    for (int l = 0; l < lanes.size(); ++l) lanes[l] ^= node.lanes[l];
+    const Value source = value(node.in[0]);
+    return std::count(lanes.begin(), lanes.end(), 1) == 0 ? source : made_->flip_signs(source, lanes);
   }
 
   Sequence<Constant> constants(NodeId low, NodeId high) const {
@@ -286,14 +307,14 @@ class Builder {
     return all;
   }
 
-  // The store of a pair's high unit may have left with the low one's.
+  // Neighbours in memory leave together with the lower one.
   void store(int s) {
     const Store& store = old_.stores()[s];
     if (store.node < 0) {
       made_->store_zero(store.lanes[0]);
     } else if (const auto with = partner(s, true)) {
-      const PerLane lanes = concatenated(store.lanes, old_.stores()[*with].lanes);
-      made_->store(value(held(store.node).node), lanes);
+      const Store& other = old_.stores()[*with];
+      made_->store(value(together(store.node, other.node)), concatenated(store.lanes, other.lanes));
     } else if (!partner(s, false)) {
       const Held at = held(store.node);
       PerLane lanes(made_->width(at.node), -1);
@@ -302,14 +323,13 @@ class Builder {
     }
   }
 
-  // The store that the neighbouring elements of the same pair leave by, behind or before this one.
+  // The store of the neighbour behind or before this one, if they leave together.
   std::optional<int> partner(int s, bool behind) const {
     const Store& store = old_.stores()[s];
     for (int t = 0; t < old_.stores().size(); ++t) {
       const Store& other = old_.stores()[t];
       const Store &low = behind ? store : other, &high = behind ? other : store;
-      if (!leaves_whole(low) || !leaves_whole(high) || !is_pair(low.node, high.node)) continue;
-      if (high.lanes[0] == low.lanes.back() + 1) return t;
+      if (high.lanes[0] == low.lanes.back() + 1 && joint_.contains({low.node, high.node})) return t;
     }
     return std::nullopt;
   }
@@ -317,8 +337,9 @@ class Builder {
   const Network& old_;
   std::unique_ptr<Network> made_;
   Sequence<int> uses_;
-  Sequence<Pair> of_;                                        // the pair of each unit
-  Sequence<std::array<std::array<int, 2>, 2>> operands_;     // of each pair, by its low unit
+  Sequence<Pair> of_;                         // the pair of each unit
+  Sequence<std::array<Vector, 2>> operands_;  // of each pair, by its low unit
+  std::set<Vector> joint_;
   Sequence<bool> negated_;
   Sequence<Held> held_;
 };
@@ -330,7 +351,7 @@ std::unique_ptr<Network> Pairing::run(const Network& network, const Numbering& n
   const Graph graph(network, numbering, costs);
   const auto [known, fresh] = known_.try_emplace(graph.key());
   if (fresh) known->second = graph.pairs();
-  return Builder(network, graph.units(), known->second).run();
+  return Builder(network, graph, known->second).run();
 }
 
 }  // namespace xfm::gen

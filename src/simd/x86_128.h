@@ -44,12 +44,12 @@ static inline f64x2 flip_signs(f64x2 v) {
   return _mm_xor_pd(v, f64x2{a ? -0.0 : 0.0, b ? -0.0 : 0.0});
 }
 
-/// Picks lanes in one instruction: the lanes of u count from 0, and those of v follow. Other picks are left to
-/// wider vocabularies.
+/// Picks lanes in one instruction: the lanes of u count from 0, and those of v follow. Other picks are left
+/// to wider vocabularies.
 template <int a, int b, int c, int d>
 requires((a == 0 && b == 4 && c == 1 && d == 5) || (a == 2 && b == 6 && c == 3 && d == 7) ||
-         (0 <= a && a < 4 && 0 <= b && b < 4 && 4 <= c && c < 8 && 4 <= d && d < 8))
-static inline f32x4 permute(f32x4 u, f32x4 v) {
+         (0 <= a && a < 4 && 0 <= b && b < 4 && 4 <= c && c < 8 && 4 <= d && d < 8)) static inline f32x4
+    permute(f32x4 u, f32x4 v) {
   constexpr auto picks = [](int e, int f, int g, int h) { return a == e && b == f && c == g && d == h; };
   if constexpr (picks(0, 1, 4, 5)) {
     return _mm_movelh_ps(u, v);
@@ -64,8 +64,7 @@ static inline f32x4 permute(f32x4 u, f32x4 v) {
   }
 }
 template <int a, int b>
-requires(0 <= a && a < 2 && 2 <= b && b < 4)
-static inline f64x2 permute(f64x2 u, f64x2 v) {
+requires(0 <= a && a < 2 && 2 <= b && b < 4) static inline f64x2 permute(f64x2 u, f64x2 v) {
   return _mm_shuffle_pd(u, v, _MM_SHUFFLE2(b - 2, a));
 }
 

@@ -69,8 +69,8 @@ static inline f64x4 flip_signs(f64x4 v) {
   return _mm256_xor_pd(v, f64x4{zeros[a], zeros[b], zeros[c], zeros[d]});
 }
 
-/// Picks any lanes of two registers: those of u count from 0, and those of v follow; -1 for lanes that may hold
-/// anything. Compilers find the instruction for every pick that takes only one.
+/// Picks any lanes of two registers: those of u count from 0, and those of v follow; -1 for lanes that may
+/// hold anything. Compilers find the instruction for every pick that takes only one.
 template <int... picks, class V>
 static inline auto permute(V u, V v) {
   return __builtin_shufflevector(u, v, picks...);
