@@ -303,8 +303,8 @@ class Pairing {
   const Network& old_;
   std::unique_ptr<Network> made_;
   Sequence<int> uses_;
-  Sequence<Pair> of_;                                        // the pair of each unit
-  Sequence<std::array<std::array<int, 2>, 2>> operands_;     // of each pair, by its low unit
+  Sequence<Pair> of_;                                     // the pair of each unit
+  Sequence<std::array<std::array<int, 2>, 2>> operands_;  // of each pair, by its low unit
   Sequence<bool> negated_;
   Sequence<Held> held_;
 };
