@@ -29,7 +29,7 @@ constexpr Scalar scalars[] = {
 
 // Kernels that keep the baseline's lanes on every target. At 59 zeros of the chirp products come out with
 // other signs in any other form; the others are chains too short for more lanes, and measurably slower.
-constexpr int narrow_everywhere[] = {6, 7, 10, 11, 14, 59};
+constexpr int narrow_everywhere[] = {6, 7, 10, 11, 14, 22, 23, 34, 59};
 
 // Length-5 blocks in another form than the default; the first row that fits applies.
 constexpr int all = std::numeric_limits<int>::max();
