@@ -146,16 +146,18 @@ TEST_P(Code, ConstantsAreReadOnly) {
   }
 }
 
-// The code has the operations that the generator wrote, however wide.
+// A packed kernel has the operations that were written for it, however wide: no compiler computes one twice.
+// On the baseline it has exactly these. Elsewhere compilers may unroll short loops.
 TEST_P(Code, Instructions) {
-  if (form().lanes == 1) return;
+  if (form().lanes == 1 || !(form().straight || is_baseline())) return;
   for (const auto& [name, body] : bodies()) {
     const Tally count = tally(body);
-    EXPECT_EQ(count.adds(), form().bodies * form().add_instructions) << name;
-    EXPECT_EQ(count.mults(), form().bodies * form().mult_instructions) << name;
-    if (is_baseline()) {
-      EXPECT_EQ(count.scalar_adds + count.scalar_mults, 0) << name;
-    }
+    EXPECT_LE(count.adds(), form().bodies * form().add_instructions) << name;
+    EXPECT_LE(count.mults(), form().bodies * form().mult_instructions) << name;
+    if (!is_baseline()) continue;
+    EXPECT_EQ(count.packed_adds, form().bodies * form().add_instructions) << name;
+    EXPECT_EQ(count.packed_mults, form().bodies * form().mult_instructions) << name;
+    EXPECT_EQ(count.scalar_adds + count.scalar_mults, 0) << name;
   }
 }
 
