@@ -27,7 +27,7 @@ class Graph {
                    .flip = costs.flip,
                    .store = costs.store,
                    .upper_store = costs.upper_store,
-                   .alternating_signs = network.width() > 1 ? costs.flip : 0};
+                   .alternating_signs = 0};
     for (NodeId id = 0; id < network.nodes().size(); ++id) units_.push_back(unit(id));
     for (const Store& store : network.stores()) {
       if (leaves_whole(store)) leaving_.push_back({store.node, place(store.lanes, numbering.outputs)});
