@@ -1,3 +1,5 @@
+#include <utility>
+
 #include "gen/passes/passes.h"
 #include "gen/passes/rebuilding.h"
 
@@ -43,11 +45,12 @@ class Lowering : public Rebuilding {
     return sum.negative ? made_->flip_signs(-sum, {1}) : sum;
   }
 
-  // Both terms negative: one of them changes its sign by an operation, since -a - b is not -(a + b) where
-  // zeros are added.
+  // Each difference is written as it is: the one of the other direction has another sign where it is zero. If
+  // both terms are negative, one changes its sign by an operation, since -a - b is not -(a + b) then.
   Value added(Value a, Value b) {
     if (a.negative && b.negative) a = made_->flip_signs(-a, {1});
-    return made_->add(a, b);
+    if (a.negative) std::swap(a, b);
+    return b.negative ? made_->subtract(a, -b, {1}) : made_->add(a, b);
   }
 
   Value operand(NodeId id) {
