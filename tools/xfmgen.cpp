@@ -66,11 +66,7 @@ void write_all(const std::filesystem::path& out, const Form& form) {
   std::map<std::string, xfm::Listed> rows;  // of each family
   std::map<int, std::vector<const Family*>> by_length;
   for (const Family& family : families()) {
-    for (const int length : family.lengths())
-      if (const char* only = std::getenv("LENGTHS");
-          !only ||
-          (" " + std::string(only) + " ").find(" " + std::to_string(length) + " ") != std::string::npos)
-        by_length[length].push_back(&family);
+    for (const int length : family.lengths()) by_length[length].push_back(&family);
   }
   for (const auto& [length, all] : by_length) {
     std::vector<Kernel> kernels;
