@@ -25,30 +25,19 @@ std::string identifier(const std::string& name) {
 
 bool is_trivial(const Constant& c) { return c.is_zero() || magnitude(c).is_one(); }
 
-/// A scalar, or a register as the vocabularies spell it, f32x4. No register has fewer than 16 bytes: upper
-/// lanes may be idle.
-struct Type {
-  Precision precision;
-  int lanes;
-
-  bool scalar() const { return lanes == 1; }
-  std::string name() const {
-    const int bits = precision == Precision::binary32 ? 32 : 64;
-    return scalar() ? fmt::format("xfm{}f", bits) : fmt::format("f{}x{}", bits, lanes);
-  }
-};
-Type type_of(Precision precision, int width) {
+// No register has fewer than 16 bytes: upper lanes may be idle.
+ValueType type_of(Precision precision, int width) {
   const int fewest = precision == Precision::binary32 ? 4 : 2;
   return {precision, width == 1 ? 1 : std::max(width, fewest)};
 }
 
 /// The type of a kernel's widest values.
-Type value_type(const Kernel& kernel) { return type_of(kernel.type.precision, kernel.network->width()); }
+ValueType value_type(const Kernel& kernel) { return type_of(kernel.type.precision, kernel.network->width()); }
 
 /// The type in which a body has the factor: repeated in memory for aligned loads, or a scalar to be
 /// broadcast.
-Type factor_type(const Kernel& kernel, const Target& target) {
-  return !target.unaligned_is_free ? value_type(kernel) : Type{kernel.type.precision, 1};
+ValueType factor_type(const Kernel& kernel, const Target& target) {
+  return !target.unaligned_is_free ? value_type(kernel) : ValueType{kernel.type.precision, 1};
 }
 
 /// Whether these scalars come in couples, side by side in memory; behind the last one lanes are idle.
@@ -120,7 +109,7 @@ class Body {
 
   static std::string var(NodeId id) { return fmt::format("v{}", id); }
 
-  Type type(NodeId id) const {
+  ValueType type(NodeId id) const {
     return type_of(network_.inner(id) ? Precision::binary64 : kernel_.type.precision, network_.width(id));
   }
 
@@ -193,13 +182,13 @@ class Body {
   // A value in the low lanes of a register of so many.
   std::string in_register(NodeId id, int lanes) const {
     if (type(id).lanes == lanes) return var(id);
-    return fmt::format("in_low_lanes<{}>({})", Type{type(id).precision, lanes}.name(), var(id));
+    return fmt::format("in_low_lanes<{}>({})", ValueType{type(id).precision, lanes}.name(), var(id));
   }
 
-  std::string multiplier(const Node& node, const Type& type) {
+  std::string multiplier(const Node& node, const ValueType& type) {
     if (type.scalar()) return use(node.constants[0]);
     if (node.constants.size() == 1) {
-      std::string name = shared_.use(node.constants[0], type.name(), type.precision, type.lanes);
+      std::string name = shared_.use(node.constants[0], type);
       registers_.try_emplace(name, type.name());
       return name;
     }
@@ -210,7 +199,7 @@ class Body {
   }
 
   // The factor in every lane.
-  std::string factor(const Type& type) {
+  std::string factor(const ValueType& type) {
     if (type.name() == factor_type(kernel_, target_).name()) return "s";
     factors_.insert(type.name());
     return "s_" + type.name();
@@ -241,7 +230,7 @@ class Body {
   }
 
   // Contiguous lanes take one load, couples one for each.
-  std::string load(const Node& node, const Type& type) const {
+  std::string load(const Node& node, const ValueType& type) const {
     const PerLane& from = node.lanes;
     if (type.scalar()) return fmt::format("x[{}]", from[0]);
     if (contiguous(from) && type.lanes == from.size())
@@ -259,7 +248,7 @@ class Body {
 
   // Four lanes of a register of eight, from this one on.
   std::string half(const PerLane& from, int first) const {
-    const Type type = type_of(kernel_.type.precision, 4);
+    const ValueType type = type_of(kernel_.type.precision, 4);
     if (from[first] < 0) return type.name() + "{}";
     return load({.op = Op::load, .lanes = PerLane(from.begin() + first, from.begin() + first + type.lanes)},
                 type);
@@ -267,7 +256,7 @@ class Body {
 
   // In kernels with an unaligned variant, a place that is not a multiple of the register's width is never
   // aligned.
-  std::string access(const std::string& what, int scalar, const Type& type) const {
+  std::string access(const std::string& what, int scalar, const ValueType& type) const {
     if (target_.unaligned_is_free) return fmt::format("Unaligned::{}<{}>", what, type.name());
     return fmt::format("{}::{}", scalar % type.lanes == 0 ? "Memory" : "Unaligned", what);
   }
@@ -276,7 +265,7 @@ class Body {
     const PerLane& to = store.lanes;
     if (store.node < 0) return fmt::format("  y[{}] = 0;\n", to[0]);
     const std::string v = var(store.node);
-    const Type type = this->type(store.node);
+    const ValueType type = this->type(store.node);
     if (type.scalar()) return fmt::format("  y[{}] = {};\n", to[0], v);
     if (contiguous(to) && type.lanes == to.size())
       return fmt::format("  {}(y + {}, {});\n", access("store", to[0], type), to[0], v);
@@ -336,7 +325,7 @@ std::string heading(const Kernel& kernel) {
       kernel.length, kernel.type.suffix());
 }
 
-std::string entry_text(const Kernel& kernel, const Type& factor_type) {
+std::string entry_text(const Kernel& kernel, const ValueType& factor_type) {
   const std::string factor = "factors_" + kernel.type.suffix() + ".of(flag)";
   return fmt::format(
       "  if (const xfmStatus status = check(src, dst, flag); status != xfmStsOk) return status;\n"
@@ -372,11 +361,18 @@ std::string literal(Wide value, Precision precision) {
   return fmt::format("{:a}", static_cast<double>(value));
 }
 
-std::string SharedConstants::use(const Constant& c, const std::string& type, Precision precision, int lanes) {
-  std::string name = fmt::format("xfm_{}_{}", type, identifier(c.name));
-  const std::vector<std::string> copies(static_cast<std::size_t>(lanes), literal(c.value, precision));
-  const std::string definition = fmt::format("extern \"C\" XFM_CONSTANT {} {} = {{{}}};  // {:.17g}\n", type,
-                                             name, fmt::join(copies, ", "), static_cast<double>(c.value));
+std::string ValueType::name() const {
+  const int bits = precision == Precision::binary32 ? 32 : 64;
+  return scalar() ? fmt::format("xfm{}f", bits) : fmt::format("f{}x{}", bits, lanes);
+}
+
+std::string SharedConstants::use(const Constant& c, const ValueType& type) {
+  std::string name = fmt::format("xfm_{}_{}", type.name(), identifier(c.name));
+  const std::vector<std::string> copies(static_cast<std::size_t>(type.lanes),
+                                        literal(c.value, type.precision));
+  const std::string definition =
+      fmt::format("extern \"C\" XFM_CONSTANT {} {} = {{{}}};  // {:.17g}\n", type.name(), name,
+                  fmt::join(copies, ", "), static_cast<double>(c.value));
   const auto [known, fresh] = definitions_.try_emplace(name, definition);
   if (!fresh && known->second != definition) throw std::logic_error("two constants named " + name);
   return name;

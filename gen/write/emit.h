@@ -10,12 +10,21 @@
 
 namespace xfm::gen {
 
+/// The type of a value: a scalar, or a register as the vocabularies spell it, f32x4.
+struct ValueType {
+  Precision precision;
+  int lanes;
+
+  bool scalar() const { return lanes == 1; }
+  std::string name() const;
+};
+
 /// Registers of replicated constants, by name, one for all kernels of the library. They have a translation
 /// unit of their own, because a compiler that saw their values would build them from scalars at every use.
 class SharedConstants {
  public:
   /// The register's name; from now on the register is among the definitions.
-  std::string use(const Constant& c, const std::string& type, Precision precision, int lanes);
+  std::string use(const Constant& c, const ValueType& type);
 
   /// The translation unit that defines all registers that were used.
   std::string definitions(const Target& target) const;

@@ -82,8 +82,12 @@ class Code : public KernelTest {
 
   /// On the baseline arithmetic is all packed or all scalar, and signs change by subtraction from zero.
   static bool is_baseline() { return level() == 1; }
-  /// Complex kernels in binary32 may leave lanes of a register idle.
-  static bool fills_its_lanes() { return std::string_view(kernel().type) != "32fc"; }
+  /// Registers of binary32 may have idle lanes, those of pairs and some of complex numbers.
+  static bool fills_its_lanes() {
+    const bool single = kernel().precision == catalogue::Precision::binary32;
+    const bool complex = std::string_view(kernel().type) == "32fc";
+    return !single || form().lanes == 1 || (is_baseline() && !complex);
+  }
 
  private:
   std::map<std::string, const Body&> bodies_;
@@ -147,13 +151,17 @@ TEST_P(Code, ConstantsAreReadOnly) {
 }
 
 // A packed kernel has the operations that were written for it, however wide: no compiler computes one twice.
-// On the baseline it has exactly these. Elsewhere compilers may unroll short loops.
+// On the baseline it has exactly these. Elsewhere compilers may unroll short loops, and g++ doubles a
+// register by a product.
 TEST_P(Code, Instructions) {
   if (form().lanes == 1 || !(form().straight || is_baseline())) return;
   for (const auto& [name, body] : bodies()) {
     const Tally count = tally(body);
-    EXPECT_LE(count.adds(), form().bodies * form().add_instructions) << name;
-    EXPECT_LE(count.mults(), form().bodies * form().mult_instructions) << name;
+    const int adds = form().bodies * form().add_instructions,
+              mults = form().bodies * form().mult_instructions;
+    EXPECT_LE(count.adds(), adds) << name;
+    EXPECT_LE(count.mults(), mults + (is_baseline() ? 0 : doublings())) << name;
+    EXPECT_LE(count.adds() + count.mults(), adds + mults) << name;
     if (!is_baseline()) continue;
     EXPECT_EQ(count.packed_adds, form().bodies * form().add_instructions) << name;
     EXPECT_EQ(count.packed_mults, form().bodies * form().mult_instructions) << name;

@@ -72,8 +72,7 @@ TEST(EmitFile, NamesTheRowAndTheCosts) {
 }
 
 TEST(SharedConstants, OneNameHasOneValue) {
-  const Family& family = families().front();
-  const Kernel narrow = family.make(8, Precision::binary32), wide = family.make(8, Precision::binary64);
+  constexpr ValueType narrow{Precision::binary32, 4}, wide{Precision::binary64, 2};
   SharedConstants shared;
   const std::string name = shared.use(constant("c", 3), wide);
   EXPECT_EQ(shared.use(constant("c", 3), wide), name);
