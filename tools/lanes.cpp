@@ -18,7 +18,7 @@ constexpr Row rows[] = {
 
 int most_lanes(const gen::Kernel& kernel, const gen::Target& target) {
   const bool single = kernel.type.complex && kernel.type.precision == gen::Precision::binary32;
-  return single ? kernel.network->width() : target.lanes(gen::Precision::binary64);
+  return target.lanes(single ? gen::Precision::binary32 : gen::Precision::binary64);
 }
 
 int chosen_lanes(const gen::Kernel& kernel, const gen::Target& target) {

@@ -63,9 +63,9 @@ class Graph {
   // Where a value of several lanes is in memory, such that neighbours have successive numbers. Starts at even
   // and at odd elements are numbered apart, and so are lanes that are not side by side.
   int place(const PerLane& lanes, const PerLane& numbers) {
-    const int width = lanes.size(), far = 1 << 10, first = number(lanes[0], numbers);
-    for (int l = 1; l < width; ++l) {
-      if (number(lanes[l], numbers) != first + l) return far * ++scattered_;
+    const int width = lanes.size(), far = 1 << 10, first = lanes[0] < 0 ? -1 : number(lanes[0], numbers);
+    for (int l = 0; l < width; ++l) {
+      if (lanes[l] < 0 || number(lanes[l], numbers) != first + l) return far * ++scattered_;
     }
     return first / width + first % width * (far / width);
   }
