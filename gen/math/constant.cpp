@@ -59,7 +59,8 @@ Constant operator-(const Constant& c) {
 
 Constant signed_constant(const Constant& c, bool negative) {
   if (!negative) return c;
-  return c.is_zero() ? Constant{"-0", -Wide(0)} : -c;
+  if (!c.is_zero()) return -c;
+  return c.name == "-0" ? Constant{"0", 0} : Constant{"-0", -Wide(0)};
 }
 
 Constant magnitude(const Constant& c) { return c.is_negative() ? -c : c; }

@@ -290,7 +290,7 @@ class Builder {
     for (const NodeId id : {low, high}) {
       for (int l = 0; l < width(id); ++l) {
         const Constant& c = old_.node(id).constant(l);
-        all.push_back(negated_[id] ? -c : c);
+        all.push_back(signed_constant(c, negated_[id]));
       }
     }
     const bool alike = std::all_of(all.begin(), all.end(), [&](const Constant& c) { return c == all[0]; });
