@@ -27,9 +27,9 @@ struct Scalar {
 constexpr Scalar scalars[] = {
     {2, Rounding::each}, {3, Rounding::combination}, {4, Rounding::each}, {5, Rounding::combination}};
 
-// Kernels that the recipe gives the baseline's lanes on every target; tools/lanes.def has some of them paired.
-// At 59 zeros of the chirp products come out with other signs if whole instances fill more lanes; the others
-// fill them badly, which is measurably slower.
+// Kernels that the recipe gives the baseline's lanes on every target; tools/lanes.def has some of them
+// paired. At 59 zeros of the chirp products come out with other signs if whole instances fill more lanes; the
+// others fill them badly, which is measurably slower.
 constexpr int narrow_everywhere[] = {6, 7, 10, 11, 13, 14, 15, 22, 23, 34, 47, 50, 59, 62};
 
 // Length-5 blocks in another form than the default; the first row that fits applies.
