@@ -59,7 +59,8 @@ void enter_v2(Names& names) {
   enter_vectors(names, {Sort::between_lanes, 2},
                 {"movddup", "movshdup", "movsldup", "insertps", "extractps", "palignr", "pshufb", "pinsrd",
                  "pinsrq", "pextrd", "pextrq"});
-  enter_vectors(names, {Sort::packed_add, 2}, {"addsubps", "addsubpd"});
+  enter_vectors(names, {Sort::packed_add, 2},
+                {"addsubps", "addsubpd", "haddps", "haddpd", "hsubps", "hsubpd"});
 }
 
 // AVX, AVX2, BMI.
