@@ -277,6 +277,8 @@ TEST(Disassembler, Levels) {
   const auto level = [](const std::string& text) { return parse_instruction("  10:\t" + text)->level; };
   EXPECT_EQ(level("addps %xmm0,%xmm1"), 1);
   EXPECT_EQ(level("movddup %xmm0,%xmm1"), 2);
+  EXPECT_EQ(level("haddps %xmm0,%xmm1"), 2);
+  EXPECT_EQ(level("vhaddpd %xmm0,%xmm1,%xmm2"), 3);
   EXPECT_EQ(level("vaddps %xmm0,%xmm1,%xmm15"), 3);
   EXPECT_EQ(level("vmovups %ymm0,0x10(%rsi)"), 3);
   EXPECT_EQ(level("vaddps %xmm0,%xmm1,%xmm16"), 4);

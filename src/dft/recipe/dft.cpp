@@ -135,7 +135,7 @@ Forms wide_forms(const Recipe& recipe, Forms narrow) {
   }
   packing.balanced = true;
   attempt(packing);
-  constexpr int percent = 93;  // measured: at less gain the narrow kernel is faster
+  constexpr int percent = 93;  // at less gain more lanes rarely pay
   if (100 * least > percent * gen::cost(*narrow.network, gen::baseline())) return narrow;
   return {std::move(best), std::move(narrow.network), narrow.grouping};
 }
