@@ -49,6 +49,13 @@ bool in_couples(const PerLane& scalars) {
   return true;
 }
 
+/// Whether each even lane has the same scalar as the next one.
+bool in_doubles(const PerLane& scalars) {
+  for (int l = 0; l < scalars.size(); l += 2)
+    if (scalars[l] != scalars[l + 1]) return false;
+  return true;
+}
+
 /// Whether these scalars are side by side in memory, one for each lane.
 bool contiguous(std::span<const int> scalars) {
   for (std::size_t l = 0; l < scalars.size(); ++l)
@@ -237,9 +244,9 @@ class Body {
       return fmt::format("{}(x + {})", access("load", from[0], type), from[0]);
     std::vector<std::string> places;
     if (!in_couples(from)) {
-      for (const int scalar : from) places.push_back(fmt::format("x[{}]", scalar));
-      places.resize(static_cast<std::size_t>(type.lanes), "0");
-      return fmt::format("{}{{{}}}", type.name(), fmt::join(places, ", "));
+      const bool doubled = in_doubles(from);
+      for (int l = 0; l < from.size(); l += doubled ? 2 : 1) places.push_back(fmt::format("x + {}", from[l]));
+      return fmt::format("{}({})", doubled ? "load_doubled" : "load_scalars", fmt::join(places, ", "));
     }
     if (from.size() == 8) return fmt::format("joined({}, {})", half(from, 0), half(from, 4));
     for (int l = 0; l < from.size() && from[l] >= 0; l += 2) places.push_back(fmt::format("x + {}", from[l]));

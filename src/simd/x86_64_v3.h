@@ -28,6 +28,32 @@ static inline f64x2 high_half(f64x4 v) { return _mm256_extractf128_pd(v, 1); }
 static inline f32x8 joined(f32x4 low, f32x4 high) { return _mm256_set_m128(high, low); }
 static inline f64x4 joined(f64x2 low, f64x2 high) { return _mm256_set_m128d(high, low); }
 
+// ---- Numbers from anywhere in memory.
+
+/// The rest of the register is zero. Of f32x4{*p, *q, 0, 0} g++ clears the upper half once more.
+static inline f32x4 load_scalars(const float* p, const float* q) {
+  f32x4 v = _mm_load_ss(p);
+  v[1] = *q;
+  return v;
+}
+static inline f32x4 load_scalars(const float* p, const float* q, const float* r, const float* s) {
+  return _mm_movelh_ps(load_scalars(p, q), load_scalars(r, s));
+}
+static inline f64x2 load_scalars(const double* p, const double* q) { return _mm_loadh_pd(_mm_load_sd(p), q); }
+static inline f64x4 load_scalars(const double* p, const double* q, const double* r, const double* s) {
+  return joined(load_scalars(p, q), load_scalars(r, s));
+}
+
+/// Each in two lanes; one alone in all.
+static inline f32x4 load_doubled(const float* p) { return _mm_broadcast_ss(p); }
+static inline f32x4 load_doubled(const float* p, const float* q) {
+  return _mm_blend_ps(_mm_broadcast_ss(p), _mm_broadcast_ss(q), 0b1100);
+}
+static inline f64x2 load_doubled(const double* p) { return _mm_loaddup_pd(p); }
+static inline f64x4 load_doubled(const double* p, const double* q) {
+  return _mm256_blend_pd(_mm256_broadcast_sd(p), _mm256_broadcast_sd(q), 0b1100);
+}
+
 // ---- Complex numbers of binary32 parts.
 
 /// From three or four places; the rest of the register is zero.
