@@ -8,6 +8,7 @@
 #include "gen/network/program.h"
 #include "gen/order/schedule.h"
 #include "gen/packing/paired.h"
+#include "gen/targets/target.h"
 
 namespace xfm::gen {
 
@@ -57,6 +58,6 @@ Kernel make_kernel(Design design);
 
 /// The kernel with its operations in pairs, again and again until its widest values have so many lanes. It
 /// computes the same scalar program; throws if it does not.
-Kernel paired(Kernel kernel, int lanes, Pairing& pairing);
+Kernel paired(Kernel kernel, int lanes, const Target& target, Pairing& pairing);
 
 }  // namespace xfm::gen

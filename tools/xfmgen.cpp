@@ -40,7 +40,7 @@ Kernel made(const Named& what, const std::string& tree, const Form& form) {
   Kernel kernel = what.family->make(what.length, what.type.precision, tree, form.target);
   const int lanes = form.lanes == 0 ? xfm::chosen_lanes(kernel, form.target)
                                     : std::min(form.lanes, xfm::most_lanes(kernel, form.target));
-  return paired(std::move(kernel), lanes, form.pairing);
+  return paired(std::move(kernel), lanes, form.target, form.pairing);
 }
 
 // Both precisions, on every target with the baseline's bits.
