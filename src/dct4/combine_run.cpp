@@ -1,4 +1,5 @@
 // The combine: for each group of L classes the twist of every residue, the expansion, and the scatter to dst.
+// A register has the classes of one group or of several.
 #include "src/dct4/expansion.h"
 #include "src/dct4/lines.h"
 #include "src/dct4/stages.h"
@@ -15,36 +16,39 @@ constexpr int place_of(int t) {
   return place;
 }
 
-/// Real or imaginary parts of L residues from t on: registers across residues, one for each of L classes,
-/// become registers across classes, one for each residue.
-template <int r, class T, class V>
-XFM_INLINE inline void load_transposed(const T* classes, V* v) {
-  unrolled<lanes_of<V>>([&](auto q) XFM_INLINE { v[q] = Aligned::load(classes + q * 2 * r); });
+/// Real or imaginary parts of L residues from t on, for the classes of a register: in each group, registers
+/// across residues, one for each class, become registers across classes, one for each residue.
+template <int r, class V>
+XFM_INLINE inline void load_transposed(const Element<V>* classes, V* v) {
+  constexpr int l = group_size<Element<V>>;
+  unrolled<l>([&](auto q) XFM_INLINE { v[q] = load_groups<V>(classes + q * 2 * r, 2 * r * l); });
   transpose(v);
 }
 
-/// The spectrum of L classes, and the part of the table with its twist.
-template <class T, int r>
+/// The spectrum of a register's classes, and the part of the table with its twist. Both have the same
+/// distance from a group to the next.
+template <class V, int r>
 struct Twisted {
-  using V = Group<T>;
-  static constexpr int width = lanes_of<V>;
+  using T = Element<V>;
+  static constexpr int width = group_size<T>;
   const T* classes;
   const T* table;
 
   template <int t>
   XFM_INLINE Complex<V> twist(V re, V im) const {
     constexpr int place = place_of<r>(t);
-    const T* const pair = table + 2 * lanes_of<V> * place;
-    return Complex<V>{re, im} * Complex<V>{Aligned::load(pair), Aligned::load(pair + lanes_of<V>)};
+    const T* const pair = table + 2 * width * place;
+    return Complex<V>{re, im} *
+           Complex<V>{load_groups<V>(pair, 2 * r * width), load_groups<V>(pair + width, 2 * r * width)};
   }
   /// W[t] .. W[t + L - 1], or the last of them first.
   template <int t, bool descending>
   XFM_INLINE void get_row(Complex<V>* w) const {
-    V re[lanes_of<V>], im[lanes_of<V>];
+    V re[width], im[width];
     load_transposed<r>(classes + t, re);
     load_transposed<r>(classes + r + t, im);
-    unrolled<lanes_of<V>>(
-        [&](auto j) XFM_INLINE { w[descending ? lanes_of<V> - 1 - j : j] = twist<t + j>(re[j], im[j]); });
+    unrolled<width>([&](auto j)
+                        XFM_INLINE { w[descending ? width - 1 - j : j] = twist<t + j>(re[j], im[j]); });
   }
   template <int t>
   XFM_INLINE void get(Quads<V, width>& quads) const {
@@ -55,18 +59,16 @@ struct Twisted {
   }
 };
 
-/// Twist and expansion of one group.
-template <class T, int r, class Out>
-XFM_INLINE inline void expand_group(const Twisted<T, r>& source, const Out& out) {
-  using V = Group<T>;
-  if constexpr (r % (4 * lanes_of<V>) == 0) {
+/// Twist and expansion of the groups in a register.
+template <class V, int r, class Out>
+XFM_INLINE inline void expand_groups(const Twisted<V, r>& source, const Out& out) {
+  constexpr int l = group_size<Element<V>>;
+  if constexpr (r % (4 * l) == 0) {
     expand_quads<V, r>(source, out);
   } else {
     Complex<V> w[r];
-    if constexpr (r % lanes_of<V> == 0) {
-      unrolled<r / lanes_of<V>>([&](auto row) XFM_INLINE {
-        source.template get_row<row * lanes_of<V>, false>(w + row * lanes_of<V>);
-      });
+    if constexpr (r % l == 0) {
+      unrolled<r / l>([&](auto row) XFM_INLINE { source.template get_row<row * l, false>(w + row * l); });
     } else {
       unrolled<r>([&](auto t) XFM_INLINE {
         w[t] = source.template twist<t>(gather<V>(source.classes + t, 2 * r),
@@ -77,16 +79,16 @@ XFM_INLINE inline void expand_group(const Twisted<T, r>& source, const Out& out)
   }
 }
 
-/// The outputs of L classes q, at any address: Y(l) to m l + q, ascending with the class; for negative l as
-/// many steps of m down from 2 N - 1 - q, descending.
-template <class T, int r>
+/// The outputs of a register's classes q, at any address: Y(l) to m l + q, ascending with the class; for
+/// negative l as many steps of m down from 2 N - 1 - q, descending.
+template <class V>
 struct Scatter {
-  T* ahead;   ///< of l = 0
-  T* behind;  ///< the lowest of l = -1
+  Element<V>* ahead;   ///< of l = 0
+  Element<V>* behind;  ///< the lowest of l = -1
   std::ptrdiff_t fold;
 
   template <int l>
-  XFM_INLINE void put(Group<T> y) const {
+  XFM_INLINE void put(V y) const {
     if constexpr (l >= 0)
       Unaligned::store(ahead + l * fold, y);
     else
@@ -94,31 +96,38 @@ struct Scatter {
   }
 };
 
-template <class T, int r>
-xfmStatus run_groups(const CombineNode<T>& node, T* dst, const T* work) {
-  constexpr int l = group_size<T>;
+template <class V, int r, class T>
+xfmStatus run_registers(const CombineNode<T>& node, T* dst, const T* work) {
+  constexpr int lanes = lanes_of<V>;
   const T* table = node.table;
   T* ahead = dst;
   // l = -1 is the last one, step 2 r - 1 from the front.
-  T* behind = dst + (node.mirror - (2 * r - 1) * std::ptrdiff_t{node.fold} - (l - 1));
-  for (std::int32_t group = 0; group < node.groups; ++group) {
-    expand_group(Twisted<T, r>{work, table}, Scatter<T, r>{ahead, behind, node.fold});
-    work += 2 * r * l;
-    table += 2 * r * l;
-    ahead += l;
-    behind -= l;
+  T* behind = dst + (node.mirror - (2 * r - 1) * std::ptrdiff_t{node.fold} - (lanes - 1));
+  for (std::int32_t q = 0; q < node.groups * group_size<T>; q += lanes) {
+    expand_groups(Twisted<V, r>{work, table}, Scatter<V>{ahead, behind, node.fold});
+    work += 2 * r * lanes;
+    table += 2 * r * lanes;
+    ahead += lanes;
+    behind -= lanes;
   }
   return xfmStsOk;
 }
 
-/// Collects the outputs of a group, a line for every l = -r .. r - 1.
 template <class T, int r>
+xfmStatus run_groups(const CombineNode<T>& node, T* dst, const T* work) {
+  return with_groups(node.groups, [&](auto groups) XFM_INLINE {
+    return run_registers<Groups<T, groups>, r>(node, dst, work);
+  });
+}
+
+/// Collects the outputs of a register's classes, a line for every l = -r .. r - 1.
+template <class V, int r>
 struct ToLines {
-  T* group;
+  Element<V>* groups;
 
   template <int l>
-  XFM_INLINE void put(Group<T> y) const {
-    Aligned::store(group + (r + l) * line<T>, y);
+  XFM_INLINE void put(V y) const {
+    Aligned::store(groups + (r + l) * line<Element<V>>, y);
   }
 };
 
@@ -126,17 +135,18 @@ struct ToLines {
 /// few sets of the cache: every line of dst is written once.
 template <class T, int r>
 xfmStatus run_lines(const CombineNode<T>& node, T* dst, const T* work) {
-  constexpr int l = group_size<T>;
+  using V = Widest<T>;
+  constexpr int lanes = lanes_of<V>;
   const std::ptrdiff_t fold = node.fold;
   const T* table = node.table;
   T* ahead = dst;
   T* behind = dst + (node.mirror - (2 * r - 1) * fold - (line<T> - 1));
-  for (std::int32_t group = 0; group < node.groups; group += batches_a_line<T>) {
+  for (std::int32_t q = 0; q < node.groups * group_size<T>; q += line<T>) {
     alignas(line_bytes) T lines[2 * r * line<T>];
-    for (int q = 0; q < line<T>; q += l) {
-      expand_group(Twisted<T, r>{work, table}, ToLines<T, r>{lines + q});
-      work += 2 * r * l;
-      table += 2 * r * l;
+    for (int i = 0; i < line<T>; i += lanes) {
+      expand_groups(Twisted<V, r>{work, table}, ToLines<V, r>{lines + i});
+      work += 2 * r * lanes;
+      table += 2 * r * lanes;
     }
     for (int i = 0; i < r; ++i) copy_line<Aligned, Unaligned>(lines + (r + i) * line<T>, ahead + i * fold);
     for (int i = 0; i < r; ++i)

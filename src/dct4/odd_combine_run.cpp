@@ -63,42 +63,50 @@ XFM_INLINE inline void dft(Complex<V>* x) {
 /// class m2 l - 1 - i, for all batches of a line.
 template <class T>
 struct ClassPlace {
-  using V = Group<T>;
+  using V = Widest<T>;
   const T* in;
   std::ptrdiff_t sequence_step, in_part;
   T* ahead;   ///< of class i
   T* behind;  ///< of class -1 - i
   std::ptrdiff_t fold_step, out_part;
 
-  XFM_INLINE Complex<V> load(int a, int batch) const {
-    const T* const at = in + a * sequence_step + batch * lanes_of<V>;
-    return {Aligned::load(at), Aligned::load(at + in_part)};
+  XFM_INLINE Complex<V> load(int a, int part) const {
+    const T* const at = in + a * sequence_step + part * lanes_of<V>;
+    return {InState::load<V>(at), InState::load<V>(at + in_part)};
   }
   /// D(l) of the radix r2, l = 0 .. r2 - 1; the upper half are the conjugates of D(l - r2).
   template <int r2>
-  XFM_INLINE void store(int l, int batch, Complex<V> d) const {
-    T* const at = (l < r2 / 2 ? ahead + l * fold_step : behind + (r2 - l) * fold_step) + batch * lanes_of<V>;
-    Aligned::store(at, d.re);
-    Aligned::store(at + out_part, d.im);
+  XFM_INLINE void store(int l, int part, Complex<V> d) const {
+    T* const at = (l < r2 / 2 ? ahead + l * fold_step : behind + (r2 - l) * fold_step) + part * lanes_of<V>;
+    InState::store(at, d.re);
+    InState::store(at + out_part, d.im);
   }
 };
 
+/// A twiddle, which the table repeats in every lane of a group.
 template <class T>
-XFM_INLINE inline Complex<Group<T>> pair(const T* table, int index) {
-  using V = Group<T>;
-  const T* const at = table + 2 * lanes_of<V> * index;
-  return {Aligned::load(at), Aligned::load(at + lanes_of<V>)};
+XFM_INLINE inline Complex<Widest<T>> pair(const T* table, int index) {
+  using V = Widest<T>;
+  const T* const at = table + 2 * group_size<T> * index;
+  if constexpr (widest == 1)
+    return {Aligned::load<V>(at), Aligned::load<V>(at + group_size<T>)};
+  else
+    return {broadcast<V>(at[0]), broadcast<V>(at[group_size<T>])};
 }
+
+/// Registers in a line.
+template <class T>
+constexpr int parts = line<T> / lanes_of<Widest<T>>;
 
 /// Radixes 2, 4 and 8: one butterfly.
 template <int r2, class T>
 XFM_INLINE inline void combine_once(const ClassPlace<T>& place, const T* near) {
-  for (int batch = 0; batch < batches_a_line<T>; ++batch) {
-    Complex<Group<T>> x[r2];
-    x[0] = place.load(0, batch);
-    unrolled<r2 - 1>([&](auto b) XFM_INLINE { x[b + 1] = place.load(b + 1, batch) * pair(near, b); });
+  for (int part = 0; part < parts<T>; ++part) {
+    Complex<Widest<T>> x[r2];
+    x[0] = place.load(0, part);
+    unrolled<r2 - 1>([&](auto b) XFM_INLINE { x[b + 1] = place.load(b + 1, part) * pair(near, b); });
     dft<r2, true>(x);
-    unrolled<r2>([&](auto l) XFM_INLINE { place.template store<r2>(l, batch, x[l]); });
+    unrolled<r2>([&](auto l) XFM_INLINE { place.template store<r2>(l, part, x[l]); });
   }
 }
 
@@ -107,24 +115,24 @@ XFM_INLINE inline void combine_once(const ClassPlace<T>& place, const T* near) {
 template <int r2, class T>
 XFM_INLINE inline void combine_twice(const ClassPlace<T>& place, const T* near, const T* far) {
   constexpr int outer = r2 / 4;
-  Complex<Group<T>> y[outer][batches_a_line<T>][4];
+  Complex<Widest<T>> y[outer][parts<T>][4];
   for (int a0 = 0; a0 < 4; ++a0) {
-    for (int batch = 0; batch < batches_a_line<T>; ++batch) {
-      Complex<Group<T>> x[outer];
-      x[0] = place.load(a0, batch);
+    for (int part = 0; part < parts<T>; ++part) {
+      Complex<Widest<T>> x[outer];
+      x[0] = place.load(a0, part);
       unrolled<outer - 1>(
-          [&](auto a1) XFM_INLINE { x[a1 + 1] = place.load(4 * (a1 + 1) + a0, batch) * pair(far, a1); });
+          [&](auto a1) XFM_INLINE { x[a1 + 1] = place.load(4 * (a1 + 1) + a0, part) * pair(far, a1); });
       dft<outer, false>(x);
-      unrolled<outer>([&](auto j) XFM_INLINE { y[j][batch][a0] = x[j]; });
+      unrolled<outer>([&](auto j) XFM_INLINE { y[j][part][a0] = x[j]; });
     }
   }
   for (int j = 0; j < outer; ++j) {
-    for (int batch = 0; batch < batches_a_line<T>; ++batch) {
-      Complex<Group<T>> x[4];
-      x[0] = y[j][batch][0];
-      unrolled<3>([&](auto b) XFM_INLINE { x[b + 1] = y[j][batch][b + 1] * pair(near, 3 * j + b); });
+    for (int part = 0; part < parts<T>; ++part) {
+      Complex<Widest<T>> x[4];
+      x[0] = y[j][part][0];
+      unrolled<3>([&](auto b) XFM_INLINE { x[b + 1] = y[j][part][b + 1] * pair(near, 3 * j + b); });
       dft<4, true>(x);
-      unrolled<4>([&](auto l) XFM_INLINE { place.template store<r2>(j + outer * l, batch, x[l]); });
+      unrolled<4>([&](auto l) XFM_INLINE { place.template store<r2>(j + outer * l, part, x[l]); });
     }
   }
 }

@@ -1,28 +1,26 @@
 // The stages of a run. Each takes its plan node, the place of its output and the place of its input. An
 // unknown kind gives xfmStsBadState, which the callers do not test: a plan that init finished has none.
 //
-// The outer fold takes its residues in batches of L, one register each. The lengths above 2048 split, and all
-// the work of a split is done for as many batches at a time as fill a cache line.
+// The outer fold takes its residues in batches of L, as many at a time as a register holds. The lengths above
+// 2048 split, and all the work of a split is done for as many batches at a time as fill a cache line.
 #pragma once
 
 #include <cstddef>
 
+#include "src/dct4/groups.h"
 #include "src/dct4/plan.h"
-#include "src/simd/simd.h"
 
 namespace xfm::dct4 {
 
-/// A register that holds one group of the plan.
-template <class T>
-using Group = Vector<T, group_size<T>>;
-
 constexpr std::size_t line_bytes = 64;
 
-/// Elements in a cache line, and registers.
+/// Elements in a cache line.
 template <class T>
 constexpr std::int32_t line = static_cast<std::int32_t>(line_bytes / sizeof(T));
+/// The widest register, of a line or a part of it.
 template <class T>
-constexpr std::int32_t batches_a_line = line<T> / group_size<T>;
+using Widest = Groups<T, widest>;
+static_assert(line_bytes % (widest * group_bytes) == 0);
 
 /// Where the samples of a fold are in src. With n + m in place of a negative n, so that n runs from 0 to
 /// m - 1, sample n of the first residue is at forward + step n in the first half and at forward + backward
