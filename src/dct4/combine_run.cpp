@@ -120,40 +120,57 @@ xfmStatus run_groups(const CombineNode<T>& node, T* dst, const T* work) {
   });
 }
 
-/// Collects the outputs of a register's classes, a line for every l = -r .. r - 1.
-template <class V, int r>
-struct ToLines {
-  Element<V>* groups;
+// ---- Where outputs stand so far apart, by powers of two, that they fall into few sets of the cache, they
+// are collected: a row for every l, of as many classes as fill some lines, and every line of dst is written
+// once.
+
+/// The outputs of a register's classes, in rows from l = -r to r - 1.
+template <class V, int r, int row>
+struct ToRows {
+  Element<V>* classes;
 
   template <int l>
   XFM_INLINE void put(V y) const {
-    Aligned::store(groups + (r + l) * line<Element<V>>, y);
+    Aligned::store(classes + (r + l) * row, y);
   }
 };
 
-/// As many groups at a time as fill a line, for outputs so far apart, by powers of two, that they fall into
-/// few sets of the cache: every line of dst is written once.
-template <class T, int r>
-xfmStatus run_lines(const CombineNode<T>& node, T* dst, const T* work) {
+/// A part of the table on its way to the second-level cache.
+template <class T>
+XFM_INLINE inline void prefetch(const T* table, int elements) {
+  for (int i = 0; i < elements; i += line<T>) __builtin_prefetch(table + i, 0, 2);
+}
+
+/// The rows of the classes from q on, each of some lines. The part of the table for as many other classes is
+/// fetched, if it is given.
+template <int r, int lines, class Stores, class T>
+void expand_rows(const CombineNode<T>& node, T* dst, const T* classes, std::int32_t q, const T* next_table) {
   using V = Widest<T>;
-  constexpr int lanes = lanes_of<V>;
+  constexpr int lanes = lanes_of<V>, row = lines * line<T>;
   const std::ptrdiff_t fold = node.fold;
-  const T* table = node.table;
-  T* ahead = dst;
-  T* behind = dst + (node.mirror - (2 * r - 1) * fold - (line<T> - 1));
-  for (std::int32_t q = 0; q < node.groups * group_size<T>; q += line<T>) {
-    alignas(line_bytes) T lines[2 * r * line<T>];
-    for (int i = 0; i < line<T>; i += lanes) {
-      expand_groups(Twisted<V, r>{work, table}, ToLines<V, r>{lines + i});
-      work += 2 * r * lanes;
-      table += 2 * r * lanes;
-    }
-    for (int i = 0; i < r; ++i) copy_line<Aligned, Unaligned>(lines + (r + i) * line<T>, ahead + i * fold);
-    for (int i = 0; i < r; ++i)
-      copy_line_reversed<Aligned, Unaligned>(lines + (r - 1 - i) * line<T>, behind + i * fold);
-    ahead += line<T>;
-    behind -= line<T>;
+  const T* const table = node.table + std::ptrdiff_t{2 * r} * q;
+  alignas(line_bytes) T rows[2 * r * row];
+  for (int i = 0; i < row; i += lanes) {
+    if (next_table != nullptr) prefetch(next_table + 2 * r * i, 2 * r * lanes);
+    expand_groups(Twisted<V, r>{classes + 2 * r * i, table + 2 * r * i}, ToRows<V, r, row>{rows + i});
   }
+  T* const ahead = dst + q;
+  T* const behind = dst + (node.mirror - (2 * r - 1) * fold - q - (row - 1));
+  for (int l = 0; l < r; ++l)
+    for (int i = 0; i < row; i += line<T>)
+      copy_line<Aligned, Stores>(rows + (r + l) * row + i, ahead + l * fold + i);
+  for (int l = 0; l < r; ++l)
+    for (int i = row; i > 0; i -= line<T>)
+      copy_line_reversed<Aligned, Stores>(rows + (r - 1 - l) * row + (i - line<T>),
+                                          behind + l * fold + (row - i));
+}
+
+template <class T, int r>
+xfmStatus run_rows(const CombineNode<T>& node, T* dst, const T* work) {
+  constexpr int lines = 4;
+  constexpr const T* no_table = nullptr;
+  for (std::int32_t q = 0; q < node.groups * group_size<T>; q += lines * line<T>)
+    expand_rows<r, lines, Unaligned>(node, dst, work + std::ptrdiff_t{2 * r} * q, q, no_table);
   return xfmStsOk;
 }
 
@@ -178,12 +195,27 @@ xfmStatus run_combine(const CombineNode<T>& node, T* dst, const T* work) {
       return run_groups<T, 16>(node, dst, work);
     case 6:
       return static_cast<std::size_t>(node.fold) * sizeof(T) < far_apart ? run_groups<T, 32>(node, dst, work)
-                                                                         : run_lines<T, 32>(node, dst, work);
+                                                                         : run_rows<T, 32>(node, dst, work);
     default:
       return xfmStsBadState;
   }
 }
 
+template <class T>
+void run_combine_stretch(const CombineNode<T>& node, T* dst, const T* stretch, std::int32_t q,
+                         std::int32_t next, bool streams) {
+  constexpr int lines = block_classes<T> / line<T>;
+  const T* const next_table = node.table + std::ptrdiff_t{node.step} * next;
+  if (streams)
+    expand_rows<32, lines, Streaming>(node, dst, stretch, q, next_table);
+  else
+    expand_rows<32, lines, Unaligned>(node, dst, stretch, q, next_table);
+}
+
+template void run_combine_stretch(const CombineNode<float>&, float*, const float*, std::int32_t, std::int32_t,
+                                  bool);
+template void run_combine_stretch(const CombineNode<double>&, double*, const double*, std::int32_t,
+                                  std::int32_t, bool);
 template xfmStatus run_combine(const CombineNode<float>&, float*, const float*);
 template xfmStatus run_combine(const CombineNode<double>&, double*, const double*);
 

@@ -97,13 +97,14 @@ void fold_lines(const T* src, Offsets at, std::ptrdiff_t step, T* out) {
 }
 
 Offsets next_sequence(const OddFoldNode& node, Offsets at) {
-  return {at.forward + node.forward_step, at.backward - 2 * std::ptrdiff_t{node.forward_step}};
+  const std::ptrdiff_t step = node.forward_step >> at.dense;
+  return {at.forward + step, at.backward - 2 * step, at.dense};
 }
 
 template <class T, int m>
 xfmStatus fold_sequences(const OddFoldNode& node, T* work, const T* src, Offsets at) {
   for (std::int32_t a = 0; a < node.sequences; ++a, at = next_sequence(node, at))
-    fold_lines<T, m>(src, at, node.step, sequence_spectrum(work, m, a).start);
+    fold_lines<T, m>(src, at, node.step >> at.dense, sequence_spectrum(work, m, a).start);
   return xfmStsOk;
 }
 

@@ -9,11 +9,14 @@ namespace {
 
 template <class T>
 xfmStatus run_tree(const T* src, T* dst, const Dct4Plan<T>& root) {
-  const auto* fold_shell = first_of<FoldShell>(root.fold_view);
-  if (fold_shell->kind == kind_sound) run_fold(*first_of<FoldNode>(fold_shell->view), root.work, src);
-  const auto* combine_shell = first_of<CombineShell>(root.combine_view);
-  if (combine_shell->kind == kind_sound)
-    run_combine(*first_of<CombineNode<T>>(combine_shell->view), dst, root.work);
+  const auto& fold_shell = *first_of<FoldShell>(root.fold_view);
+  const auto& combine_shell = *first_of<CombineShell>(root.combine_view);
+  const bool folds = fold_shell.kind == kind_sound, combines = combine_shell.kind == kind_sound;
+  const auto& fold = *first_of<FoldNode>(fold_shell.view);
+  const auto& combine = *first_of<CombineNode<T>>(combine_shell.view);
+  if (folds && combines && is_long(fold, combine)) return run_long(fold, combine, root.work, dst, src);
+  if (folds) run_fold(fold, root.work, src);
+  if (combines) run_combine(combine, dst, root.work);
   return xfmStsOk;
 }
 

@@ -15,6 +15,24 @@ inline constexpr int widest_register_bytes = 32;
 inline constexpr int widest_register_bytes = 16;
 #endif
 
+/// Stores past the caches, at multiples of the register's size. Later stores may overtake them, up to an
+/// sfence.
+struct Streaming {
+  template <class V>
+  XFM_INLINE static void store(Element<V>* p, V v) {
+    if constexpr (sizeof(V) == 16)
+      _mm_stream_si128(reinterpret_cast<__m128i*>(p), reinterpret_cast<__m128i>(v));
+#ifdef __AVX2__
+    if constexpr (sizeof(V) == 32)
+      _mm256_stream_si256(reinterpret_cast<__m256i*>(p), reinterpret_cast<__m256i>(v));
+#endif
+#ifdef __AVX512F__
+    if constexpr (sizeof(V) == 64)
+      _mm512_stream_si512(reinterpret_cast<__m512i*>(p), reinterpret_cast<__m512i>(v));
+#endif
+  }
+};
+
 /// One register of the lanes of two.
 template <class V>
 XFM_INLINE static inline auto joined(V low, V high) {
