@@ -23,7 +23,7 @@ namespace {
 
 using catalogue::Precision;
 
-constexpr int kLongest = 20;
+constexpr int kLongest = 22;
 
 /// A patient plan of a long length takes minutes, so those plans are only measured.
 unsigned effort(int length) { return length <= 1 << 14 ? FFTW_PATIENT : FFTW_MEASURE; }

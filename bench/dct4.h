@@ -13,7 +13,7 @@
 
 namespace xfm::bench {
 
-/// The lengths 2 to 2^20 in both precisions, as rows like those of the catalogue; the family is "DCT4". The
+/// The lengths 2 to 2^22 in both precisions, as rows like those of the catalogue; the family is "DCT4". The
 /// operation counts are those of the best known algorithms.
 std::span<const catalogue::Kernel> dct4_kernels();
 
