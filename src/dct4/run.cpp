@@ -2,6 +2,7 @@
 // by side, one of the combine holds classes. The spectrum between them is stored class by class, each with
 // its real parts followed by its imaginary parts, residues fastest.
 #include "src/dct4/base.h"
+#include "src/dct4/base_wide.h"
 #include "src/dct4/stages.h"
 
 namespace xfm::dct4 {
@@ -38,7 +39,10 @@ xfmStatus run(const T* src, T* dst, const Dct4Plan<T>& root) {
       transform<T, 16, 4>(src, dst);
       return xfmStsOk;
     case 5:
-      transform<T, 32, 2>(src, dst);
+      if constexpr (widest > 1)
+        transform_32_wide(src, dst);
+      else
+        transform<T, 32, 2>(src, dst);
       return xfmStsOk;
     case root_kind_tree:
       return run_tree(src, dst, root);
