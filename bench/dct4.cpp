@@ -26,7 +26,7 @@ using catalogue::Precision;
 constexpr int kLongest = 22;
 
 /// A patient plan of a long length takes minutes, so those plans are only measured.
-unsigned effort(int length) { return length <= 1 << 14 ? FFTW_PATIENT : FFTW_MEASURE; }
+unsigned effort(int length) { return length <= 1 << 12 ? FFTW_PATIENT : FFTW_MEASURE; }
 
 template <class Real>
 struct Names;
@@ -108,7 +108,6 @@ class Redft11 final : public Contestant {
 /// Where the complex transform of a twist happens: in dst, or in a buffer of its own, or from one buffer to
 /// another.
 enum class Place { dst, buffer, buffers };
-constexpr Place kPlaces[] = {Place::dst, Place::buffer, Place::buffers};
 
 template <class Real>
 class Twisted final : public Contestant {
@@ -156,13 +155,9 @@ class Twisted final : public Contestant {
 };
 
 template <class Real>
-std::vector<ContestantPtr> twisted(const TwistPasses<Real>& passes, int length, Arrays& arrays) {
-  std::vector<ContestantPtr> candidates;
-  for (const Place place : kPlaces)
-    if (place != Place::dst || passes.in_one_array)
-      candidates.push_back(fftw::best_plan<Real>(
-          [&] { return std::make_unique<Twisted<Real>>(passes, length, place, arrays); }));
-  return candidates;
+ContestantPtr twisted(const TwistPasses<Real>& passes, int length, Place place, Arrays& arrays) {
+  return fftw::best_plan<Real>(
+      [&] { return std::make_unique<Twisted<Real>>(passes, length, place, arrays); });
 }
 
 /// Three plain copies of arrays as long as those of a transform, from memory to memory: a run that reads src,
@@ -243,7 +238,10 @@ ContestantPtr make_dct4(const Library& library, const catalogue::Kernel& kernel,
 
 template <class Real>
 ContestantPtr fftw_dct4(int length, Arrays& arrays) {
-  std::vector<ContestantPtr> candidates = twisted(twists<Real>().back().registers, length, arrays);
+  const TwistPasses<Real> passes = twists<Real>().back().registers;
+  std::vector<ContestantPtr> candidates;
+  for (const Place place : {Place::dst, Place::buffer, Place::buffers})
+    candidates.push_back(twisted(passes, length, place, arrays));
   candidates.push_back(
       fftw::best_plan<Real>([&] { return std::make_unique<Redft11<Real>>(length, arrays); }));
   return fastest(std::move(candidates));
@@ -253,12 +251,12 @@ template ContestantPtr fftw_dct4<double>(int length, Arrays& arrays);
 
 template <class Real>
 std::vector<NamedContestant> further_dct4_rivals(int length, Arrays& arrays) {
-  std::vector<NamedContestant> rivals;
   const auto all = twists<Real>();
-  rivals.push_back({"twist in loops", fastest(twisted(all.back().loops, length, arrays))});
-  rivals.push_back({"128-bit twist", fastest(twisted(all.front().registers, length, arrays))});
-  const auto elements = static_cast<std::size_t>(length);
-  rivals.push_back({"three copies", std::make_unique<ThreeCopies>(elements * sizeof(Real))});
+  const auto bytes = static_cast<std::size_t>(length) * sizeof(Real);
+  std::vector<NamedContestant> rivals;
+  rivals.push_back({"twist in loops", twisted(all.back().loops, length, Place::buffer, arrays)});
+  rivals.push_back({"128-bit twist", twisted(all.front().registers, length, Place::dst, arrays)});
+  rivals.push_back({"three copies", std::make_unique<ThreeCopies>(bytes)});
   return rivals;
 }
 template std::vector<NamedContestant> further_dct4_rivals<float>(int length, Arrays& arrays);

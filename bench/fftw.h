@@ -70,19 +70,17 @@ class Plan {
 
 /// Patient planning chooses by measuring, so on a busy machine it can choose badly: plans of one length
 /// differed by an eighth. So this plans afresh several times, as long as that is quick, and takes the fastest
-/// plan. The first may come from what FFTW has learnt for another contestant of the same length, so that
-/// plans that take long are made once.
+/// plan.
 template <class Real, class MakePlan>
 ContestantPtr best_plan(MakePlan make_plan) {
   using Clock = std::chrono::steady_clock;
   constexpr std::size_t kMostPlans = 4;
   const auto deadline = Clock::now() + std::chrono::milliseconds(200);
   std::vector<ContestantPtr> plans;
-  plans.push_back(make_plan());
-  while (plans.size() < kMostPlans && Clock::now() < deadline) {
+  do {
     Api<Real>::forget_wisdom();
     plans.push_back(make_plan());
-  }
+  } while (plans.size() < kMostPlans && Clock::now() < deadline);
   return fastest(std::move(plans));
 }
 

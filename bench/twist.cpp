@@ -182,8 +182,8 @@ void run_after(const Real* z, Real* y, int length, const Real* table) {
 
 template <class Real>
 Twist<Real> twist() {
-  return {.loops = {before_in_loops<Real>, after_in_loops<Real>, false},
-          .registers = {run_before<Real>, run_after<Real>, true}};
+  return {.loops = {before_in_loops<Real>, after_in_loops<Real>},
+          .registers = {run_before<Real>, run_after<Real>}};
 }
 template Twist<float> twist<float>();
 template Twist<double> twist<double>();

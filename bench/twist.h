@@ -3,7 +3,7 @@
 // transform Z y[2k] - i y[N-1-2k] = Z[k] w[k] after, with w[n] = exp(-i pi (8 n + 1) / (8 N)).
 //
 // Once as plain loops, which are left to the compiler, and once in registers. For the latter: an element and
-// its mirror image take the same four places before and after a pass, so all of it can happen in one array;
+// its mirror image take the same four places before and after a pass, so all of it can happen in dst;
 // and their factors differ by a rotation that is the same for all, so half a table will do.
 #pragma once
 
@@ -15,7 +15,6 @@ template <class Real>
 struct TwistPasses {
   using Pass = void (*)(const Real* from, Real* to, int length, const Real* table);
   Pass before, after;
-  bool in_one_array;  ///< from may be to
 };
 
 /// Both forms, compiled for one level of processors.
