@@ -86,7 +86,7 @@ void combine_blocks(const LongPlan<T>& plan, T* dst) {
       run_odd_combine_block(plan.odd_combine, i, {plan.block() + batch_line * line<T>, radix},
                             plan.spectra(batch_line));
     for (std::int32_t j = 0; j < radix; ++j) {
-      // The last one of all finds nothing after it.
+      // After the last block the table starts over.
       const std::int32_t after =
           j + 1 < radix ? first_of_stretch<T>(m2, j + 1, i) : (i + block_classes<T>) % end;
       run_combine_stretch(plan.combine, dst, plan.block() + j * (2 * radix * block_classes<T>),
