@@ -18,6 +18,8 @@ class Contestant {
   virtual void give_output() {}
   /// Whether a call overwrites src, so that the next one finds other data there.
   virtual bool destroys_input() const { return false; }
+  /// Whether its output is the transform. Otherwise it is a yardstick.
+  virtual bool transforms() const { return true; }
   /// What the output must be multiplied by to give the transform.
   virtual double factor() const { return 1; }
 };

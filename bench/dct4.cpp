@@ -3,19 +3,19 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <cmath>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <deque>
 #include <memory>
 #include <new>
-#include <numbers>
 #include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "bench/fftw.h"
+#include "bench/twist.h"
 
 namespace xfm::bench {
 
@@ -23,10 +23,10 @@ namespace {
 
 using catalogue::Precision;
 
-constexpr int kLongest = 20;
+constexpr int kLongest = 22;
 
 /// A patient plan of a long length takes minutes, so those plans are only measured.
-unsigned effort(int length) { return length <= 1 << 14 ? FFTW_PATIENT : FFTW_MEASURE; }
+unsigned effort(int length) { return length <= 1 << 12 ? FFTW_PATIENT : FFTW_MEASURE; }
 
 template <class Real>
 struct Names;
@@ -105,29 +105,31 @@ class Redft11 final : public Contestant {
   fftw::Plan<Real> plan_;
 };
 
-/// With z[n] = (x[2n] + i x[N-1-2n]) w[n] and Z its Fourier transform, Z[k] w[k] = y[2k] - i y[N-1-2k].
+/// Where the complex transform of a twist happens: in dst, or in a buffer of its own, or from one buffer to
+/// another.
+enum class Place { dst, buffer, buffers };
+
 template <class Real>
 class Twisted final : public Contestant {
  public:
-  Twisted(int length, bool in_place, Arrays& arrays)
-      : length_(length),
+  Twisted(const TwistPasses<Real>& passes, int length, Place place, Arrays& arrays)
+      : passes_(passes),
+        length_(length),
         src_(static_cast<const Real*>(arrays.src())),
         dst_(static_cast<Real*>(arrays.dst())),
-        memory_(3 * count() + kLine),
-        twist_(aligned(memory_)),
-        from_(twist_ + count()),
-        to_(in_place ? from_ : from_ + count()),
+        table_(twist_table<Real>(length)),
+        memory_(2 * count() + kLine),
+        from_(place == Place::dst ? dst_ : aligned(memory_)),
+        to_(place == Place::buffers ? from_ + count() : from_),
         plan_(fftw::Api<Real>::plan_dft_1d(length / 2, complex(from_), complex(to_), FFTW_FORWARD,
-                                           effort(length))) {
-    for (int n = 0; n < length; n += 2) {
-      const double angle = -std::numbers::pi * (4 * n + 1) / (8.0 * length);
-      twist_[n] = static_cast<Real>(std::cos(angle));
-      twist_[n + 1] = static_cast<Real>(std::sin(angle));
-    }
-  }
+                                           effort(length))) {}
 
   void run(int calls) override {
-    for (int i = 0; i < calls; ++i) transform(src_, dst_);
+    for (int i = 0; i < calls; ++i) {
+      passes_.before(src_, from_, length_, table_.data());
+      fftw::Api<Real>::execute_dft(plan_.get(), complex(from_), complex(to_));
+      passes_.after(to_, dst_, length_, table_.data());
+    }
   }
 
  private:
@@ -141,30 +143,44 @@ class Twisted final : public Contestant {
   }
   std::size_t count() const { return (static_cast<std::size_t>(length_) + kLine - 1) / kLine * kLine; }
 
-  void transform(const Real* __restrict x, Real* __restrict y) const {
-    const int last = length_ - 1;
-    const Real* __restrict w = twist_;
-    for (int n = 0; n <= last; n += 2) {
-      const Real a = x[n], b = x[last - n];
-      from_[n] = a * w[n] - b * w[n + 1];
-      from_[n + 1] = a * w[n + 1] + b * w[n];
-    }
-    fftw::Api<Real>::execute_dft(plan_.get(), complex(from_), complex(to_));
-    for (int k = 0; k <= last; k += 2) {
-      const Real a = to_[k], b = to_[k + 1];
-      y[k] = a * w[k] - b * w[k + 1];
-      y[last - k] = -a * w[k + 1] - b * w[k];
-    }
-  }
-
+  TwistPasses<Real> passes_;
   int length_;
   const Real* src_;
   Real* dst_;
+  std::vector<Real> table_;
   std::vector<Real> memory_;
-  Real* twist_;
   Real* from_;
   Real* to_;
   fftw::Plan<Real> plan_;
+};
+
+template <class Real>
+ContestantPtr twisted(const TwistPasses<Real>& passes, int length, Place place, Arrays& arrays) {
+  return fftw::best_plan<Real>(
+      [&] { return std::make_unique<Twisted<Real>>(passes, length, place, arrays); });
+}
+
+/// Three plain copies of arrays as long as those of a transform, from memory to memory: a run that reads src,
+/// goes through its state and writes dst moves about as much.
+class ThreeCopies final : public Contestant {
+ public:
+  explicit ThreeCopies(std::size_t bytes) : bytes_(bytes) {}
+
+  void run(int calls) override {
+    static_assert(kRoom >= (std::size_t{1} << kLongest) * sizeof(double));
+    static std::vector<std::byte> from(kRoom, std::byte{1}), to(kRoom);  // shared by the races of all lengths
+    for (int i = 0; i < 3 * calls; ++i) {
+      std::memcpy(to.data() + at_, from.data() + at_, bytes_);
+      at_ += bytes_;
+      if (at_ + bytes_ > kRoom) at_ = 0;
+    }
+  }
+  bool transforms() const override { return false; }
+
+ private:
+  static constexpr std::size_t kRoom = std::size_t{1} << 27;  // beyond any cache
+  std::size_t bytes_;
+  std::size_t at_ = 0;
 };
 
 catalogue::Kernel row(const std::string& name, Precision precision, int exponent) {
@@ -222,15 +238,28 @@ ContestantPtr make_dct4(const Library& library, const catalogue::Kernel& kernel,
 
 template <class Real>
 ContestantPtr fftw_dct4(int length, Arrays& arrays) {
+  const TwistPasses<Real> passes = twists<Real>().back().registers;
   std::vector<ContestantPtr> candidates;
+  for (const Place place : {Place::dst, Place::buffer, Place::buffers})
+    candidates.push_back(twisted(passes, length, place, arrays));
   candidates.push_back(
       fftw::best_plan<Real>([&] { return std::make_unique<Redft11<Real>>(length, arrays); }));
-  for (const bool in_place : {false, true})
-    candidates.push_back(
-        fftw::best_plan<Real>([&] { return std::make_unique<Twisted<Real>>(length, in_place, arrays); }));
   return fastest(std::move(candidates));
 }
 template ContestantPtr fftw_dct4<float>(int length, Arrays& arrays);
 template ContestantPtr fftw_dct4<double>(int length, Arrays& arrays);
+
+template <class Real>
+std::vector<NamedContestant> further_dct4_rivals(int length, Arrays& arrays) {
+  const auto all = twists<Real>();
+  const auto bytes = static_cast<std::size_t>(length) * sizeof(Real);
+  std::vector<NamedContestant> rivals;
+  rivals.push_back({"twist in loops", twisted(all.back().loops, length, Place::buffer, arrays)});
+  rivals.push_back({"128-bit twist", twisted(all.front().registers, length, Place::dst, arrays)});
+  rivals.push_back({"three copies", std::make_unique<ThreeCopies>(bytes)});
+  return rivals;
+}
+template std::vector<NamedContestant> further_dct4_rivals<float>(int length, Arrays& arrays);
+template std::vector<NamedContestant> further_dct4_rivals<double>(int length, Arrays& arrays);
 
 }  // namespace xfm::bench

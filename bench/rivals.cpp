@@ -54,12 +54,15 @@ ContestantPtr make_rival(const catalogue::Kernel& kernel, Arrays& arrays) {
   return nullptr;
 }
 
-// One loop nest for each compiler at hand.
 std::vector<NamedContestant> further_rivals(const catalogue::Kernel& kernel, Arrays& arrays) {
   std::vector<NamedContestant> rivals;
-  if (std::string_view(kernel.family) != "WHT") return rivals;
+  const std::string_view family = kernel.family;
   const bool single = kernel.precision == catalogue::Precision::binary32;
-  for (const LoopNest& nest : loop_nests) {
+  if (family == "DCT4")
+    return single ? further_dct4_rivals<float>(kernel.length, arrays)
+                  : further_dct4_rivals<double>(kernel.length, arrays);
+  if (family != "WHT") return rivals;
+  for (const LoopNest& nest : loop_nests) {  // one for each compiler at hand
     rivals.push_back({nest.name, single ? contestant(nest.binary32, kernel.length, arrays)
                                         : contestant(nest.binary64, kernel.length, arrays)});
   }

@@ -1,4 +1,5 @@
-// The fold: for each batch of L residues the odd DFT of their samples, by a leaf or by a split.
+// The fold: for each batch of L residues the odd DFT of their samples, by a leaf or by a split. A register
+// has the residues of one batch or of several.
 #include "src/dct4/fold.h"
 #include "src/dct4/lines.h"
 #include "src/dct4/stages.h"
@@ -6,47 +7,47 @@
 namespace xfm::dct4 {
 namespace {
 
-/// The classes of one batch. Where the distance is a constant, here and below, addresses take no arithmetic.
-template <class T, class Distance>
+/// The classes of the batches in a register. Where the distance is a constant, here and below, addresses take
+/// no arithmetic.
+template <class V, class Distance>
 struct ToSpectrum {
-  T* start;
+  Element<V>* start;
   Distance part;
 
   template <int q>
-  XFM_INLINE void put(Complex<Group<T>> z) const {
-    T* const at = start + 2 * q * part;
-    Aligned::store(at, z.re);
-    Aligned::store(at + part, z.im);
+  XFM_INLINE void put(Complex<V> z) const {
+    Element<V>* const at = start + 2 * q * part;
+    InState::store(at, z.re);
+    InState::store(at + part, z.im);
   }
 };
-
-template <std::ptrdiff_t value>
-using Constant = std::integral_constant<std::ptrdiff_t, value>;
 
 // ---- Leaves of the outer fold.
 
-/// The samples of one batch, at any address, 2 r apart. Those of negative n come in descending order.
-template <class T, class Distance>
+/// The samples of a register's residues, at any address, 2 r apart. Those of negative n come in descending
+/// order.
+template <class V, class Distance>
 struct Samples {
-  const T* ahead;   ///< of n = 0
-  const T* behind;  ///< the lowest of n = -1
+  const Element<V>* ahead;   ///< of n = 0
+  const Element<V>* behind;  ///< the lowest of n = -1
   Distance r;
 
-  XFM_INLINE auto operator()(std::ptrdiff_t n) const {
-    return n >= 0 ? Unaligned::load(ahead + n * 2 * r) : reversed(Unaligned::load(behind - (n + 1) * 2 * r));
+  XFM_INLINE V operator()(std::ptrdiff_t n) const {
+    return n >= 0 ? Unaligned::load<V>(ahead + n * 2 * r)
+                  : reversed(Unaligned::load<V>(behind - (n + 1) * 2 * r));
   }
 };
 
-template <class T, int m, class Distance>
+template <class V, int m, class T, class Distance>
 xfmStatus fold_batches(const FoldNode& node, T* work, const T* src, Distance r) {
-  constexpr int l = group_size<T>;
+  constexpr int lanes = lanes_of<V>;
   // n = -1 is the last one, n = m - 1 from the front.
-  const T* behind = src + (node.mirror - (m - 1) * 2 * r - (l - 1));
-  for (std::int32_t batch = 0; batch < node.batches; ++batch) {
-    fold<Group<T>, m>(Samples<T, Distance>{src, behind, r}, ToSpectrum<T, Distance>{work, r});
-    src += l;
-    behind -= l;
-    work += l;
+  const T* behind = src + (node.mirror - (m - 1) * 2 * r - (lanes - 1));
+  for (std::int32_t t = 0; t < r; t += lanes) {
+    fold<V, m>(Samples<V, Distance>{src, behind, r}, ToSpectrum<V, Distance>{work, r});
+    src += lanes;
+    behind -= lanes;
+    work += lanes;
   }
   return xfmStsOk;
 }
@@ -54,22 +55,27 @@ xfmStatus fold_batches(const FoldNode& node, T* work, const T* src, Distance r) 
 /// The radixes are those of the powers of two that have this m.
 template <class T, int m, int... radixes>
 xfmStatus fold_batches(const FoldNode& node, T* work, const T* src) {
+  const auto fold_all = [&](auto r) XFM_INLINE {
+    return with_groups(static_cast<std::int32_t>(r) / group_size<T>, [&](auto groups) XFM_INLINE {
+      return fold_batches<Groups<T, groups>, m>(node, work, src, r);
+    });
+  };
   xfmStatus status = xfmStsOk;
-  const bool known =
-      ((node.part == radixes && (status = fold_batches<T, m>(node, work, src, Constant<radixes>()), true)) ||
-       ...);
-  return known ? status : fold_batches<T, m>(node, work, src, std::ptrdiff_t{node.part});
+  const bool known = ((node.part == radixes && (status = fold_all(Constant<radixes>()), true)) || ...);
+  return known ? status : fold_all(std::ptrdiff_t{node.part});
 }
 
 // ---- Leaves of a split. Their samples are so far apart, by powers of two, that most of them fall into a few
 // sets of the cache: a leaf works on a copy, for which every line is read once.
 
 /// A line for every sample n, those of negative n at n + m.
-template <class T, int m>
+template <class V, int m>
 struct SampleLines {
-  const T* batch;
+  const Element<V>* batches;
 
-  XFM_INLINE auto operator()(int n) const { return Aligned::load(batch + (n >= 0 ? n : n + m) * line<T>); }
+  XFM_INLINE V operator()(int n) const {
+    return Aligned::load<V>(batches + (n >= 0 ? n : n + m) * line<Element<V>>);
+  }
 };
 
 template <class T, int m>
@@ -85,18 +91,20 @@ template <class T, int m>
 void fold_lines(const T* src, Offsets at, std::ptrdiff_t step, T* out) {
   alignas(line_bytes) T samples[m * line<T>];
   copy_samples<T, m>(src, at, step, samples);
-  for (int batch = 0; batch < line<T>; batch += group_size<T>)
-    fold<Group<T>, m>(SampleLines<T, m>{samples + batch}, ToSpectrum<T, Constant<line<T>>>{out + batch, {}});
+  using V = Widest<T>;
+  for (int t = 0; t < line<T>; t += lanes_of<V>)
+    fold<V, m>(SampleLines<V, m>{samples + t}, ToSpectrum<V, Constant<line<T>>>{out + t, {}});
 }
 
 Offsets next_sequence(const OddFoldNode& node, Offsets at) {
-  return {at.forward + node.forward_step, at.backward - 2 * std::ptrdiff_t{node.forward_step}};
+  const std::ptrdiff_t step = node.forward_step >> at.dense;
+  return {at.forward + step, at.backward - 2 * step, at.dense};
 }
 
 template <class T, int m>
 xfmStatus fold_sequences(const OddFoldNode& node, T* work, const T* src, Offsets at) {
   for (std::int32_t a = 0; a < node.sequences; ++a, at = next_sequence(node, at))
-    fold_lines<T, m>(src, at, node.step, sequence_spectrum(work, m, a).start);
+    fold_lines<T, m>(src, at, node.step >> at.dense, sequence_spectrum(work, m, a).start);
   return xfmStsOk;
 }
 

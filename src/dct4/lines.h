@@ -3,21 +3,20 @@
 #pragma once
 
 #include "src/dct4/stages.h"
-#include "src/simd/simd.h"
 
 namespace xfm::dct4 {
 
 template <class From, class To, class T>
 XFM_INLINE inline void copy_line(const T* from, T* to) {
-  constexpr int lanes = group_size<T>;
-  for (int i = 0; i < line<T>; i += lanes) To::store(to + i, From::load(from + i));
+  using V = Widest<T>;
+  for (int i = 0; i < line<T>; i += lanes_of<V>) To::store(to + i, From::template load<V>(from + i));
 }
 
 template <class From, class To, class T>
 XFM_INLINE inline void copy_line_reversed(const T* from, T* to) {
-  constexpr int lanes = group_size<T>;
-  for (int i = 0; i < line<T>; i += lanes)
-    To::store(to + i, reversed(From::load(from + line<T> - lanes - i)));
+  using V = Widest<T>;
+  for (int i = 0; i < line<T>; i += lanes_of<V>)
+    To::store(to + i, reversed(From::template load<V>(from + line<T> - lanes_of<V> - i)));
 }
 
 }  // namespace xfm::dct4

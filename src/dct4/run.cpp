@@ -2,6 +2,7 @@
 // by side, one of the combine holds classes. The spectrum between them is stored class by class, each with
 // its real parts followed by its imaginary parts, residues fastest.
 #include "src/dct4/base.h"
+#include "src/dct4/base_wide.h"
 #include "src/dct4/stages.h"
 
 namespace xfm::dct4 {
@@ -9,11 +10,14 @@ namespace {
 
 template <class T>
 xfmStatus run_tree(const T* src, T* dst, const Dct4Plan<T>& root) {
-  const auto* fold_shell = first_of<FoldShell>(root.fold_view);
-  if (fold_shell->kind == kind_sound) run_fold(*first_of<FoldNode>(fold_shell->view), root.work, src);
-  const auto* combine_shell = first_of<CombineShell>(root.combine_view);
-  if (combine_shell->kind == kind_sound)
-    run_combine(*first_of<CombineNode<T>>(combine_shell->view), dst, root.work);
+  const auto& fold_shell = *first_of<FoldShell>(root.fold_view);
+  const auto& combine_shell = *first_of<CombineShell>(root.combine_view);
+  const bool folds = fold_shell.kind == kind_sound, combines = combine_shell.kind == kind_sound;
+  const auto& fold = *first_of<FoldNode>(fold_shell.view);
+  const auto& combine = *first_of<CombineNode<T>>(combine_shell.view);
+  if (folds && combines && is_long(fold, combine)) return run_long(fold, combine, root.work, dst, src);
+  if (folds) run_fold(fold, root.work, src);
+  if (combines) run_combine(combine, dst, root.work);
   return xfmStsOk;
 }
 
@@ -35,7 +39,10 @@ xfmStatus run(const T* src, T* dst, const Dct4Plan<T>& root) {
       transform<T, 16, 4>(src, dst);
       return xfmStsOk;
     case 5:
-      transform<T, 32, 2>(src, dst);
+      if constexpr (widest > 1)
+        transform_32_wide(src, dst);
+      else
+        transform<T, 32, 2>(src, dst);
       return xfmStsOk;
     case root_kind_tree:
       return run_tree(src, dst, root);

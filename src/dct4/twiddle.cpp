@@ -1,5 +1,6 @@
 #include "src/dct4/twiddle.h"
 
+#include <algorithm>
 #include <cmath>
 #include <span>
 
@@ -8,14 +9,22 @@ namespace {
 
 constexpr double pi = 3.141592653589793;
 
-// The angle is rounded to the element's precision before its cosine and sine are taken in that precision.
 template <class T>
-T cos_pi(T x) {
-  return std::cos(static_cast<T>(static_cast<double>(x) * pi));
+struct CosSin {
+  T cosine, sine;
+};
+
+// Of an angle in units of pi. It is rounded to the element's precision before its cosine and sine are taken
+// in that precision, both by one call.
+CosSin<float> cos_sin(float x) {
+  CosSin<float> result;
+  sincosf(static_cast<float>(static_cast<double>(x) * pi), &result.sine, &result.cosine);
+  return result;
 }
-template <class T>
-T sin_pi(T x) {
-  return std::sin(static_cast<T>(static_cast<double>(x) * pi));
+CosSin<double> cos_sin(double x) {
+  CosSin<double> result;
+  sincos(x * pi, &result.sine, &result.cosine);
+  return result;
 }
 
 template <class T>
@@ -28,12 +37,16 @@ using HalfStepValue = T (*)(const HalfStepSource&, std::int32_t);
 // The quotient is taken in the element's precision, of two numbers rounded to it; these roundings are part of
 // the table.
 template <class T>
+T twist_angle(const CosSinSource& source, std::int32_t q, std::int32_t t) {
+  const std::int32_t odd_product = (2 * q + 1) * (2 * t + 1) * 2;
+  return static_cast<T>(odd_product) / static_cast<T>(source.full_turn);
+}
+
+template <class T>
 T cos_sin_value(const CosSinSource& source, std::int32_t i, std::int32_t j) {
   const std::int32_t index = i * source.step + j, half = index / 2;
-  const std::int32_t q = half / source.radix, t = half % source.radix;
-  const std::int32_t odd_product = (2 * q + 1) * (2 * t + 1) * 2;
-  const T x = static_cast<T>(odd_product) / static_cast<T>(source.full_turn);
-  return index % 2 == 0 ? cos_pi(x) : sin_pi(x);
+  const CosSin<T> value = cos_sin(twist_angle<T>(source, half / source.radix, half % source.radix));
+  return index % 2 == 0 ? value.cosine : value.sine;
 }
 
 template <class T>
@@ -68,22 +81,88 @@ class PairWriter {
   explicit PairWriter(T* table) : at_(table) {}
 
   void write(T angle) {
-    const T values[] = {cos_pi(angle), sin_pi(angle)};
-    for (const T value : values)
-      for (std::int32_t lane = 0; lane < group_size<T>; ++lane) *at_++ = value;
+    const CosSin<T> value = cos_sin(angle);
+    std::fill_n(at_, group_size<T>, value.cosine);
+    std::fill_n(at_ + group_size<T>, group_size<T>, value.sine);
+    at_ += 2 * group_size<T>;
   }
 
  private:
   T* at_;
 };
 
+/// The smallest divisor of an odd number, except 1; of 1 itself 1.
+constexpr std::int32_t smallest_divisor(std::int32_t odd) {
+  for (std::int32_t divisor = 3; divisor * divisor <= odd; divisor += 2)
+    if (odd % divisor == 0) return divisor;
+  return odd;
+}
+
+/// The table of a combine, cosines and sines together, since one call gives both. A twist depends on the
+/// product (2 q + 1) (2 t + 1) alone: a divisor of the second factor may go to the first, and the same twist
+/// is found at a later class, if there is one. So the last classes come first.
 template <class T>
-void fill(T* at, const LaneSource& source, std::span<const std::int32_t> order) {
-  const auto value = reinterpret_cast<LaneValue<T>>(source.head.operation);
-  for (std::int32_t group = 0; group < source.groups; ++group)
-    for (const std::int32_t t : order)
-      for (const std::int32_t j : {2 * t, 2 * t + 1})
-        for (std::int32_t lane = 0; lane < group_size<T>; ++lane) *at++ = value(source, group, lane, j);
+class TwistWriter {
+ public:
+  TwistWriter(T* table, const LaneSource& lanes, std::span<const std::int32_t> order)
+      : table_(table),
+        source_(*reinterpret_cast<const CosSinSource*>(lanes.source)),
+        order_(order),
+        radix_(static_cast<std::int32_t>(order.size())),
+        classes_(lanes.groups * l) {
+    std::int32_t place[32];
+    for (std::int32_t i = 0; i < radix_; ++i) place[order[static_cast<std::size_t>(i)]] = i;
+    for (std::int32_t i = 0; i < radix_; ++i) {
+      const std::int32_t odd = 2 * order[static_cast<std::size_t>(i)] + 1, divisor = smallest_divisor(odd);
+      same_[i] = {divisor, place[(odd / divisor - 1) / 2]};
+    }
+  }
+
+  void write() const {
+    for (std::int32_t group = classes_ - l; group >= 0; group -= l)
+      for (std::int32_t i = 0; i < radix_; ++i) write_group(group, i);
+  }
+
+ private:
+  static constexpr std::int32_t l = group_size<T>;
+
+  /// Where residue t has the same twists as another: class q those of class (divisor (2 q + 1) - 1) / 2.
+  struct Same {
+    std::int32_t divisor, place;
+  };
+
+  void write_group(std::int32_t group, std::int32_t place) const {
+    const auto [divisor, other] = same_[place];
+    const std::int32_t t = order_[static_cast<std::size_t>(place)];
+    const std::int32_t reach = (1 << 21) / (2 * radix_ * static_cast<std::int32_t>(sizeof(T)));
+    T* const pair = at(group, place);
+    for (std::int32_t lane = 0; lane < l; ++lane) {
+      const std::int32_t q = group + lane, later = (divisor * (2 * q + 1) - 1) / 2;
+      CosSin<T> value;
+      if (later >= group + l && later < classes_ && later - q < reach) {
+        const T* const same = at(later, other);
+        value = {same[0], same[l]};
+      } else {
+        value = cos_sin(twist_angle<T>(source_, q, t));
+      }
+      pair[lane] = value.cosine;
+      pair[l + lane] = value.sine;
+    }
+  }
+  T* at(std::int32_t q, std::int32_t place) const {
+    return table_ + (std::ptrdiff_t{2 * radix_} * (q - q % l) + 2 * l * place + q % l);
+  }
+
+  T* table_;
+  const CosSinSource& source_;
+  std::span<const std::int32_t> order_;
+  std::int32_t radix_, classes_;
+  Same same_[32];
+};
+
+template <class T>
+void fill(T* table, const LaneSource& lanes, std::span<const std::int32_t> order) {
+  TwistWriter<T>(table, lanes, order).write();
 }
 
 }  // namespace

@@ -171,7 +171,7 @@ TYPED_TEST(Plan, BaseLengthsWithBit31) {
 
 /// A run changes nothing of the state but the work areas.
 TYPED_TEST(Plan, RunsChangeTheWorkAreasOnly) {
-  for (const std::int32_t length : accepted<TypeParam>(17)) {
+  for (const std::int32_t length : accepted<TypeParam>(19)) {
     if ((length & (length - 1)) != 0) continue;
     const std::size_t size = size_of<TypeParam>(length);
     std::vector<std::uint64_t> memory(size / 8 + 8);
