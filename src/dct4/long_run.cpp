@@ -29,7 +29,7 @@ struct LongPlan {
 
   static constexpr std::int32_t batch_lines = radix / line<T>;
   /// Elements that the spectra of the sub-sequences take for the batches of a line.
-  std::ptrdiff_t area() const { return sequence_spectrum(work, odd_fold.fold, radix).start - work; }
+  std::ptrdiff_t area() const { return radix * sequence_step<T>(odd_fold.fold); }
   T* spectra(std::int32_t batch_line) const {
     return batch_line + 1 < batch_lines ? split.work + batch_line * area() : work;
   }

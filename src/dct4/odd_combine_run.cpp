@@ -65,10 +65,10 @@ template <class T, bool prefetches>
 struct Inputs {
   using V = Widest<T>;
   const T* start;
-  std::ptrdiff_t sequence_step;
+  std::ptrdiff_t step;  ///< from a sub-sequence to the next
 
   XFM_INLINE Complex<V> load(int a, int piece) const {
-    const T* const at = start + a * sequence_step + piece * lanes_of<V>;
+    const T* const at = start + a * step + piece * lanes_of<V>;
     if (prefetches && piece == 0) {
       __builtin_prefetch(at + 2 * line<T>);
       __builtin_prefetch(at + 3 * line<T>);
@@ -157,8 +157,7 @@ struct Range {
 template <int r2, bool prefetches, class T>
 void run_classes(const OddCombineNode<T>& node, Range classes, Outputs<T> out, const T* work) {
   constexpr std::ptrdiff_t pair_elements = 2 * group_size<T>;
-  Inputs<T, prefetches> in{work + 2 * line<T> * std::ptrdiff_t{classes.first},
-                           (node.fold + std::ptrdiff_t{2}) * line<T>};
+  Inputs<T, prefetches> in{work + 2 * line<T> * std::ptrdiff_t{classes.first}, sequence_step<T>(node.fold)};
   const T* near = node.table + pair_elements * near_pairs(r2) * classes.first;
   const T* far = node.table + pair_elements * (near_pairs(r2) * node.classes + far_pairs(r2) * classes.first);
   for (std::int32_t i = 0; i < classes.count; ++i) {

@@ -40,12 +40,16 @@ struct Spectrum {
   std::ptrdiff_t part;
 };
 
-/// The spectrum of sub-sequence a in the work area of a split. Each part of a class is one line, and two more
-/// lines keep the sub-sequences apart in the sets of the cache. A line holds the results of its batches until
-/// those of the next line overwrite them.
+/// From the spectrum of a sub-sequence to the next in the work area of a split. Each part of a class is one
+/// line, and two more lines keep the sub-sequences apart in the sets of the cache. A line holds the results
+/// of its batches until those of the next line overwrite them.
+template <class T>
+constexpr std::ptrdiff_t sequence_step(std::int32_t fold) {
+  return (fold + std::ptrdiff_t{2}) * line<T>;
+}
 template <class T>
 Spectrum<T> sequence_spectrum(T* work, std::int32_t fold, std::int32_t a) {
-  return {work + std::ptrdiff_t{a} * (fold + 2) * line<T>, line<T>};
+  return {work + a * sequence_step<T>(fold), line<T>};
 }
 
 template <class T>
