@@ -174,7 +174,7 @@ class Body {
   std::string permutation(NodeId id) const {
     const Node& node = network_.node(id);
     const auto [a, b] = node.in;
-    if (type(id).scalar()) return fmt::format("{}[{}]", var(a), node.lanes[0]);
+    if (type(id).scalar()) return fmt::format("lane<{}>({})", node.lanes[0], var(a));
     const int lanes = std::max({type(a).lanes, type(b).lanes, type_of(type(id).precision, 2).lanes});
     PerLane picks;
     for (int l = 0; l < node.lanes.size(); ++l) {
@@ -236,26 +236,26 @@ class Body {
                : sum;
   }
 
-  // Contiguous lanes take one load, couples one for each.
+  // Contiguous lanes take one load, couples one for each; wide registers are joined from halves.
   std::string load(const Node& node, const ValueType& type) const {
     const PerLane& from = node.lanes;
     if (type.scalar()) return fmt::format("x[{}]", from[0]);
     if (contiguous(from) && type.lanes == from.size())
       return fmt::format("{}(x + {})", access("load", from[0], type), from[0]);
+    if (type.wide()) return fmt::format("joined({}, {})", half(from, 0), half(from, type.lanes / 2));
     std::vector<std::string> places;
     if (!in_couples(from)) {
       const bool doubled = in_doubles(from);
       for (int l = 0; l < from.size(); l += doubled ? 2 : 1) places.push_back(fmt::format("x + {}", from[l]));
       return fmt::format("{}({})", doubled ? "load_doubled" : "load_scalars", fmt::join(places, ", "));
     }
-    if (from.size() == 8) return fmt::format("joined({}, {})", half(from, 0), half(from, 4));
     for (int l = 0; l < from.size() && from[l] >= 0; l += 2) places.push_back(fmt::format("x + {}", from[l]));
     return fmt::format("load_complex({})", fmt::join(places, ", "));
   }
 
-  // Four lanes of a register of eight, from this one on.
+  // Half the lanes of a register, from this one on.
   std::string half(const PerLane& from, int first) const {
-    const ValueType type = type_of(kernel_.type.precision, 4);
+    const ValueType type = type_of(kernel_.type.precision, from.size() / 2);
     if (from[first] < 0) return type.name() + "{}";
     return load({.op = Op::load, .lanes = PerLane(from.begin() + first, from.begin() + first + type.lanes)},
                 type);

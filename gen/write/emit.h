@@ -16,6 +16,7 @@ struct ValueType {
   int lanes;
 
   bool scalar() const { return lanes == 1; }
+  bool wide() const { return lanes * bytes(precision) > 16; }  ///< than the registers that all targets have
   std::string name() const;
 };
 

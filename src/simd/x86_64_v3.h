@@ -19,14 +19,27 @@ using f64x4 = Vector<double, 4>;
 template <class T>
 using Register = Vector<T, register_bytes / sizeof(T)>;
 
+// ---- What clang must not see through.
+
+/// v, as a value of unknown origin. Where a part of a register goes on by itself, clang computes that part
+/// once more rather than extract it, if the operands come in parts too. Naming the register takes no
+/// instruction.
+template <class V>
+XFM_INLINE static inline V opaque(V v) {
+#ifdef __clang__
+  asm("" : "+v"(v));
+#endif
+  return v;
+}
+
 // ---- Halves.
 
 static inline f32x4 low_half(f32x8 v) { return _mm256_castps256_ps128(v); }
 static inline f64x2 low_half(f64x4 v) { return _mm256_castpd256_pd128(v); }
 static inline f32x4 high_half(f32x8 v) { return _mm256_extractf128_ps(v, 1); }
 static inline f64x2 high_half(f64x4 v) { return _mm256_extractf128_pd(v, 1); }
-static inline f32x8 joined(f32x4 low, f32x4 high) { return _mm256_set_m128(high, low); }
-static inline f64x4 joined(f64x2 low, f64x2 high) { return _mm256_set_m128d(high, low); }
+static inline f32x8 joined(f32x4 low, f32x4 high) { return opaque(_mm256_set_m128(high, low)); }
+static inline f64x4 joined(f64x2 low, f64x2 high) { return opaque(_mm256_set_m128d(high, low)); }
 
 // ---- Numbers from anywhere in memory.
 
@@ -40,9 +53,6 @@ static inline f32x4 load_scalars(const float* p, const float* q, const float* r,
   return _mm_movelh_ps(load_scalars(p, q), load_scalars(r, s));
 }
 static inline f64x2 load_scalars(const double* p, const double* q) { return _mm_loadh_pd(_mm_load_sd(p), q); }
-static inline f64x4 load_scalars(const double* p, const double* q, const double* r, const double* s) {
-  return joined(load_scalars(p, q), load_scalars(r, s));
-}
 
 /// Each in two lanes; one alone in all.
 static inline f32x4 load_doubled(const float* p) { return _mm_broadcast_ss(p); }
@@ -50,19 +60,8 @@ static inline f32x4 load_doubled(const float* p, const float* q) {
   return _mm_blend_ps(_mm_broadcast_ss(p), _mm_broadcast_ss(q), 0b1100);
 }
 static inline f64x2 load_doubled(const double* p) { return _mm_loaddup_pd(p); }
-static inline f64x4 load_doubled(const double* p, const double* q) {
-  return _mm256_blend_pd(_mm256_broadcast_sd(p), _mm256_broadcast_sd(q), 0b1100);
-}
 
 // ---- Complex numbers of binary32 parts.
-
-/// From three or four places; the rest of the register is zero.
-static inline f32x8 load_complex(const float* p, const float* q, const float* r) {
-  return joined(load_complex(p, q), load_complex(r));
-}
-static inline f32x8 load_complex(const float* p, const float* q, const float* r, const float* s) {
-  return joined(load_complex(p, q), load_complex(r, s));
-}
 
 /// Complex number j of the register.
 template <int j>
@@ -72,9 +71,6 @@ static inline void store_complex(float* p, f32x8 v) {
 
 // ---- Complex numbers of binary64 parts.
 
-static inline f64x4 load_complex(const double* p, const double* q) {
-  return joined(Unaligned::load<f64x2>(p), Unaligned::load<f64x2>(q));
-}
 template <int j>
 static inline void store_complex(double* p, f64x4 v) {
   Unaligned::store(p, j == 0 ? low_half(v) : high_half(v));
@@ -95,11 +91,42 @@ static inline f64x4 flip_signs(f64x4 v) {
   return _mm256_xor_pd(v, f64x4{zeros[a], zeros[b], zeros[c], zeros[d]});
 }
 
+/// Whether each lane stays where it is, in one register or the other.
+template <int... picks>
+constexpr bool blends() {
+  int l = -1;
+  return ((++l, picks < 0 || picks % static_cast<int>(sizeof...(picks)) == l) && ...);
+}
+/// Whether the low or the high lanes are half a register as it is.
+template <int... picks>
+constexpr bool joins() {
+  constexpr int half = sizeof...(picks) / 2, all[] = {picks...};
+  const auto moves_together = [&](const int* lanes) {
+    bool together = half > 1 && lanes[0] >= 0 && lanes[0] % half == 0;
+    for (int l = 1; l < half; ++l) together = together && (lanes[l] < 0 || lanes[l] == lanes[0] + l);
+    return together;
+  };
+  return moves_together(all) || moves_together(all + half);
+}
+
 /// Picks any lanes of two registers: those of u count from 0, and those of v follow; -1 for lanes that may
-/// hold anything. Compilers find the instruction for every pick that takes only one.
+/// hold anything. Compilers find the instruction for every pick that takes only one. But a choice between a
+/// product and its operand is one product with other constants to clang.
 template <int... picks, class V>
 static inline auto permute(V u, V v) {
-  return __builtin_shufflevector(u, v, picks...);
+  if constexpr (blends<picks...>() && sizeof...(picks) == lanes_of<V> && sizeof(V) > 16) {
+    return __builtin_shufflevector(opaque(u), v, picks...);
+  } else if constexpr (joins<picks...>()) {
+    return opaque(__builtin_shufflevector(u, v, picks...));
+  } else {
+    return __builtin_shufflevector(u, v, picks...);
+  }
+}
+
+/// Lane l by itself.
+template <int l, class V>
+static inline Element<V> lane(V v) {
+  return opaque(v)[l];
 }
 
 /// A value in the low lanes of a wider register.

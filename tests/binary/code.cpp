@@ -82,16 +82,6 @@ class Code : public KernelTest {
 
   /// On the baseline arithmetic is all packed or all scalar, and signs change by subtraction from zero.
   static bool is_baseline() { return level() == 1; }
-  /// How many operations of a kernel a compiler computes again. Where half a register goes on by itself,
-  /// clang may compute that half once more instead of extracting it; the number is the greatest that was
-  /// measured.
-  static int repeats() {
-#ifdef __clang__
-    return is_baseline() ? 0 : 5;
-#else
-    return 0;
-#endif
-  }
 
   /// Registers of binary32 may have idle lanes, those of pairs and some of complex numbers.
   static bool fills_its_lanes() {
@@ -169,9 +159,9 @@ TEST_P(Code, Instructions) {
     const Tally count = tally(body);
     const int adds = form().bodies * form().add_instructions,
               mults = form().bodies * form().mult_instructions;
-    EXPECT_LE(count.adds(), adds + repeats()) << name;
-    EXPECT_LE(count.mults(), mults + repeats() + (is_baseline() ? 0 : doublings())) << name;
-    EXPECT_LE(count.adds() + count.mults(), adds + mults + repeats()) << name;
+    EXPECT_LE(count.adds(), adds) << name;
+    EXPECT_LE(count.mults(), mults + (is_baseline() ? 0 : doublings())) << name;
+    EXPECT_LE(count.adds() + count.mults(), adds + mults) << name;
     if (!is_baseline()) continue;
     EXPECT_EQ(count.packed_adds, form().bodies * form().add_instructions) << name;
     EXPECT_EQ(count.packed_mults, form().bodies * form().mult_instructions) << name;
@@ -188,10 +178,9 @@ TEST_P(Code, OperationCounts) {
       EXPECT_EQ(count.packed_adds + count.packed_mults, 0) << name;
     }
     if (fills_its_lanes()) {
-      const int again = 2 * repeats();  // halves of registers
-      EXPECT_LE(count.added_lanes, form().bodies * (adds + doublings()) + again) << name;
-      EXPECT_LE(count.multiplied_lanes, form().bodies * mults + again) << name;
-      EXPECT_LE(count.added_lanes + count.multiplied_lanes, form().bodies * (adds + mults) + again) << name;
+      EXPECT_LE(count.added_lanes, form().bodies * (adds + doublings())) << name;
+      EXPECT_LE(count.multiplied_lanes, form().bodies * mults) << name;
+      EXPECT_LE(count.added_lanes + count.multiplied_lanes, form().bodies * (adds + mults)) << name;
     }
     if (form().straight) {
       EXPECT_GE(count.multiplied_lanes, scaled_outputs(kernel()))

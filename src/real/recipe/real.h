@@ -3,6 +3,7 @@
 #pragma once
 
 #include "gen/kernel.h"
+#include "gen/targets/target.h"
 
 namespace xfm::real {
 
@@ -15,6 +16,6 @@ const char* name_of(Layout layout);
 
 /// By the length's row, or by another tree.
 gen::Design design(int length, gen::Precision precision, Direction direction, Layout layout,
-                   const std::string& tree);
+                   const std::string& tree, const gen::Target& target);
 
 }  // namespace xfm::real
