@@ -15,6 +15,7 @@
 
 #include "bench/build.h"
 #include "bench/dct4.h"
+#include "bench/many.h"
 #include "bench/race.h"
 #include "bench/report.h"
 #include "bench/rivals.h"
@@ -33,6 +34,7 @@ struct Options {
   std::string json;
   std::string markdown;
   bool list = false;
+  bool many = false, alone = false;
   Placement placement;
 };
 
@@ -53,6 +55,13 @@ void define(CLI::App& app, Options& options) {
   app.add_option("--markdown", options.markdown, "Also write the ratios to FILE, as Markdown")
       ->type_name("FILE");
   app.add_flag("--list", options.list, "List the kernels without measuring them");
+  auto* const many =
+      app.add_flag("--many", options.many,
+                   "Race batches instead, beside FFTW's and single calls, for two counts and both roads "
+                   "to memory");
+  app.add_flag("--alone", options.alone, "With --many: beside single calls only")->needs(many);
+  for (const char* option : {"--target", "--against", "--json", "--markdown"})
+    many->excludes(app.get_option(option));
   app.add_flag("--unaligned", options.placement.unaligned,
                "Start the arrays one real scalar past an aligned address");
   app.add_flag("--in-place", options.placement.in_place, "Transform in place: dst is src");
@@ -67,6 +76,7 @@ bool runs_unasked(const catalogue::Kernel& kernel) {
 Kernels chosen(const Options& options) {
   Kernels kernels;
   for (const auto& rows : {catalogue::kernels(), dct4_kernels()}) {
+    if (options.many && rows.data() != catalogue::kernels().data()) continue;
     for (const catalogue::Kernel& kernel : rows) {
       const auto matches = [&](const std::string& text) {
         return std::string(kernel.name).find(text) != std::string::npos;
@@ -130,6 +140,7 @@ void measure(const Options& options) {
   }
   if (const std::string reason = objection(); !reason.empty())
     throw std::runtime_error("refusing to measure: " + reason);
+  if (options.many) return race_batches(kernels, {options.rounds, options.alone});
   const File json = opened(options.json), markdown = opened(options.markdown);
   const Builds builds = loaded_builds(chosen_target(options.target), options.against);
   const std::string rival = builds.other.empty() ? rival_version() : "libxfm, " + options.against;

@@ -13,6 +13,7 @@
 #include "gen/write/files.h"
 #include "tools/lanes.h"
 #include "tools/listing.h"
+#include "tools/many.h"
 #include "tools/promises.h"
 
 namespace {
@@ -93,9 +94,8 @@ void write_all(const std::filesystem::path& out, const Form& form) {
   write("xfm.map", xfm::export_map());
 }
 
-// The public header is part of the source tree: rewritten on demand, and compared by the tests.
-int write_header(const std::filesystem::path& frame, const std::filesystem::path& header, bool check) {
-  const std::string text = xfm::public_header(xfm::gen::read_file(frame));
+// A public header is part of the source tree: rewritten on demand, and compared by the tests.
+int write_header(const std::filesystem::path& header, const std::string& text, bool check) {
   if (!check) {
     xfm::gen::write_if_changed(header, text);
     return 0;
@@ -162,13 +162,31 @@ void costs(const Form& form) {
   }
 }
 
+// The batch kernels of a target, one file for each length, and what is the same for all targets.
+void write_batches(const std::filesystem::path& out, const Target& target) {
+  const auto write = [&](const std::string& name, const std::string& text) {
+    xfm::gen::write_if_changed(out / name, text);
+  };
+  std::set<int> lengths;
+  for (const Family& family : families()) {
+    if (!family.by_hand()) std::ranges::copy(family.lengths(), std::inserter(lengths, lengths.end()));
+  }
+  for (const int length : lengths)
+    write(fmt::format("batch_{}.cpp", length), xfm::batches_of_length(length, target));
+  write("many.cpp", xfm::functions_of_batches(target));
+  if (target.name != xfm::gen::baseline().name) return;
+  write("xfmmany.map", xfm::export_map_of_batches());
+  write("many_catalogue.cpp", xfm::catalogue_of_batches());
+}
+
 int run(int argc, char** argv) {
   CLI::App app{"Writes the kernels of xfm, or shows what becomes of a table's row."};
-  std::string out, header, frame, tree, target_name{xfm::gen::baseline().name};
+  std::string out, batches, header, frame, tree, target_name{xfm::gen::baseline().name};
   std::tuple<std::string, int, std::string> shown, program;
   int lanes = 0;
-  bool check = false, list_costs = false;
+  bool check = false, list_costs = false, many = false;
   app.add_option("--out", out, "Write all generated sources to this folder");
+  app.add_option("--batches", batches, "Write the generated sources of batches to this folder");
   app.add_option("--target", target_name, "For this target")->capture_default_str();
   app.add_option("--lanes", lanes, "Up to so many lanes wherever possible, instead of those of the table");
   app.add_option("--show", shown, "FAMILY N TYPE: tree, costs, rules and text of one kernel");
@@ -177,6 +195,7 @@ int run(int argc, char** argv) {
   app.add_flag("--costs", list_costs, "Every kernel's cost beside its row");
   app.add_option("--header", header, "Write the public header");
   app.add_option("--frame", frame, "With --header: its hand-written frame");
+  app.add_flag("--many", many, "With --header: that of batches");
   app.add_flag("--check", check, "With --header: only compare");
   CLI11_PARSE(app, argc, argv);
 
@@ -184,10 +203,13 @@ int run(int argc, char** argv) {
   xfm::gen::Pairing pairing;
   const Form form{target, lanes, pairing};
   if (!out.empty()) write_all(out, form);
+  if (!batches.empty()) write_batches(batches, target);
   if (list_costs) costs(form);
   if (!std::get<0>(shown).empty()) show(named(shown), tree, form);
   if (!std::get<0>(program).empty()) show_program(named(program), tree, target);
-  return header.empty() ? 0 : write_header(frame, header, check);
+  if (header.empty()) return 0;
+  const std::string text = xfm::gen::read_file(frame);
+  return write_header(header, many ? xfm::header_of_batches(text) : xfm::public_header(text), check);
 }
 
 }  // namespace

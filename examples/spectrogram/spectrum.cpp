@@ -8,7 +8,7 @@
 
 #include <fmt/format.h>
 
-#include "xfm.h"
+#include "xfm_many.h"
 
 namespace {
 
@@ -35,16 +35,29 @@ void cut(const float* signal, std::int64_t frames, int hop, const std::vector<fl
     for (std::size_t n = 0; n < window.size(); ++n) out[n] = signal[n] * window[n];
 }
 
-/// All transforms of a batch, in place, with nothing else between the two readings of the clock.
-std::chrono::nanoseconds transform(float* data, std::int64_t frames, int length) {
-  xfmStatus status = xfmStsOk;
-  const int stride = spectrum_elements(length);
+/// The time of a call, with nothing else between the two readings of the clock.
+template <class Call>
+std::chrono::nanoseconds timed(Call call) {
   const auto start = Clock::now();
-  for (std::int64_t frame = 0; frame < frames && status == xfmStsOk; ++frame, data += stride)
-    status = xfmDFTFwd_RToCCS_32f(data, data, length, XFM_SCALE_FWD_BY_N);
+  const xfmStatus status = call();
   const auto spent = Clock::now() - start;
   if (status != xfmStsOk) throw std::runtime_error(fmt::format("transform failed with status {}", status));
   return spent;
+}
+
+/// All transforms of a stretch by one call, in place: contiguous frames, with room for their spectra.
+xfmStatus transform(float* data, std::int64_t frames, int length) {
+  const int distance = spectrum_elements(length);
+  return xfmManyDFTFwd_RToCCS_32f(data, 1, distance, data, 1, distance, length, frames, XFM_SCALE_FWD_BY_N);
+}
+
+/// The same one by one, to compare the times.
+xfmStatus transform_singly(float* data, std::int64_t frames, int length) {
+  xfmStatus status = xfmStsOk;
+  for (std::int64_t frame = 0; frame < frames && status == xfmStsOk;
+       ++frame, data += spectrum_elements(length))
+    status = xfmDFTFwd_RToCCS_32f(data, data, length, XFM_SCALE_FWD_BY_N);
+  return status;
 }
 
 /// In CCS every bin is a complex number, even bin 0 and that of half the sampling rate.
@@ -106,7 +119,7 @@ Spectrogram analyse(Audio& audio, int length, int columns, const std::function<v
   std::vector<std::int64_t> windows(static_cast<std::size_t>(picture.columns));
   const auto stretch = static_cast<std::size_t>(length + (batch - 1) * picture.hop);
   std::vector<std::vector<float>> signals(picture.power.size(), std::vector<float>(stretch));
-  std::vector<float> spectra(static_cast<std::size_t>(spectrum_elements(length) * batch));
+  std::vector<float> spectra(static_cast<std::size_t>(spectrum_elements(length) * batch)), copy;
 
   std::int64_t done = 0;
   std::size_t kept = 0;  // the tail of the last stretch, which the next windows overlap
@@ -124,7 +137,9 @@ Spectrogram analyse(Audio& audio, int length, int columns, const std::function<v
     };
     for (std::size_t channel = 0; channel < signals.size(); ++channel) {
       cut(signals[channel].data(), frames, picture.hop, window, spectra.data());
-      picture.inside += transform(spectra.data(), frames, length);
+      copy = spectra;
+      picture.singly += timed([&] { return transform_singly(copy.data(), frames, length); });
+      picture.inside += timed([&] { return transform(spectra.data(), frames, length); });
       for (std::int64_t frame = 0; frame < frames; ++frame)
         add_powers(&spectra[static_cast<std::size_t>(frame * spectrum_elements(length))], picture, channel,
                    column_of(frame));

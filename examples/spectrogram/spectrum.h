@@ -15,8 +15,9 @@ struct Spectrogram {
   int hop = 0;     ///< samples from one window to the next
   int bins = 0;
   int columns = 0;
-  std::int64_t frames = 0;            ///< windows of a channel, each one call of the library
-  std::chrono::nanoseconds inside{};  ///< time spent in the calls
+  std::int64_t frames = 0;            ///< windows of a channel, each one transform
+  std::chrono::nanoseconds inside{};  ///< time spent in batches of transforms
+  std::chrono::nanoseconds singly{};  ///< time of the same transforms one by one
   std::vector<std::vector<float>>
       power;  ///< left and right, or the only one: power[channel][bin * columns + column]
 

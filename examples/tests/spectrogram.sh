@@ -38,6 +38,8 @@ case $case in
     says '^loudest  1500 to 2500 Hz, -6.[01] dB, left$'
     says '^loudest  4500 to 5500 Hz, -6.[01] dB, right$'
     says '^frames   3997 of 16 samples, one every 4$'
+    says '^batches  7994 transforms by xfmManyDFTFwd_RToCCS_32f, [0-9.]+ ns each, [0-9.]+ ms in all$'
+    says '^gain     [0-9.]+ times as fast as single calls$'
     ;;
   mono)
     "$tones" tones.wav 1

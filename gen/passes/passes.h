@@ -28,6 +28,10 @@ std::unique_ptr<Network> absorb_sign_flips(const Network& network, Carriers carr
 /// multiplied, added from left to right and narrowed, each step by an operation of its own.
 std::unique_ptr<Network> lowered(const Network& network, Precision precision);
 
+/// Reads a lowered network lane by lane: a scalar network with the same operations on the same operands, and
+/// no permutation left in it.
+std::unique_ptr<Network> lane_by_lane(const Network& network);
+
 /// @name Drafts: linear combinations that consist of products alone
 /// @{
 

@@ -2,6 +2,7 @@
 // the target's vocabulary of registers is the same for all.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <span>
 #include <string_view>
@@ -35,9 +36,15 @@ struct Target {
   int registers;
   bool unaligned_is_free;                     ///< one body serves aligned and unaligned memory
   std::span<const Permutation> permutations;  ///< the cheapest first
+  int batch_register_bytes;                   ///< the widest registers, which only batches use
+  std::array<int, 3> batch_lanes;  ///< transforms at a time: binary32, real binary64, complex binary64
 
   /// How many numbers of a precision a register holds.
   int lanes(Precision precision) const { return register_bytes / bytes(precision); }
+  /// How many transforms a batch kernel computes at a time.
+  int lanes_of_batch(Precision precision, bool complex) const {
+    return batch_lanes[precision == Precision::binary32 ? 0 : complex ? 2 : 1];
+  }
 };
 
 /// @name The descriptions, each in its own file

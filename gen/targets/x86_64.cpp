@@ -24,6 +24,8 @@ Target x86_64() {
       .registers = 16,
       .unaligned_is_free = false,
       .permutations = permutations,
+      .batch_register_bytes = 16,
+      .batch_lanes = {4, 2, 2},
   };
   // clang-format on
 }

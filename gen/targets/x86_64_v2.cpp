@@ -15,6 +15,8 @@ Target x86_64_v2() {
       .registers = 16,
       .unaligned_is_free = false,
       .permutations = x86_64().permutations,
+      .batch_register_bytes = 16,
+      .batch_lanes = {4, 2, 2},
   };
   // clang-format on
 }

@@ -33,6 +33,8 @@ Target x86_64_v3() {
       .registers = 16,
       .unaligned_is_free = true,
       .permutations = permutations,
+      .batch_register_bytes = 32,
+      .batch_lanes = {8, 4, 4},
   };
   // clang-format on
 }

@@ -16,13 +16,6 @@ namespace {
 constexpr const char* written_by_xfmgen =
     "// Written by xfmgen; do not edit: change the row or the recipe, and build.\n";
 
-std::string identifier(const std::string& name) {
-  if (name.starts_with('-')) return "minus_" + identifier(name.substr(1));
-  std::string id;
-  for (const char c : name) id += std::isalnum(static_cast<unsigned char>(c)) != 0 ? c : '_';
-  return id;
-}
-
 bool is_trivial(const Constant& c) { return c.is_zero() || magnitude(c).is_one(); }
 
 // No register has fewer than 16 bytes: upper lanes may be idle.
@@ -305,19 +298,6 @@ class Body {
   SharedConstants& shared_;
 };
 
-// 1/N and 1/sqrt(N), the nearest numbers; but in binary64 the second is the quotient by the rounded root.
-std::string factors(const Kernel& kernel, const Target& target) {
-  const Precision precision = kernel.type.precision;
-  const Wide n(kernel.length);
-  const Wide by_root =
-      precision == Precision::binary32 ? 1 / wide_sqrt(n) : Wide(1 / std::sqrt(static_cast<double>(n)));
-  const auto carried = [&](bool carries) { return literal(carries ? 1 / n : Wide(1), precision); };
-  return fmt::format("constexpr Factors<{}, {}> factors_{}({}, {}, {});\n", kernel.type.scalar(),
-                     factor_type(kernel, target).lanes, kernel.type.suffix(),
-                     carried(kernel.scaling != Scaling::inverse), carried(kernel.scaling != Scaling::forward),
-                     literal(by_root, precision));
-}
-
 std::string signature(const Kernel& kernel, const std::string& name) {
   return fmt::format("xfmStatus {}(const {}* src, {}* dst, int32_t flag)", name, kernel.type.name(),
                      kernel.type.name());
@@ -349,8 +329,9 @@ std::string emit_kernel(const Kernel& kernel, const Target& target, SharedConsta
   Body body(kernel, target, shared);
   const std::string inner =
       " {\n" + entry_text(kernel, factor_type(kernel, target)) + body.text() + "  return xfmStsOk;\n}\n\n";
-  const std::string head =
-      heading(kernel) + "namespace {\n" + factors(kernel, target) + "}\n" + body.declarations() + "\n";
+  const std::string head = heading(kernel) + "namespace {\n" +
+                           factors(kernel, factor_type(kernel, target).lanes) + "}\n" + body.declarations() +
+                           "\n";
   if (!kernel.packed() || target.unaligned_is_free) return head + signature(kernel, kernel.name()) + inner;
   const std::string suffix = kernel.type.suffix(), variant = kernel.name() + "_unaligned";
   return head + "template <class Memory>\nXFM_BODY " + signature(kernel, "body_" + suffix) + inner +
@@ -362,6 +343,25 @@ std::string emit_kernel(const Kernel& kernel, const Target& target, SharedConsta
 }
 
 }  // namespace
+
+std::string identifier(const std::string& name) {
+  if (name.starts_with('-')) return "minus_" + identifier(name.substr(1));
+  std::string id;
+  for (const char c : name) id += std::isalnum(static_cast<unsigned char>(c)) != 0 ? c : '_';
+  return id;
+}
+
+// 1/N and 1/sqrt(N), the nearest numbers; but in binary64 the second is the quotient by the rounded root.
+std::string factors(const Kernel& kernel, int lanes) {
+  const Precision precision = kernel.type.precision;
+  const Wide n(kernel.length);
+  const Wide by_root =
+      precision == Precision::binary32 ? 1 / wide_sqrt(n) : Wide(1 / std::sqrt(static_cast<double>(n)));
+  const auto carried = [&](bool carries) { return literal(carries ? 1 / n : Wide(1), precision); };
+  return fmt::format("constexpr Factors<{}, {}> factors_{}({}, {}, {});\n", kernel.type.scalar(), lanes,
+                     kernel.type.suffix(), carried(kernel.scaling != Scaling::inverse),
+                     carried(kernel.scaling != Scaling::forward), literal(by_root, precision));
+}
 
 std::string literal(Wide value, Precision precision) {
   if (precision == Precision::binary32) return fmt::format("{:a}F", static_cast<float>(value));

@@ -37,6 +37,12 @@ class SharedConstants {
 /// One translation unit with these kernels.
 std::string emit_file(std::span<const Kernel> kernels, const Target& target, SharedConstants& shared);
 
+/// The definition of a kernel's factors, each repeated for so many lanes.
+std::string factors(const Kernel& kernel, int lanes);
+
+/// The name of a constant as a part of a C++ identifier.
+std::string identifier(const std::string& name);
+
 /// A C++ literal with every bit of the value, in the given precision.
 std::string literal(Wide value, Precision precision);
 

@@ -3,7 +3,7 @@
 
 #include <type_traits>
 
-#include "src/frame/contract.h"
+#include "src/wht/factors.h"
 #include "src/wht/passes.h"
 #include "src/wht/stages.h"
 #include "xfmcore.h"
@@ -76,19 +76,10 @@ XFM_INLINE inline void fill_main_area(const T* src, T* buffer) {
   }
 }
 
-/// 1/N, and 1/sqrt(N) as the quotient of 1 by the rounded root: powers of two, and at odd orders 1/sqrt(2)
-/// times a power of two. In binary64 that quotient is not the nearest value but the one below.
+/// One number where it is to be broadcast, or repeated for the lanes of a register.
 template <class T, int order>
-constexpr auto make_factors() {
-  constexpr T half_root =
-      sizeof(T) == sizeof(float) ? static_cast<T>(0x1.6a09e6p-1F) : static_cast<T>(0x1.6a09e667f3bccp-1);
-  constexpr T by_n = T{1} / (1 << order);
-  constexpr T by_sqrt_n = (order % 2 == 0 ? T{1} : half_root) / (1 << order / 2);
-  constexpr int lanes = unaligned_is_free ? 1 : lanes_of<BlockValue<T, 1 << order>>;
-  return Factors<T, lanes>(by_n, by_n, by_sqrt_n);
-}
-template <class T, int order>
-inline constexpr auto factors = make_factors<T, order>();
+inline constexpr auto factors =
+    make_factors<T, order, unaligned_is_free ? 1 : lanes_of<BlockValue<T, 1 << order>>>();
 
 template <class T, int order>
 XFM_INLINE inline auto factor(std::int32_t flag) {

@@ -40,16 +40,18 @@ foreach(language c cxx)
   endforeach()
 endforeach()
 
-# Each target's library, where it was installed, finds the core.
+# Each target's libraries, where they were installed, find the core.
 add_executable(package_load load.c)
 target_link_libraries(package_load PRIVATE xfm_options ${CMAKE_DL_LIBS})
 foreach(target IN LISTS XFM_TARGET_NAMES)
   xfm_target_field(${target} folder folder)
-  cmake_path(SET library NORMALIZE
-    ${prefix}/${CMAKE_INSTALL_LIBDIR}/${folder}/$<TARGET_SONAME_FILE_NAME:xfm${XFM_SUFFIX_${target}}>)
-  add_test(NAME package.load.${target} COMMAND package_load ${library})
-  set_tests_properties(package.load.${target} PROPERTIES FIXTURES_REQUIRED package_installed
-    ENVIRONMENT_MODIFICATION LD_LIBRARY_PATH=unset:)
+  foreach(name xfm xfmmany)
+    cmake_path(SET library NORMALIZE
+      ${prefix}/${CMAKE_INSTALL_LIBDIR}/${folder}/$<TARGET_SONAME_FILE_NAME:${name}${XFM_SUFFIX_${target}}>)
+    add_test(NAME package.load.${name}.${target} COMMAND package_load ${library})
+    set_tests_properties(package.load.${name}.${target} PROPERTIES FIXTURES_REQUIRED package_installed
+      ENVIRONMENT_MODIFICATION LD_LIBRARY_PATH=unset:)
+  endforeach()
 endforeach()
 
 # A consumer's project builds the whole library again, so the everyday test only configures it.

@@ -25,4 +25,5 @@ try() { # PROGRAM PACKAGE COMPILER [FLAG...]
 }
 
 try transform xfm "$@"
+try many xfmmany "$@"
 try memory xfmcore "$@"

@@ -1,0 +1,62 @@
+// What a batch knows of a family and length: its kernel, its factors, and where a kernel's elements are.
+#pragma once
+
+#include <cstddef>
+
+#include "src/frame/contract.h"
+
+namespace xfm::many {
+
+/// The arrays of a batch kernel on one side, by addresses: element 0, element 2 and, of a packed spectrum,
+/// the real element of bin N/2. Any other element k is k - 2 steps behind element 2, or, of inputs and real
+/// outputs in natural order, k steps behind element 0. The lanes of an element are side by side.
+template <class Byte>
+struct Side {
+  Byte *first, *third, *last;
+  std::ptrdiff_t step;   ///< bytes from an element to the next
+  std::ptrdiff_t group;  ///< bytes from the first transform of a group of lanes to that of the next
+};
+using Input = Side<const char>;
+using Output = Side<char>;
+
+/// Computes groups of transforms, as many in a group as there are lanes. Loads all of a group before it
+/// stores any.
+template <class T>
+using Body = void(const Input& in, const Output& out, std::ptrdiff_t groups, T factor);
+
+/// The elements of one transform in memory. Spectra are numbered as in the CCS layout, whatever the layout
+/// is.
+struct Places {
+  int size;      ///< how many there are
+  int third;     ///< the place of element 2
+  int last;      ///< that of element N, where there is one
+  int step;      ///< 1, or -1 where a kernel serves the other direction: element k of that is element N - k
+  int zeros[2];  ///< of the stored zeros, or -1
+};
+
+template <class E>
+struct ScalarOf {
+  using Type = E;
+};
+template <>
+struct ScalarOf<xfm32fc> {
+  using Type = xfm32f;
+};
+template <>
+struct ScalarOf<xfm64fc> {
+  using Type = xfm64f;
+};
+template <class E>
+using Scalar = typename ScalarOf<E>::Type;
+
+/// A family at a length, for elements of type E.
+template <class E>
+struct Row {
+  Body<Scalar<E>>* body;
+  const Factors<Scalar<E>, 1>& factors;
+  xfmStatus (*single)(const E* src, E* dst, std::int32_t flag);
+  Places in, out;
+  ///< all are
+};
+
+}  // namespace xfm::many

@@ -1,0 +1,27 @@
+// Everything that is written for batches from the list of families.
+#pragma once
+
+#include <string>
+
+#include "gen/targets/target.h"
+#include "tools/families.h"
+
+namespace xfm {
+
+/// The public header of batches, from its hand-written frame (which holds the line @FUNCTIONS@).
+std::string header_of_batches(const std::string& frame);
+
+/// Linker version script: exactly the public functions.
+std::string export_map_of_batches();
+
+/// The public functions: a family's rows by length.
+std::string functions_of_batches(const gen::Target& target);
+
+/// The table behind many_catalogue.h.
+std::string catalogue_of_batches();
+
+/// One translation unit: the batch kernels of all families at a length. Kernels that are the same scalar
+/// program share one body.
+std::string batches_of_length(int length, const gen::Target& target);
+
+}  // namespace xfm
