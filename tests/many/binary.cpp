@@ -69,7 +69,7 @@ Names functions_of_batches() {
 
 /// For strides and counts, which only batches have.
 bool is_of_strides(const Instruction& instruction) {
-  static const Names known = {"dec", "decq", "imul", "inc", "neg", "negq", "subq"};
+  static const Names known = {"addq", "dec", "decq", "imul", "inc", "neg", "negq", "subq"};
   return known.contains(instruction.mnemonic);
 }
 
