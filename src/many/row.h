@@ -56,7 +56,6 @@ struct Row {
   const Factors<Scalar<E>, 1>& factors;
   xfmStatus (*single)(const E* src, E* dst, std::int32_t flag);
   Places in, out;
-  ///< all are
 };
 
 }  // namespace xfm::many

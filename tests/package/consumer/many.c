@@ -1,4 +1,5 @@
-/* A consumer of batches, in the common subset of C and C++: three transforms side by side, of impulses at place 0. */
+/* A consumer of batches, in the common subset of C and C++: three transforms side by side, of impulses at
+ * place 0. */
 #include <stdio.h>
 #include <xfm_many.h>
 
