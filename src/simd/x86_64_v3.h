@@ -22,8 +22,8 @@ using Register = Vector<T, register_bytes / sizeof(T)>;
 // ---- What clang must not see through.
 
 /// v, as a value of unknown origin. Where a part of a register goes on by itself, clang computes that part
-/// once more rather than extract it, if the operands come in parts too. Naming the register takes no
-/// instruction.
+/// once more rather than extract it, if the operands come in parts too; and where halves are added, it adds
+/// whole registers. Naming the register takes no instruction, at most a copy.
 template <class V>
 XFM_INLINE static inline V opaque(V v) {
 #ifdef __clang__
@@ -116,7 +116,7 @@ template <int... picks, class V>
 static inline auto permute(V u, V v) {
   if constexpr (blends<picks...>() && sizeof...(picks) == lanes_of<V> && sizeof(V) > 16) {
     return __builtin_shufflevector(opaque(u), v, picks...);
-  } else if constexpr (joins<picks...>()) {
+  } else if constexpr (sizeof...(picks) < lanes_of<V> || joins<picks...>()) {
     return opaque(__builtin_shufflevector(u, v, picks...));
   } else {
     return __builtin_shufflevector(u, v, picks...);

@@ -83,16 +83,6 @@ class Code : public KernelTest {
   /// On the baseline arithmetic is all packed or all scalar, and signs change by subtraction from zero.
   static bool is_baseline() { return level() == 1; }
 
-  /// Lanes of a kernel that are added for nothing: an operation on half a register clang may compute in the
-  /// whole one and use a half, which takes no instruction more. The number is the greatest that was measured.
-  static int idle_lanes() {
-#ifdef __clang__
-    return is_baseline() ? 0 : 8;
-#else
-    return 0;
-#endif
-  }
-
   /// Registers of binary32 may have idle lanes, those of pairs and some of complex numbers.
   static bool fills_its_lanes() {
     const bool single = kernel().precision == catalogue::Precision::binary32;
@@ -188,10 +178,9 @@ TEST_P(Code, OperationCounts) {
       EXPECT_EQ(count.packed_adds + count.packed_mults, 0) << name;
     }
     if (fills_its_lanes()) {
-      EXPECT_LE(count.added_lanes, form().bodies * (adds + doublings()) + idle_lanes()) << name;
+      EXPECT_LE(count.added_lanes, form().bodies * (adds + doublings())) << name;
       EXPECT_LE(count.multiplied_lanes, form().bodies * mults) << name;
-      EXPECT_LE(count.added_lanes + count.multiplied_lanes, form().bodies * (adds + mults) + idle_lanes())
-          << name;
+      EXPECT_LE(count.added_lanes + count.multiplied_lanes, form().bodies * (adds + mults)) << name;
     }
     if (form().straight) {
       EXPECT_GE(count.multiplied_lanes, scaled_outputs(kernel()))
