@@ -17,7 +17,7 @@ Kernel make_kernel(Design design) {
   return std::move(design.kernel);
 }
 
-Kernel paired(Kernel kernel, int lanes, const Target& target, Pairing& pairing) {
+Kernel paired(Kernel kernel, int lanes, Pairing& pairing) {
   if (kernel.network->width() >= lanes) return kernel;
   const Precision precision = kernel.type.precision;
   Programs programs(Equality::bits);
@@ -29,8 +29,6 @@ Kernel paired(Kernel kernel, int lanes, const Target& target, Pairing& pairing) 
     kernel.network = pairing.run(*kernel.network, kernel.numbering, costs);
   check_same(programs.read(*kernel.network, precision), kernel.name() + " in pairs", program,
              "the single one");
-  // Measured: in 32 registers pairs need no care for how many values are in flight.
-  if (target.registers > 16) kernel.order = Order::earliest_start;
   return kernel;
 }
 

@@ -58,6 +58,6 @@ Kernel make_kernel(Design design);
 
 /// The kernel with its operations in pairs, again and again until its widest values have so many lanes. It
 /// computes the same scalar program; throws if it does not.
-Kernel paired(Kernel kernel, int lanes, const Target& target, Pairing& pairing);
+Kernel paired(Kernel kernel, int lanes, Pairing& pairing);
 
 }  // namespace xfm::gen

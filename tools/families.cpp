@@ -29,8 +29,8 @@ Making complex_of(Direction direction) {
 
 Making real_of(Direction direction, Layout layout) {
   return {documentation(direction, layout),
-          [=](int length, Precision precision, const std::string& tree, const Target& target) {
-            return real::design(length, precision, direction, layout, tree, target);
+          [=](int length, Precision precision, const std::string& tree, const Target&) {
+            return real::design(length, precision, direction, layout, tree);
           }};
 }
 

@@ -11,9 +11,9 @@
 #include "gen/algorithms/rules.h"
 #include "gen/write/emit.h"
 #include "gen/write/files.h"
-#include "tools/lanes.h"
 #include "tools/listing.h"
 #include "tools/many.h"
+#include "tools/measured.h"
 #include "tools/promises.h"
 
 namespace {
@@ -23,10 +23,12 @@ using xfm::Family;
 using xfm::gen::Kernel;
 using xfm::gen::Target;
 
-// A target, and how many lanes its kernels have: those of the table, or as many as possible up to a limit.
+// A target, how many lanes its kernels have, and in which order they compute: as the tables say, or as many
+// lanes as possible up to a limit, and one order for all.
 struct Form {
   const Target& target;
   int lanes = 0;
+  std::string order{};
   xfm::gen::Pairing& pairing;
 };
 
@@ -41,7 +43,8 @@ Kernel made(const Named& what, const std::string& tree, const Form& form) {
   Kernel kernel = what.family->make(what.length, what.type.precision, tree, form.target);
   const int lanes = form.lanes == 0 ? xfm::chosen_lanes(kernel, form.target)
                                     : std::min(form.lanes, xfm::most_lanes(kernel, form.target));
-  return paired(std::move(kernel), lanes, form.target, form.pairing);
+  kernel.order = form.order.empty() ? xfm::chosen_order(kernel, form.target) : xfm::order_of(form.order[0]);
+  return paired(std::move(kernel), lanes, form.pairing);
 }
 
 // Both precisions, on every target with the baseline's bits.
@@ -181,7 +184,7 @@ void write_batches(const std::filesystem::path& out, const Target& target) {
 
 int run(int argc, char** argv) {
   CLI::App app{"Writes the kernels of xfm, or shows what becomes of a table's row."};
-  std::string out, batches, header, frame, tree, target_name{xfm::gen::baseline().name};
+  std::string out, batches, header, frame, tree, order, target_name{xfm::gen::baseline().name};
   std::tuple<std::string, int, std::string> shown, program;
   int lanes = 0;
   bool check = false, list_costs = false, many = false;
@@ -189,6 +192,7 @@ int run(int argc, char** argv) {
   app.add_option("--batches", batches, "Write the generated sources of batches to this folder");
   app.add_option("--target", target_name, "For this target")->capture_default_str();
   app.add_option("--lanes", lanes, "Up to so many lanes wherever possible, instead of those of the table");
+  app.add_option("--order", order, "One order for all, by its letter, instead of those of the table");
   app.add_option("--show", shown, "FAMILY N TYPE: tree, costs, rules and text of one kernel");
   app.add_option("--program", program, "FAMILY N TYPE: the scalar program of one kernel");
   app.add_option("--tree", tree, "With --show and --program: this tree instead of the row's");
@@ -201,7 +205,7 @@ int run(int argc, char** argv) {
 
   const Target& target = xfm::gen::target(target_name);
   xfm::gen::Pairing pairing;
-  const Form form{target, lanes, pairing};
+  const Form form{target, lanes, order, pairing};
   if (!out.empty()) write_all(out, form);
   if (!batches.empty()) write_batches(batches, target);
   if (list_costs) costs(form);

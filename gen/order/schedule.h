@@ -5,20 +5,12 @@
 
 namespace xfm::gen {
 
-/// Measured: windows are best for most packed kernels, up to a tenth faster than the recipe's order alone.
-/// Scalar kernels of linear combinations, which are long chains of conversions, are fastest with everything
-/// as early as possible; for those of plain operations bisection halves the spills of large lengths.
+/// Which one is best for a kernel depends on its target and on the compiler; tools/orders.def has them.
 enum class Order {
   windowed,        ///< the recipe's stages, smoothed by earliest start
   earliest_start,  ///< every operation as soon as possible
   bisection,       ///< few values in flight, whatever the number of registers (bisection.cpp)
 };
-
-/// For scalar networks: plain operations run short of registers, chains of linear combinations wait for each
-/// other.
-inline Order scalar_order(Precision precision) {
-  return precision == Precision::binary64 ? Order::bisection : Order::earliest_start;
-}
 
 /// A node to compute, or (node < 0) a store to make.
 struct Step {

@@ -33,7 +33,6 @@ struct Target {
   std::string_view gcc_flags;      ///< more of them for g++: what suits its registers and no other compiler
   std::string_view vocabulary;     ///< the header that kernels are written in
   int register_bytes;
-  int registers;
   bool unaligned_is_free;                     ///< one body serves aligned and unaligned memory
   std::span<const Permutation> permutations;  ///< the cheapest first
   int batch_register_bytes;                   ///< the widest registers, which only batches use

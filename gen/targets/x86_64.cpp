@@ -21,7 +21,6 @@ Target x86_64() {
       .gcc_flags = "",
       .vocabulary = "src/simd/x86_64.h",
       .register_bytes = 16,
-      .registers = 16,
       .unaligned_is_free = false,
       .permutations = permutations,
       .batch_register_bytes = 16,

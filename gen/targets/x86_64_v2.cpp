@@ -12,7 +12,6 @@ Target x86_64_v2() {
       .gcc_flags = "",
       .vocabulary = "src/simd/x86_64.h",
       .register_bytes = 16,
-      .registers = 16,
       .unaligned_is_free = false,
       .permutations = x86_64().permutations,
       .batch_register_bytes = 16,

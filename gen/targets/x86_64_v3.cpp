@@ -30,7 +30,6 @@ Target x86_64_v3() {
       .gcc_flags = "-fschedule-insns -fsched-pressure",
       .vocabulary = "src/simd/x86_64_v3.h",
       .register_bytes = 32,
-      .registers = 16,
       .unaligned_is_free = true,
       .permutations = permutations,
       .batch_register_bytes = 32,

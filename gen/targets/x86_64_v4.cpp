@@ -15,7 +15,6 @@ Target x86_64_v4() {
       .gcc_flags = "-fschedule-insns -fsched-pressure",
       .vocabulary = "src/simd/x86_64_v3.h",
       .register_bytes = 32,
-      .registers = 32,
       .unaligned_is_free = true,
       .permutations = x86_64_v3().permutations,
       .batch_register_bytes = 64,

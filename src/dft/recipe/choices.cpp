@@ -9,7 +9,6 @@ namespace xfm::dft {
 namespace {
 
 using gen::Five;
-using gen::Order;
 using gen::Precision;
 using gen::Rounding;
 
@@ -61,23 +60,6 @@ constexpr ChosenRoot roots_binary32[] = {
     {53, 53, {8, 11}}, {57, 19, {3, 0}}, {61, 61, {18, 10}},
 };
 
-// Kernels that measurably gain some three percent from another order than the default: large networks spill
-// less in the order of bisection.
-struct ChosenOrder {
-  int length;
-  Precision precision;
-  Order order;
-};
-constexpr ChosenOrder orders[] = {
-    {5, binary32, Order::bisection},       {24, binary32, Order::bisection},
-    {58, binary32, Order::bisection},      {59, binary32, Order::bisection},
-    {16, binary64, Order::earliest_start}, {17, binary64, Order::earliest_start},
-    {43, binary64, Order::bisection},      {46, binary64, Order::bisection},
-    {47, binary64, Order::bisection},      {53, binary64, Order::bisection},
-    {54, binary64, Order::bisection},      {59, binary64, Order::bisection},
-    {61, binary64, Order::bisection},      {62, binary64, Order::bisection},
-};
-
 }  // namespace
 
 gen::Tree Choices::spelled_out(const gen::Tree& tree) const {
@@ -114,12 +96,6 @@ Five Choices::five(bool real, int instance, bool transposed) const {
   });
   if (found != nullptr) return found->form;
   return precision == binary32 ? Five::inner_first : Five::outer_first;
-}
-
-Order Choices::order() const {
-  const auto* const found = gen::find_row(
-      orders, [&](const ChosenOrder& row) { return row.length == length && row.precision == precision; });
-  return found == nullptr ? Order::windowed : found->order;
 }
 
 }  // namespace xfm::dft

@@ -187,8 +187,7 @@ gen::Design design(int length, Precision precision, Direction direction, const s
                      .tree = text,
                      .adds = row.adds,
                      .mults = row.mults,
-                     .network = std::move(network),
-                     .order = choices.order()},
+                     .network = std::move(network)},
           .definition = definition(direction),
           .by_row = tree.empty(),
           .other_form = std::move(other_form)};

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "gen/algorithms/transform.h"
-#include "gen/order/schedule.h"
 
 namespace xfm::dft {
 
@@ -40,7 +39,6 @@ struct Choices {
   gen::Root root(int prime) const;
   gen::Five five(bool real, int instance, bool transposed) const;
   gen::Choices open() const;  ///< both, for the transforms
-  gen::Order order() const;
 };
 
 }  // namespace xfm::dft

@@ -85,8 +85,7 @@ gen::Design design(int length, gen::Precision precision, const std::string& plan
                      .tree = plan.empty() ? of.plan : plan,
                      .adds = of.adds,
                      .mults = of.mults,
-                     .network = gen::bind(*network, {natural, natural}, gen::negated_values(*network)),
-                     .order = gen::scalar_order(precision)},
+                     .network = gen::bind(*network, {natural, natural}, gen::negated_values(*network))},
           .definition = definition,
           .by_row = plan.empty()};
 }

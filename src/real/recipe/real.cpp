@@ -117,7 +117,7 @@ const char* name_of(Layout layout) {
 }
 
 gen::Design design(int length, Precision precision, Direction direction, Layout layout,
-                   const std::string& tree, const gen::Target& target) {
+                   const std::string& tree) {
   const bool forwards = direction == Direction::forward;
   const Breakdown& row = breakdown(direction, length);
   const std::string text = tree.empty() ? row.tree : tree;
@@ -139,7 +139,6 @@ gen::Design design(int length, Precision precision, Direction direction, Layout 
                  .adds = row.adds,
                  .mults = row.mults,
                  .network = gen::bind(draft, binding(direction, layout, length), gen::negated_values(draft)),
-                 .order = order(direction, precision, length, target),
                  .numbering = numbering(direction, layout, length)},
       .definition = definition(direction, layout, length),
       .by_row = tree.empty(),

@@ -16,6 +16,6 @@ const char* name_of(Layout layout);
 
 /// By the length's row, or by another tree.
 gen::Design design(int length, gen::Precision precision, Direction direction, Layout layout,
-                   const std::string& tree, const gen::Target& target);
+                   const std::string& tree);
 
 }  // namespace xfm::real

@@ -117,11 +117,6 @@ constexpr BlockOrder orders[] = {
 };
 // clang-format on
 
-// From these lengths on forward kernels of narrow targets are some percent faster in windows than in the
-// order of other scalar networks, except those of binary64 in the list. Pairs, on wide targets, gain nothing.
-constexpr int shortest_binary32 = 20, shortest_binary64 = 12;
-constexpr int bisected[] = {16, 24, 25, 31, 36, 39, 41, 47, 50, 52, 59, 60, 61, 62};
-
 }  // namespace
 
 const Breakdown& breakdown(Direction direction, int length) {
@@ -138,15 +133,6 @@ const char* tree_of_least_error(Direction direction, int length) {
   const auto* const found = gen::find_row(
       chosen, [&](const ChosenTree& row) { return row.length == length && row.direction == direction; });
   return found == nullptr ? nullptr : found->tree;
-}
-
-gen::Order order(Direction direction, gen::Precision precision, int length, const gen::Target& target) {
-  const bool single = precision == gen::Precision::binary32;
-  const bool listed = gen::find_row(bisected, [&](int row) { return row == length; }) != nullptr;
-  const bool windowed = direction == Direction::forward &&
-                        target.register_bytes == gen::baseline().register_bytes &&
-                        length >= (single ? shortest_binary32 : shortest_binary64) && (single || !listed);
-  return windowed ? gen::Order::windowed : gen::scalar_order(precision);
 }
 
 std::span<const BlockOrder> block_orders() { return orders; }

@@ -4,7 +4,6 @@
 #include <span>
 
 #include "gen/algorithms/tree.h"
-#include "gen/order/schedule.h"
 #include "src/real/recipe/real.h"
 
 namespace xfm::real {
@@ -36,9 +35,6 @@ RaderStage rader_stage(int length);
 /// The tree whose primitive roots and orders of half-length stages have the lowest rounding errors in
 /// binary32, found by trying some hundreds; null where the row's own is as good.
 const char* tree_of_least_error(Direction direction, int length);
-
-/// The order of a kernel's operations, by measurement with both compilers.
-gen::Order order(Direction direction, gen::Precision precision, int length, const gen::Target& target);
 
 /// Inverse kernels of one layout whose direct blocks sum their bins in an order of their own.
 struct BlockOrder {

@@ -1,4 +1,4 @@
-// How many lanes the kernels of a target use: the one table, from measurements.
+// What was measured of the kernels of a target: how many lanes and which order of operations suit them best.
 #pragma once
 
 #include "gen/kernel.h"
@@ -12,5 +12,11 @@ int most_lanes(const gen::Kernel& kernel, const gen::Target& target);
 
 /// The lanes that the table has for a kernel; those that its recipe gave it where there is no row.
 int chosen_lanes(const gen::Kernel& kernel, const gen::Target& target);
+
+/// The order that the table has for a kernel; the baseline's where there is no row.
+gen::Order chosen_order(const gen::Kernel& kernel, const gen::Target& target);
+
+/// An order by its letter in the table; throws if there is none.
+gen::Order order_of(char letter);
 
 }  // namespace xfm
