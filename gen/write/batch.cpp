@@ -55,7 +55,8 @@ class BatchBody {
         network_(*kernel.network),
         lanes_(target.lanes_of_batch(kernel.type.precision, kernel.type.complex)),
         in_{"x", kernel.numbering.inputs, false, kernel.length},
-        out_{"y", kernel.numbering.outputs, kernel.type.complex, kernel.length} {
+        out_{"y", kernel.numbering.outputs, kernel.type.complex, kernel.length},
+        constants_(kernel) {
     const int inner_bytes = lanes_ * bytes(Precision::binary64);
     if (single() && inner_bytes > target.batch_register_bytes)
       parts_ = inner_bytes / target.batch_register_bytes;
@@ -66,9 +67,10 @@ class BatchBody {
     std::string lines;
     for (const Step& step : schedule(network_, Order::bisection))
       lines += step.node >= 0 ? compute(step.node) : store(network_.stores()[step.store]);
-    return fmt::format("  using V = {};\n", ValueType{kernel_.type.precision, lanes_}.name()) + constants() +
-           "  const V s = broadcast<V>(factor);\n" + inner_factor_ + in_.declared() + out_.declared() +
-           "  for (; groups > 0; --groups) {\n" + lines + in_.advanced() + out_.advanced() + "  }\n";
+    return fmt::format("  using V = {};\n", ValueType{kernel_.type.precision, lanes_}.name()) +
+           constants_.definitions() + "  const V s = broadcast<V>(factor);\n" + inner_factor_ +
+           in_.declared() + out_.declared() + "  for (; groups > 0; --groups) {\n" + lines + in_.advanced() +
+           out_.advanced() + "  }\n";
   }
 
  private:
@@ -79,24 +81,6 @@ class BatchBody {
   int parts(NodeId id) const { return network_.inner(id) ? parts_ : 1; }
   std::string var(NodeId id, int part = 0) const {
     return parts(id) == 1 ? fmt::format("v{}", id) : fmt::format("v{}_{}", id, part);
-  }
-
-  Precision constant_precision() const {
-    return network_.rounding() == Rounding::combination ? Precision::binary64 : kernel_.type.precision;
-  }
-  std::string constants() const {
-    std::string text;
-    for (const Constant& c : constants_) {
-      text += fmt::format("  constexpr {} {} = {};  // {:.17g}\n",
-                          constant_precision() == Precision::binary32 ? "xfm32f" : "xfm64f", named(c),
-                          literal(c.value, constant_precision()), static_cast<double>(c.value));
-    }
-    return text;
-  }
-  static std::string named(const Constant& c) { return "c_" + identifier(c.name); }
-  std::string use(const Constant& c) {
-    constants_.insert(magnitude(c));
-    return (c.is_negative() ? "-" : "") + named(magnitude(c));
   }
 
   std::string compute(NodeId id) {
@@ -121,7 +105,7 @@ class BatchBody {
       case Op::sub:
         return fmt::format("{} - {}", in(0), in(1));
       case Op::mul:
-        return fmt::format("{} * {}", use(node.constants[0]), in(0));
+        return fmt::format("{} * {}", constants_.use(node.constants[0]), in(0));
       case Op::factor:
         return fmt::format("{} * {}", factor(id), in(0));
       case Op::twice:
@@ -172,7 +156,7 @@ class BatchBody {
   const Network& network_;
   int lanes_, parts_ = 1;
   Places in_, out_;
-  std::set<Constant> constants_;
+  NamedConstants constants_;
   std::string inner_factor_;
   std::set<int> loaded_;                // complex numbers
   std::map<int, std::string> waiting_;  // stored parts of complex numbers

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <set>
 #include <stdexcept>
 
 #include "gen/network/check.h"
@@ -31,6 +30,10 @@ ValueType value_type(const Kernel& kernel) { return type_of(kernel.type.precisio
 /// broadcast.
 ValueType factor_type(const Kernel& kernel, const Target& target) {
   return !target.unaligned_is_free ? value_type(kernel) : ValueType{kernel.type.precision, 1};
+}
+
+std::string named(const std::string& name) {
+  return std::isdigit(static_cast<unsigned char>(name[0])) != 0 ? "c" + identifier(name) : identifier(name);
 }
 
 /// Whether these scalars come in couples, side by side in memory; behind the last one lanes are idle.
@@ -60,14 +63,14 @@ bool contiguous(std::span<const int> scalars) {
 class Body {
  public:
   Body(const Kernel& kernel, const Target& target, SharedConstants& shared)
-      : kernel_(kernel), network_(*kernel.network), target_(target), shared_(shared) {}
+      : kernel_(kernel), network_(*kernel.network), target_(target), constants_(kernel), shared_(shared) {}
 
   std::string text() {
     std::string lines;
     for (const Step& step : schedule(network_, kernel_.order)) {
       lines += step.node >= 0 ? compute(step.node) : store(network_.stores()[step.store]);
     }
-    return constants() + factors() + lines;
+    return constants_.definitions() + factors() + lines;
   }
 
   // The shared registers that text() uses, to be declared in front of the body.
@@ -80,33 +83,6 @@ class Body {
   }
 
  private:
-  // Linear combinations carry binary64 constants whatever the kernel's precision.
-  Precision constant_precision() const {
-    return network_.rounding() == Rounding::combination ? Precision::binary64 : kernel_.type.precision;
-  }
-
-  std::string constants() const {
-    std::string text;
-    for (const Constant& c : constants_) {
-      text += fmt::format("  constexpr {} {} = {};  // {:.17g}\n",
-                          constant_precision() == Precision::binary32 ? "xfm32f" : "xfm64f", named(c.name),
-                          literal(c.value, constant_precision()), static_cast<double>(c.value));
-    }
-    return text;
-  }
-
-  static std::string named(const std::string& name) {
-    return std::isdigit(static_cast<unsigned char>(name[0])) != 0 ? "c" + identifier(name) : identifier(name);
-  }
-
-  // Constants appear by name, with their sign in front; 0 and 1 as they are.
-  std::string use(const Constant& c) {
-    if (c.is_zero() && c.name != "0") return "-0.0F";
-    if (is_trivial(c)) return fmt::format("{}", static_cast<int>(c.value));
-    constants_.insert(magnitude(c));
-    return (c.is_negative() ? "-" : "") + named(magnitude(c).name);
-  }
-
   static std::string var(NodeId id) { return fmt::format("v{}", id); }
 
   ValueType type(NodeId id) const {
@@ -186,14 +162,14 @@ class Body {
   }
 
   std::string multiplier(const Node& node, const ValueType& type) {
-    if (type.scalar()) return use(node.constants[0]);
+    if (type.scalar()) return constants_.use(node.constants[0]);
     if (node.constants.size() == 1) {
       std::string name = shared_.use(node.constants[0], type);
       registers_.try_emplace(name, type.name());
       return name;
     }
     std::vector<std::string> multipliers;
-    for (const Constant& c : node.constants) multipliers.push_back(use(c));
+    for (const Constant& c : node.constants) multipliers.push_back(constants_.use(c));
     multipliers.resize(static_cast<std::size_t>(type.lanes), "0");
     return fmt::format("{}{{{}}}", type.name(), fmt::join(multipliers, ", "));
   }
@@ -220,7 +196,7 @@ class Body {
       if (!sum.empty()) sum += negative ? " - " : " + ";
       if (sum.empty() && negative) sum = "-";
       const std::string operand = fmt::format("xfm64f{{{}}}", var(term.node));
-      sum += c.is_one() ? operand : fmt::format("{} * {}", use(c), operand);
+      sum += c.is_one() ? operand : fmt::format("{} * {}", constants_.use(c), operand);
     }
     if (scales(node.finish)) sum = fmt::format("xfm64f{{s}} * ({})", sum);
     if (node.finish == Finish::negated) sum = "0 - " + sum;
@@ -292,7 +268,7 @@ class Body {
   const Kernel& kernel_;
   const Network& network_;
   const Target& target_;
-  std::set<Constant> constants_;
+  NamedConstants constants_;
   std::map<std::string, std::string> registers_;  // with their types
   std::set<std::string> factors_;                 // by type
   SharedConstants& shared_;
@@ -371,6 +347,26 @@ std::string literal(Wide value, Precision precision) {
 std::string ValueType::name() const {
   const int bits = precision == Precision::binary32 ? 32 : 64;
   return scalar() ? fmt::format("xfm{}f", bits) : fmt::format("f{}x{}", bits, lanes);
+}
+
+NamedConstants::NamedConstants(const Kernel& kernel)
+    : precision_(kernel.network->rounding() == Rounding::combination ? Precision::binary64
+                                                                     : kernel.type.precision) {}
+
+std::string NamedConstants::use(const Constant& c) {
+  if (c.is_zero() && c.name != "0") return "-0.0F";
+  if (is_trivial(c)) return fmt::format("{}", static_cast<int>(c.value));
+  used_.insert(magnitude(c));
+  return (c.is_negative() ? "-" : "") + named(magnitude(c).name);
+}
+
+std::string NamedConstants::definitions() const {
+  std::string text;
+  for (const Constant& c : used_) {
+    text += fmt::format("  constexpr {} {} = {};  // {:.17g}\n", ValueType{precision_, 1}.name(),
+                        named(c.name), literal(c.value, precision_), static_cast<double>(c.value));
+  }
+  return text;
 }
 
 std::string SharedConstants::use(const Constant& c, const ValueType& type) {

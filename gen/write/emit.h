@@ -2,6 +2,7 @@
 #pragma once
 
 #include <map>
+#include <set>
 #include <span>
 #include <string>
 
@@ -18,6 +19,21 @@ struct ValueType {
   bool scalar() const { return lanes == 1; }
   bool wide() const { return lanes * bytes(precision) > 16; }  ///< than the registers that all targets have
   std::string name() const;
+};
+
+/// The constants of a body as scalars.
+class NamedConstants {
+ public:
+  explicit NamedConstants(const Kernel& kernel);
+
+  /// The constant's name, with its sign in front; 0 and 1 as they are. From now on it is among the
+  /// definitions.
+  std::string use(const Constant& c);
+  std::string definitions() const;
+
+ private:
+  Precision precision_;  ///< linear combinations carry binary64 constants whatever the kernel's precision
+  std::set<Constant> used_;
 };
 
 /// Registers of replicated constants, by name, one for all kernels of the library. They have a translation
