@@ -13,14 +13,11 @@ target_compile_options(xfm_options INTERFACE
 # scalar, so the vectorisers are off. The target's flags override the caller's.
 function(xfm_add_kernel_options name target)
   xfm_target_field(${target} compile_flags flags)
-  xfm_target_field(${target} gcc_flags gcc_flags)
   xfm_target_field(${target} vocabulary vocabulary)
   separate_arguments(flags)
-  separate_arguments(gcc_flags)
   add_library(${name} INTERFACE)
   target_compile_options(${name} INTERFACE
     -ffp-contract=off -fno-fast-math -fno-tree-vectorize -fno-tree-slp-vectorize ${flags} -fvisibility=hidden
-    "$<$<CXX_COMPILER_ID:GNU>:${gcc_flags}>"
     -falign-functions=64  # a cache line: where they start costs the shortest kernels a cycle in ten
     $<$<CXX_COMPILER_ID:GNU>:-fno-reorder-blocks-and-partition>  # a kernel is one piece, with its entry tests
     $<$<CXX_COMPILER_ID:GNU>:-fno-lra-remat>)  # nothing is computed again to save a register
