@@ -60,6 +60,27 @@ struct ScatterWide {
   }
 };
 
+// ---- N = 16: four residues, two classes.
+
+/// For elements of which a group has two.
+template <class T>
+void transform_16_wide(const T* src, T* dst) {
+  constexpr int length = 16, r = 4, m = length / r, classes = m / 2;
+  using V = Groups<T, r / group_size<T>>;
+  using Pair = Groups<T, 1>;
+  Complex<V> z[classes];
+  fold<V, m>(SideBySide<V, r>{src}, ToArray<V>{z});
+  z[0] = twisted<length, 0, 0>(z[0]);  // twists are the same with class and residue exchanged
+  z[1] = twisted<length, 0, 1>(z[1]);
+  const Complex<V> even{permute_in_each<0, 2>(z[0].re, z[1].re), permute_in_each<0, 2>(z[0].im, z[1].im)};
+  const Complex<V> odd{permute_in_each<1, 3>(z[0].re, z[1].re), permute_in_each<1, 3>(z[0].im, z[1].im)};
+  const Complex<Pair> w[r] = {{low_half(even.re), low_half(even.im)},
+                              {low_half(odd.re), low_half(odd.im)},
+                              {high_half(even.re), high_half(even.im)},
+                              {high_half(odd.re), high_half(odd.im)}};
+  expand<Pair, r>(w, ScatterWide<Pair, m, 0>{dst});
+}
+
 // ---- N = 32: two residues, eight classes.
 
 /// The k-th 128 bits of the pairs of residues, which the low lanes of registers hold, one for each class.

@@ -36,7 +36,10 @@ xfmStatus run(const T* src, T* dst, const Dct4Plan<T>& root) {
       transform<T, 8, 2>(src, dst);
       return xfmStsOk;
     case 4:
-      transform<T, 16, 4>(src, dst);
+      if constexpr (widest > 1 && group_size<T> == 2)
+        transform_16_wide(src, dst);
+      else
+        transform<T, 16, 4>(src, dst);
       return xfmStsOk;
     case 5:
       if constexpr (widest > 1)
