@@ -20,6 +20,7 @@ function(xfm_add_kernel_options name target)
     -ffp-contract=off -fno-fast-math -fno-tree-vectorize -fno-tree-slp-vectorize ${flags} -fvisibility=hidden
     -falign-functions=64  # a cache line: where they start costs the shortest kernels a cycle in ten
     $<$<CXX_COMPILER_ID:GNU>:-fno-reorder-blocks-and-partition>  # a kernel is one piece, with its entry tests
+    $<$<CXX_COMPILER_ID:GNU>:-fno-ipa-icf>  # equal kernels stay apart, without a jump
     $<$<CXX_COMPILER_ID:GNU>:-fno-lra-remat>)  # nothing is computed again to save a register
   target_compile_definitions(${name} INTERFACE XFM_VOCABULARY="${vocabulary}")  # what src/simd/simd.h includes
 endfunction()

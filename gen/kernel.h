@@ -37,7 +37,8 @@ struct Kernel {
   Order order = Order::windowed;
   Numbering numbering{};  ///< of its scalar program
 
-  std::string name() const { return "xfm" + family + "_" + std::to_string(length) + "_" + type.suffix(); }
+  std::string short_name() const { return family + "_" + std::to_string(length) + "_" + type.suffix(); }
+  std::string name() const { return "xfm" + short_name(); }
   bool packed() const { return network->width() > 1; }
 };
 

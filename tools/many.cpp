@@ -51,7 +51,6 @@ std::string signature(const Family& family, const ElementType& type) {
 std::string name_of(const std::string& family, int length, const ElementType& type) {
   return fmt::format("{}_{}_{}", family, length, type.suffix());
 }
-std::string name_of(const Kernel& kernel) { return name_of(kernel.family, kernel.length, kernel.type); }
 
 // Where an element of this number is; elements in natural order have no numbers.
 int place_of(int number, const PerLane& numbers) {
@@ -98,7 +97,7 @@ class Bodies {
       const auto found = known_.find(key(kernel, reversed_outputs(kernel)));
       if (found != known_.end()) return {found->second, true};
     }
-    return {known_.try_emplace(key(kernel, kernel.numbering), name_of(kernel)).first->second};
+    return {known_.try_emplace(key(kernel, kernel.numbering), kernel.short_name()).first->second};
   }
 
  private:
@@ -113,12 +112,11 @@ class Bodies {
 };
 
 std::string row(const Kernel& kernel, const Owner& owner) {
-  const std::string name = name_of(kernel), type = kernel.type.name();
+  const std::string name = kernel.short_name(), type = kernel.type.name();
   return fmt::format(
       "extern const Row<{0}> row_{1};\n"
-      "constinit const Row<{0}> row_{1} = {{{2}::body, {1}::factors_{3}, {4},\n    {5}, {6}}};\n\n",
-      type, name, owner.name, kernel.type.suffix(), kernel.name(),
-      places(kernel, kernel.read, kernel.numbering.inputs, false, {}),
+      "constinit const Row<{0}> row_{1} = {{{2}::body, {1}::factors_{1}, {3},\n    {4}, {5}}};\n\n",
+      type, name, owner.name, kernel.name(), places(kernel, kernel.read, kernel.numbering.inputs, false, {}),
       places(kernel, kernel.written, kernel.numbering.outputs, owner.reversed, stored_zeros(kernel)));
 }
 
@@ -239,8 +237,8 @@ std::string batches_of_length(int length, const gen::Target& target) {
     for (const ElementType& type : family.types()) {
       const Kernel kernel = gen::batch_kernel(family.make(length, type.precision));
       const Owner owner = bodies.owner(kernel);
-      text += fmt::format("namespace {} {{\n{}", name_of(kernel), gen::factors(kernel, 1));
-      if (owner.name == name_of(kernel)) text += emit_batch_body(kernel, target);
+      text += fmt::format("namespace {} {{\n{}", kernel.short_name(), gen::factors(kernel, 1));
+      if (owner.name == kernel.short_name()) text += emit_batch_body(kernel, target);
       text += "}\n" + row(kernel, owner);
     }
   }

@@ -58,9 +58,8 @@ std::vector<Kernel> kernels_of(const Family& family, int length, const Form& for
   return kernels;
 }
 
-// One file for each family and length: a changed row recompiles that file and no other. The loop is by
-// length, so that the kernels of all families can be compared. What is the same for all targets is written
-// with the baseline's.
+// One file for each length: a changed row recompiles that file and no other. What is the same for all targets
+// is written with the baseline's.
 void write_all(const std::filesystem::path& out, const Form& form) {
   const Target& target = form.target;
   const auto write = [&](const std::string& name, const std::string& text) {
@@ -82,10 +81,10 @@ void write_all(const std::filesystem::path& out, const Form& form) {
       }
       std::vector<Kernel> of_family = kernels_of(*family, length, form);
       for (const Kernel& kernel : of_family) family_rows += xfm::listed(*family, kernel, target);
-      write(fmt::format("{}_{}.cpp", family->name, length), emit_file(of_family, target, shared));
       std::ranges::move(of_family, std::back_inserter(kernels));
     }
     xfm::check_promises(kernels);
+    if (!kernels.empty()) write(fmt::format("kernels_{}.cpp", length), emit_file(kernels, target, shared));
   }
   xfm::Listed all_rows;
   for (const Family& family : families()) all_rows += rows[family.name];
@@ -184,13 +183,15 @@ void write_batches(const std::filesystem::path& out, const Target& target) {
 
 int run(int argc, char** argv) {
   CLI::App app{"Writes the kernels of xfm, or shows what becomes of a table's row."};
-  std::string out, batches, header, frame, tree, order, target_name{xfm::gen::baseline().name};
+  std::string out, batches, header, frame, tree, order;
+  std::vector<std::string> target_names{std::string(xfm::gen::baseline().name)};
   std::tuple<std::string, int, std::string> shown, program;
   int lanes = 0;
   bool check = false, list_costs = false, many = false;
-  app.add_option("--out", out, "Write all generated sources to this folder");
-  app.add_option("--batches", batches, "Write the generated sources of batches to this folder");
-  app.add_option("--target", target_name, "For this target")->capture_default_str();
+  app.add_option("--out", out, "Write all generated sources below this folder, in those of the targets");
+  app.add_option("--batches", batches, "Write the generated sources of batches, likewise");
+  app.add_option("--target", target_names, "For these targets; kernels that they share are searched once")
+      ->capture_default_str();
   app.add_option("--lanes", lanes, "Up to so many lanes wherever possible, instead of those of the table");
   app.add_option("--order", order, "One order for all, by its letter, instead of those of the table");
   app.add_option("--show", shown, "FAMILY N TYPE: tree, costs, rules and text of one kernel");
@@ -203,14 +204,16 @@ int run(int argc, char** argv) {
   app.add_flag("--check", check, "With --header: only compare");
   CLI11_PARSE(app, argc, argv);
 
-  const Target& target = xfm::gen::target(target_name);
   xfm::gen::Pairing pairing;
-  const Form form{target, lanes, order, pairing};
-  if (!out.empty()) write_all(out, form);
-  if (!batches.empty()) write_batches(batches, target);
+  for (const std::string& name : target_names) {
+    const Target& target = xfm::gen::target(name);
+    if (!out.empty()) write_all(out / std::filesystem::path(target.folder), {target, lanes, order, pairing});
+    if (!batches.empty()) write_batches(batches / std::filesystem::path(target.folder), target);
+  }
+  const Form form{xfm::gen::target(target_names.front()), lanes, order, pairing};
   if (list_costs) costs(form);
   if (!std::get<0>(shown).empty()) show(named(shown), tree, form);
-  if (!std::get<0>(program).empty()) show_program(named(program), tree, target);
+  if (!std::get<0>(program).empty()) show_program(named(program), tree, form.target);
   if (header.empty()) return 0;
   const std::string text = xfm::gen::read_file(frame);
   return write_header(header, many ? xfm::header_of_batches(text) : xfm::public_header(text), check);

@@ -289,7 +289,7 @@ std::string heading(const Kernel& kernel) {
 }
 
 std::string entry_text(const Kernel& kernel, const ValueType& factor_type) {
-  const std::string factor = "factors_" + kernel.type.suffix() + ".of(flag)";
+  const std::string factor = "factors_" + kernel.short_name() + ".of(flag)";
   return fmt::format(
       "  if (const xfmStatus status = check(src, dst, flag); status != xfmStsOk) return status;\n"
       "  const {0} s = {1};\n"
@@ -309,13 +309,13 @@ std::string emit_kernel(const Kernel& kernel, const Target& target, SharedConsta
                            factors(kernel, factor_type(kernel, target).lanes) + "}\n" + body.declarations() +
                            "\n";
   if (!kernel.packed() || target.unaligned_is_free) return head + signature(kernel, kernel.name()) + inner;
-  const std::string suffix = kernel.type.suffix(), variant = kernel.name() + "_unaligned";
-  return head + "template <class Memory>\nXFM_BODY " + signature(kernel, "body_" + suffix) + inner +
+  const std::string name = kernel.short_name(), variant = kernel.name() + "_unaligned";
+  return head + "template <class Memory>\nXFM_BODY " + signature(kernel, "body_" + name) + inner +
          "extern \"C\" XFM_UNALIGNED_VARIANT " + signature(kernel, variant) +
-         fmt::format(" {{\n  return body_{}<Unaligned>(src, dst, flag);\n}}\n\n", suffix) +
+         fmt::format(" {{\n  return body_{}<Unaligned>(src, dst, flag);\n}}\n\n", name) +
          signature(kernel, kernel.name()) +
          fmt::format(" {{\n  if (!aligned(src, dst)) return {}(src, dst, flag);\n", variant) +
-         fmt::format("  return body_{}<Aligned>(src, dst, flag);\n}}\n\n", suffix);
+         fmt::format("  return body_{}<Aligned>(src, dst, flag);\n}}\n\n", name);
 }
 
 }  // namespace
@@ -335,7 +335,7 @@ std::string factors(const Kernel& kernel, int lanes) {
       precision == Precision::binary32 ? 1 / wide_sqrt(n) : Wide(1 / std::sqrt(static_cast<double>(n)));
   const auto carried = [&](bool carries) { return literal(carries ? 1 / n : Wide(1), precision); };
   return fmt::format("constexpr Factors<{}, {}> factors_{}({}, {}, {});\n", kernel.type.scalar(), lanes,
-                     kernel.type.suffix(), carried(kernel.scaling != Scaling::inverse),
+                     kernel.short_name(), carried(kernel.scaling != Scaling::inverse),
                      carried(kernel.scaling != Scaling::forward), literal(by_root, precision));
 }
 

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # usage: rebuild.sh SOURCE FOLDER CMAKE_OPTION...
 # In a copy of the source tree: a second build compiles nothing, and a changed row of the complex table recompiles the
-# kernels of its length, one file a direction, and no other kernel.
+# kernels of its length, one file, and no other kernel.
 set -euo pipefail
 source=$1 place=$2
 shift 2
@@ -24,7 +24,7 @@ cmake -S "$place/source" -B "$place/build" -D CMAKE_BUILD_TYPE=Release \
   -D XFM_TARGETS=x86-64 -D XFM_TESTS=OFF -D XFM_BENCH=OFF -D XFM_EXAMPLES=OFF "$@" >/dev/null
 
 build
-[ "$(compiled | grep -c '^DFT')" -gt 10 ] || fail "the first build compiles no kernels"
+[ "$(compiled | grep -c '^kernels_')" -gt 10 ] || fail "the first build compiles no kernels"
 build
 [ -z "$(compiled)" ] || fail "a build without a change compiles: $(compiled)"
 
@@ -33,6 +33,5 @@ table=$place/source/src/dft/recipe/table.cpp
 sed -i '/^ *{20, *{"PFA(4,5)"/s/PFA(4,5)/PFA(5,4)/' "$table"
 ! cmp -s "$table" "$source/src/dft/recipe/table.cpp" || fail "the row of length 20 was not found"
 build
-expected=$(cd "$place/build/generated" && ls DFT*_CToC_20.cpp)
 kernels=$(compiled | grep -v '^table.cpp$' || true)
-[ "$kernels" = "$expected" ] || fail "a changed row of length 20 recompiles: $kernels"
+[ "$kernels" = kernels_20.cpp ] || fail "a changed row of length 20 recompiles: $kernels"
