@@ -30,6 +30,7 @@ struct Target {
   std::string_view name;           ///< as compilers call it: "x86-64"
   std::string_view folder;         ///< where the loader looks for the library, below the baseline's folder
   std::string_view compile_flags;  ///< make a compiler use these instructions and no others
+  std::string_view gcc_flags;      ///< more of them for the kernels, which gain by them with g++
   std::string_view vocabulary;     ///< the header that kernels are written in
   int register_bytes;
   bool unaligned_is_free;                     ///< one body serves aligned and unaligned memory

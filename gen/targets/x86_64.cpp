@@ -18,6 +18,7 @@ Target x86_64() {
       .name = "x86-64",
       .folder = "",
       .compile_flags = "-march=x86-64 -mtune=generic -mfpmath=sse -mno-sse3 -mno-popcnt -mno-lzcnt -mno-bmi -mno-bmi2 -mno-movbe -mno-tbm",
+      .gcc_flags = "",
       .vocabulary = "src/simd/x86_64.h",
       .register_bytes = 16,
       .unaligned_is_free = false,

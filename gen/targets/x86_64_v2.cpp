@@ -9,6 +9,7 @@ Target x86_64_v2() {
       .name = "x86-64-v2",
       .folder = "glibc-hwcaps/x86-64-v2",
       .compile_flags = "-march=x86-64-v2 -mtune=generic -mfpmath=sse -mno-avx",
+      .gcc_flags = "",
       .vocabulary = "src/simd/x86_64.h",
       .register_bytes = 16,
       .unaligned_is_free = false,

@@ -27,6 +27,7 @@ Target x86_64_v3() {
       .name = "x86-64-v3",
       .folder = "glibc-hwcaps/x86-64-v3",
       .compile_flags = "-march=x86-64-v3 -mtune=generic -mfpmath=sse -mno-avx512f",
+      .gcc_flags = "-fschedule-insns -fsched-pressure",
       .vocabulary = "src/simd/x86_64_v3.h",
       .register_bytes = 32,
       .unaligned_is_free = true,

@@ -12,6 +12,7 @@ Target x86_64_v4() {
       .name = "x86-64-v4",
       .folder = "glibc-hwcaps/x86-64-v4",
       .compile_flags = "-march=x86-64-v4 -mtune=generic -mfpmath=sse -mprefer-vector-width=256",
+      .gcc_flags = "-fschedule-insns -fsched-pressure",
       .vocabulary = "src/simd/x86_64_v3.h",
       .register_bytes = 32,
       .unaligned_is_free = true,
