@@ -123,10 +123,10 @@ static inline auto permute(V u, V v) {
   }
 }
 
-/// Lane l by itself.
+/// Lane l by itself. Of operations on lanes alone clang would make one on the registers.
 template <int l, class V>
 static inline Element<V> lane(V v) {
-  return opaque(v)[l];
+  return opaque(opaque(v)[l]);
 }
 
 /// A value in the low lanes of a wider register.
