@@ -31,6 +31,7 @@ endfunction()
 # xfm_choose_targets(): makes of the option XFM_TARGETS
 #   XFM_TARGET_NAMES       the targets to build for, the baseline first
 #   XFM_SUFFIX_<target>    of its CMake targets: "" for the baseline, then "_v3"
+#   XFM_NATIVE             the best target of this machine
 # By default everything that the compiler can compile for, but the baseline alone in a project that embeds xfm.
 function(xfm_choose_targets)
   set(default x86-64)
@@ -61,5 +62,6 @@ function(xfm_choose_targets)
     set(XFM_SUFFIX_${target} "${suffix}" PARENT_SCOPE)
   endforeach()
   set(XFM_TARGET_NAMES ${names} PARENT_SCOPE)
+  set(XFM_NATIVE ${native} PARENT_SCOPE)
   message(STATUS "Targets: ${names}")
 endfunction()
