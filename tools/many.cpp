@@ -112,12 +112,17 @@ class Bodies {
 };
 
 std::string row(const Kernel& kernel, const Owner& owner) {
+  const bool in_loop = kernel.length <= longest_in_loop;
   const std::string name = kernel.short_name(), type = kernel.type.name();
-  return fmt::format(
-      "extern const Row<{0}> row_{1};\n"
-      "constinit const Row<{0}> row_{1} = {{{2}::body, {1}::factors_{1}, {3},\n    {4}, {5}}};\n\n",
-      type, name, owner.name, kernel.name(), places(kernel, kernel.read, kernel.numbering.inputs, false, {}),
-      places(kernel, kernel.written, kernel.numbering.outputs, owner.reversed, stored_zeros(kernel)));
+  const std::string one_by_one =
+      in_loop ? "one_by_one_" + name : fmt::format("single_calls<{}, {}>", type, kernel.name());
+  return (in_loop ? fmt::format("extern OneByOne {};\n", one_by_one) : "") +
+         fmt::format(
+             "extern const Row<{0}> row_{1};\n"
+             "constinit const Row<{0}> row_{1} = {{{2}::body, {1}::factors_{1}, {3},\n    {4}, {5}}};\n\n",
+             type, name, owner.name, one_by_one,
+             places(kernel, kernel.read, kernel.numbering.inputs, false, {}),
+             places(kernel, kernel.written, kernel.numbering.outputs, owner.reversed, stored_zeros(kernel)));
 }
 
 }  // namespace

@@ -24,4 +24,8 @@ std::string catalogue_of_batches();
 /// program share one body.
 std::string batches_of_length(int length, const gen::Target& target);
 
+/// Up to this length a batch that goes one by one has the kernel in a loop of its own: of the shortest a call
+/// takes a good part of the time.
+inline constexpr int longest_in_loop = 16;
+
 }  // namespace xfm

@@ -65,7 +65,8 @@ void write_all(const std::filesystem::path& out, const Form& form) {
   const auto write = [&](const std::string& name, const std::string& text) {
     xfm::gen::write_if_changed(out / name, text);
   };
-  xfm::gen::SharedConstants shared;
+  xfm::gen::SharedConstants shared("xfm"), shared_by_loops("xfm_many");
+  std::vector<Kernel> in_loops;
   std::map<std::string, xfm::Listed> rows;  // of each family
   std::map<int, std::vector<const Family*>> by_length;
   for (const Family& family : families()) {
@@ -85,10 +86,13 @@ void write_all(const std::filesystem::path& out, const Form& form) {
     }
     xfm::check_promises(kernels);
     if (!kernels.empty()) write(fmt::format("kernels_{}.cpp", length), emit_file(kernels, target, shared));
+    if (length <= xfm::longest_in_loop) std::ranges::move(kernels, std::back_inserter(in_loops));
   }
   xfm::Listed all_rows;
   for (const Family& family : families()) all_rows += rows[family.name];
   write("constants.cpp", shared.definitions(target));
+  write("loops.cpp", emit_loops(in_loops, target, shared_by_loops));
+  write("constants_of_loops.cpp", shared_by_loops.definitions(target));
   write("forms.cpp", xfm::catalogue_of_forms(target, all_rows.form));
   if (target.name != xfm::gen::baseline().name) return;
   write("catalogue.cpp", xfm::catalogue(all_rows.kernel));
@@ -138,7 +142,7 @@ void show(const Named& what, const std::string& tree, const Form& form) {
       counts.stores);
   std::set<std::string_view> shown;
   show_rules(parsed, shown);
-  xfm::gen::SharedConstants shared;
+  xfm::gen::SharedConstants shared("xfm");
   fmt::print("\n{}", emit_file({&kernel, 1}, form.target, shared));
 }
 

@@ -318,6 +318,31 @@ std::string emit_kernel(const Kernel& kernel, const Target& target, SharedConsta
          fmt::format("  return body_{}<Aligned>(src, dst, flag);\n}}\n\n", name);
 }
 
+std::string emit_loop(const Kernel& kernel, const Target& target, SharedConstants& shared) {
+  Body body(kernel, target, shared);
+  const ValueType type = factor_type(kernel, target);
+  const std::string name = kernel.short_name(), scalar = kernel.type.scalar(),
+                    factor = fmt::format("*factors_{}.of(flag)", name), lines = body.text();
+  return "namespace {\n" + factors(kernel, 1) + "}\n" + body.declarations() +
+         fmt::format(
+             "\nvoid one_by_one_{0}(std::uintptr_t src, std::uintptr_t src_distance, std::uintptr_t dst,\n"
+             "    std::uintptr_t dst_distance, std::int64_t count, std::int32_t flag) {{\n"
+             "  const {1} s = {2};\n"
+             "  for (; count > 0; --count, src += src_distance, dst += dst_distance) {{\n"
+             "  const auto* const x = reinterpret_cast<const {3}*>(src);\n"
+             "  auto* const y = reinterpret_cast<{3}*>(dst);\n{4}  }}\n}}\n\n",
+             name, type.name(),
+             type.scalar() ? factor : fmt::format("broadcast<{}>({})", type.name(), factor), scalar, lines);
+}
+
+// What a translation unit of such kernels begins with.
+std::string includes(std::span<const Kernel> kernels, const Target& target) {
+  const bool any_packed =
+      std::any_of(kernels.begin(), kernels.end(), [](const Kernel& k) { return k.packed(); });
+  return fmt::format("{}#include \"src/frame/contract.h\"\n{}\n", written_by_xfmgen,
+                     any_packed ? fmt::format("#include \"{}\"\n", target.vocabulary) : "");
+}
+
 }  // namespace
 
 std::string identifier(const std::string& name) {
@@ -370,7 +395,7 @@ std::string NamedConstants::definitions() const {
 }
 
 std::string SharedConstants::use(const Constant& c, const ValueType& type) {
-  std::string name = fmt::format("xfm_{}_{}", type.name(), identifier(c.name));
+  std::string name = fmt::format("{}_{}_{}", library_, type.name(), identifier(c.name));
   const std::vector<std::string> copies(static_cast<std::size_t>(type.lanes),
                                         literal(c.value, type.precision));
   const std::string definition =
@@ -389,13 +414,16 @@ std::string SharedConstants::definitions(const Target& target) const {
 }
 
 std::string emit_file(std::span<const Kernel> kernels, const Target& target, SharedConstants& shared) {
-  std::string text = fmt::format("{}#include \"src/frame/contract.h\"\n", written_by_xfmgen);
-  if (std::any_of(kernels.begin(), kernels.end(), [](const Kernel& k) { return k.packed(); })) {
-    text += fmt::format("#include \"{}\"\n", target.vocabulary);
-  }
-  text += "\nusing namespace xfm;\n\n";
+  std::string text = includes(kernels, target) + "using namespace xfm;\n\n";
   for (const Kernel& kernel : kernels) text += emit_kernel(kernel, target, shared);
   return text;
+}
+
+std::string emit_loops(std::span<const Kernel> kernels, const Target& target, SharedConstants& shared) {
+  std::string text = includes(kernels, target) + "namespace xfm::many {\n\n";
+  if (!target.unaligned_is_free) text += "using Memory = Unaligned;  // a second loop would gain little\n\n";
+  for (const Kernel& kernel : kernels) text += emit_loop(kernel, target, shared);
+  return text + "}  // namespace xfm::many\n";
 }
 
 }  // namespace xfm::gen

@@ -36,10 +36,13 @@ class NamedConstants {
   std::set<Constant> used_;
 };
 
-/// Registers of replicated constants, by name, one for all kernels of the library. They have a translation
-/// unit of their own, because a compiler that saw their values would build them from scalars at every use.
+/// Registers of replicated constants, by name, one for all kernels of the library, whose name theirs begin
+/// with. They have a translation unit of their own, because a compiler that saw their values would build them
+/// from scalars at every use.
 class SharedConstants {
  public:
+  explicit SharedConstants(std::string library) : library_(std::move(library)) {}
+
   /// The register's name; from now on the register is among the definitions.
   std::string use(const Constant& c, const ValueType& type);
 
@@ -47,11 +50,15 @@ class SharedConstants {
   std::string definitions(const Target& target) const;
 
  private:
+  std::string library_;
   std::map<std::string, std::string> definitions_;
 };
 
 /// One translation unit with these kernels.
 std::string emit_file(std::span<const Kernel> kernels, const Target& target, SharedConstants& shared);
+
+/// One with the bodies of these kernels in loops over transforms, for batches: one_by_one_KERNEL.
+std::string emit_loops(std::span<const Kernel> kernels, const Target& target, SharedConstants& shared);
 
 /// The definition of a kernel's factors, each repeated for so many lanes.
 std::string factors(const Kernel& kernel, int lanes);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 
 #include "src/frame/contract.h"
 
@@ -19,10 +20,25 @@ struct Side {
 using Input = Side<const char>;
 using Output = Side<char>;
 
+/// An address as a number: strides may lead anywhere, and what is not accessed need not exist.
+using Address = std::uintptr_t;
+
 /// Computes groups of transforms, as many in a group as there are lanes. Loads all of a group before it
 /// stores any.
 template <class T>
 using Body = void(const Input& in, const Output& out, std::ptrdiff_t groups, T factor);
+
+/// Computes contiguous transforms one after the other. Distances are in bytes.
+using OneByOne = void(Address src, Address src_distance, Address dst, Address dst_distance,
+                      std::int64_t count, std::int32_t flag);
+
+/// By single calls.
+template <class E, xfmStatus (*single)(const E*, E*, std::int32_t)>
+void single_calls(Address src, Address src_distance, Address dst, Address dst_distance, std::int64_t count,
+                  std::int32_t flag) {
+  for (; count > 0; --count, src += src_distance, dst += dst_distance)
+    single(reinterpret_cast<const E*>(src), reinterpret_cast<E*>(dst), flag);
+}
 
 /// The elements of one transform in memory. Spectra are numbered as in the CCS layout, whatever the layout
 /// is.
@@ -54,7 +70,7 @@ template <class E>
 struct Row {
   Body<Scalar<E>>* body;
   const Factors<Scalar<E>, 1>& factors;
-  xfmStatus (*single)(const E* src, E* dst, std::int32_t flag);
+  OneByOne* one_by_one;
   Places in, out;
 };
 

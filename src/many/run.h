@@ -15,17 +15,18 @@ struct Array {
   std::int64_t stride, distance;
 
   Address transform(std::int64_t t) const {
-    return reinterpret_cast<Address>(data) +
-           static_cast<Address>(t) * static_cast<Address>(distance) * sizeof(E);
+    return reinterpret_cast<Address>(data) + static_cast<Address>(t) * between();
   }
+  /// From a transform to the next, in bytes.
+  Address between() const { return static_cast<Address>(distance) * sizeof(E); }
   /// From an element to the next, in bytes.
   Address step() const { return static_cast<Address>(stride) * sizeof(E); }
   /// Whether the elements of neighbouring transforms are neighbours, as they are in lanes.
   bool in_lanes() const { return distance == 1; }
 };
 
-/// A row, and where single calls win: up to so many contiguous transforms are faster one by one, and from the
-/// number of lanes on all are.
+/// A row, and where the kernels of single calls win: up to so many contiguous transforms are faster one by
+/// one, and from the number of lanes on all are.
 template <class E>
 struct Choice {
   const Row<E>* row;
@@ -44,7 +45,8 @@ class Batch {
     const std::int64_t whole = all_single ? 0 : count / lanes * lanes, left = count - whole;
     if (whole > 0) groups(whole / lanes);
     if (all_single || (contiguous && left <= singles_)) {
-      for (std::int64_t t = whole; t < count; ++t) single(t);
+      row_.one_by_one(src_.transform(whole), src_.between(), dst_.transform(whole), dst_.between(), left,
+                      flag_);
     } else if (left > 0) {
       pass(whole, 1, static_cast<int>(left));
     }
@@ -55,11 +57,6 @@ class Batch {
   using Lanes = Transposition<E, lanes>;
   static constexpr int most_elements = 66;  ///< of a transform
   static constexpr int area_bytes = most_elements * Lanes::pitch;
-
-  void single(std::int64_t t) const {
-    row_.single(reinterpret_cast<const E*>(src_.transform(t)), reinterpret_cast<E*>(dst_.transform(t)),
-                flag_);
-  }
 
   // As many at a time as there is room for.
   void groups(std::int64_t count) const {

@@ -1,4 +1,4 @@
-// Where batches make single calls.
+// Where batches go one by one.
 #pragma once
 
 #include <string_view>
@@ -14,17 +14,13 @@ inline constexpr Singles all_singles[] = {
 #undef SINGLES
 };
 
-#ifdef XFM_NO_SINGLES  // to compare them
-inline constexpr bool use_singles = false;
-#else
-inline constexpr bool use_singles = true;
-#endif
-
 /// How many contiguous transforms a batch computes one by one at most, at length number `row` of a family; as
 /// many as there are lanes, or more: all of them.
 constexpr int singles(std::string_view target, std::string_view family, std::string_view type,
                       std::size_t row) {
-  if (!use_singles) return 0;
+#ifdef XFM_SINGLES  // to compare them
+  return XFM_SINGLES;
+#endif
   for (const Singles& of : all_singles) {
     if (of.target == target && of.family == family && of.type == type) return of.digits.at(row) - '0';
   }

@@ -8,9 +8,6 @@
 
 namespace xfm::many {
 
-/// An address as a number: strides may lead anywhere, and what is not accessed need not exist.
-using Address = std::uintptr_t;
-
 /// Between transforms and lanes, of elements of type E.
 template <class E, int lanes>
 class Transposition {

@@ -47,7 +47,7 @@ TEST(EmitFile, IsRepeatable) {
   for (const Family& family : families()) {
     if (family.by_hand()) continue;
     for (const int length : {family.lowest, (family.lowest + family.highest) / 2}) {
-      SharedConstants first, second;
+      SharedConstants first("xfm"), second("xfm");
       ASSERT_EQ(emit_file(kernels_of(family, length), baseline(), first),
                 emit_file(kernels_of(family, length), baseline(), second));
       ASSERT_EQ(first.definitions(baseline()), second.definitions(baseline()));
@@ -59,7 +59,7 @@ TEST(EmitFile, NamesTheRowAndTheCosts) {
   for (const Family& family : families()) {
     if (family.by_hand()) continue;
     const std::vector<Kernel> kernels = kernels_of(family, family.highest);
-    SharedConstants shared;
+    SharedConstants shared("xfm");
     const std::string text = emit_file(kernels, baseline(), shared);
     for (const Kernel& kernel : kernels) {
       const std::string row =
@@ -73,7 +73,7 @@ TEST(EmitFile, NamesTheRowAndTheCosts) {
 
 TEST(SharedConstants, OneNameHasOneValue) {
   constexpr ValueType narrow{Precision::binary32, 4}, wide{Precision::binary64, 2};
-  SharedConstants shared;
+  SharedConstants shared("xfm");
   const std::string name = shared.use(constant("c", 3), wide);
   EXPECT_EQ(shared.use(constant("c", 3), wide), name);
   EXPECT_NE(shared.use(constant("c", 3), narrow), name)
