@@ -119,9 +119,10 @@ std::string row(const Kernel& kernel, const Owner& owner) {
   return (in_loop ? fmt::format("extern OneByOne {};\n", one_by_one) : "") +
          fmt::format(
              "extern const Row<{0}> row_{1};\n"
-             "constinit const Row<{0}> row_{1} = {{{2}::body, {1}::factors_{1}, {3},\n    {4}, {5}}};\n\n",
-             type, name, owner.name, one_by_one,
-             places(kernel, kernel.read, kernel.numbering.inputs, false, {}),
+             "constinit const Row<{0}> row_{1} = {{{2}::body, {3}, {1}::factors_{1},\n    {4}, {5}, "
+             "{6}}};\n\n",
+             type, name, owner.name, has_contiguous_body(kernel.type) ? name + "::contiguous" : "nullptr",
+             one_by_one, places(kernel, kernel.read, kernel.numbering.inputs, false, {}),
              places(kernel, kernel.written, kernel.numbering.outputs, owner.reversed, stored_zeros(kernel)));
 }
 
@@ -244,6 +245,7 @@ std::string batches_of_length(int length, const gen::Target& target) {
       const Owner owner = bodies.owner(kernel);
       text += fmt::format("namespace {} {{\n{}", kernel.short_name(), gen::factors(kernel, 1));
       if (owner.name == kernel.short_name()) text += emit_batch_body(kernel, target);
+      if (has_contiguous_body(type)) text += emit_contiguous_body(kernel, target);
       text += "}\n" + row(kernel, owner);
     }
   }

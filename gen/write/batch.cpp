@@ -50,9 +50,10 @@ struct Places {
 // The body of a batch kernel, line by line.
 class BatchBody {
  public:
-  BatchBody(const Kernel& kernel, const Target& target)
+  BatchBody(const Kernel& kernel, const Target& target, bool contiguous)
       : kernel_(kernel),
         network_(*kernel.network),
+        contiguous_(contiguous),
         lanes_(target.lanes_of_batch(kernel.type.precision, kernel.type.complex)),
         in_{"x", kernel.numbering.inputs, false, kernel.length},
         out_{"y", kernel.numbering.outputs, kernel.type.complex, kernel.length},
@@ -67,10 +68,13 @@ class BatchBody {
     std::string lines;
     for (const Step& step : schedule(network_, Order::bisection))
       lines += step.node >= 0 ? compute(step.node) : store(network_.stores()[step.store]);
+    const std::string before = contiguous_ ? "  Contiguous<V> x(src, src_distance), y(dst, dst_distance);\n"
+                                           : in_.declared() + out_.declared(),
+                      behind = contiguous_ ? "    x.advance();\n    y.advance();\n"
+                                           : in_.advanced() + out_.advanced();
     return fmt::format("  using V = {};\n", ValueType{kernel_.type.precision, lanes_}.name()) +
-           constants_.definitions() + "  const V s = broadcast<V>(factor);\n" + inner_factor_ +
-           in_.declared() + out_.declared() + "  for (; groups > 0; --groups) {\n" + lines + in_.advanced() +
-           out_.advanced() + "  }\n";
+           constants_.definitions() + "  const V s = broadcast<V>(factor);\n" + inner_factor_ + before +
+           "  for (; groups > 0; --groups) {\n" + lines + behind + "  }\n";
   }
 
  private:
@@ -135,8 +139,9 @@ class BatchBody {
     std::string text;
     const int k = place / 2;
     if (loaded_.insert(k).second)
-      text = fmt::format("    const V a{0} = load<V>({1}), b{0} = load<V>({1} + sizeof(V));\n", k,
-                         in_.address(k));
+      text = contiguous_ ? fmt::format("    const V a{0} = x.load<0>({0}), b{0} = x.load<1>({0});\n", k)
+                         : fmt::format("    const V a{0} = load<V>({1}), b{0} = load<V>({1} + sizeof(V));\n",
+                                       k, in_.address(k));
     return text + fmt::format("    const V {} = {}(a{}, b{});\n", var(id),
                               place % 2 == 0 ? "real_parts" : "imaginary_parts", k, k);
   }
@@ -148,12 +153,15 @@ class BatchBody {
     if (!kernel_.type.complex) return fmt::format("    store({}, {});\n", out_.address(place), v);
     const auto [other, first] = waiting_.try_emplace(place / 2, v);
     if (first) return "";
-    return fmt::format("    store_complex({}, {}, {});\n", out_.address(place / 2),
+    return fmt::format("    {} {}, {});\n",
+                       contiguous_ ? fmt::format("y.store({},", place / 2)
+                                   : fmt::format("store_complex({},", out_.address(place / 2)),
                        place % 2 == 0 ? v : other->second, place % 2 == 0 ? other->second : v);
   }
 
   const Kernel& kernel_;
   const Network& network_;
+  bool contiguous_;
   int lanes_, parts_ = 1;
   Places in_, out_;
   NamedConstants constants_;
@@ -175,12 +183,23 @@ Kernel batch_kernel(Kernel kernel) {
 }
 
 std::string emit_batch_body(const Kernel& kernel, const Target& target) {
-  const std::string of = kernel.type.scalar();
   return fmt::format(
              "static void body(const Input& x_side, const Output& y_side, std::ptrdiff_t groups, {} factor) "
              "{{\n",
-             of) +
-         BatchBody(kernel, target).text() + "}\n";
+             kernel.type.scalar()) +
+         BatchBody(kernel, target, false).text() + "}\n";
+}
+
+bool has_contiguous_body(const ElementType& type) {
+  return type.complex && type.precision == Precision::binary32;
+}
+
+std::string emit_contiguous_body(const Kernel& kernel, const Target& target) {
+  return fmt::format(
+             "static void contiguous(Address src, Address src_distance, Address dst, Address dst_distance,\n"
+             "    std::ptrdiff_t groups, {} factor) {{\n",
+             kernel.type.scalar()) +
+         BatchBody(kernel, target, true).text() + "}\n";
 }
 
 }  // namespace xfm::gen

@@ -28,6 +28,11 @@ using Address = std::uintptr_t;
 template <class T>
 using Body = void(const Input& in, const Output& out, std::ptrdiff_t groups, T factor);
 
+/// The same of contiguous transforms. Distances are in bytes.
+template <class T>
+using ContiguousBody = void(Address src, Address src_distance, Address dst, Address dst_distance,
+                            std::ptrdiff_t groups, T factor);
+
 /// Computes contiguous transforms one after the other. Distances are in bytes.
 using OneByOne = void(Address src, Address src_distance, Address dst, Address dst_distance,
                       std::int64_t count, std::int32_t flag);
@@ -69,6 +74,7 @@ using Scalar = typename ScalarOf<E>::Type;
 template <class E>
 struct Row {
   Body<Scalar<E>>* body;
+  ContiguousBody<Scalar<E>>* contiguous;  ///< or null
   const Factors<Scalar<E>, 1>& factors;
   OneByOne* one_by_one;
   Places in, out;

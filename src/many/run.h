@@ -43,7 +43,12 @@ class Batch {
     const bool contiguous = src_.stride == 1 && dst_.stride == 1;
     const bool all_single = contiguous && singles_ >= lanes;
     const std::int64_t whole = all_single ? 0 : count / lanes * lanes, left = count - whole;
-    if (whole > 0) groups(whole / lanes);
+    if (whole > 0 && contiguous && row_.contiguous != nullptr) {
+      row_.contiguous(src_.transform(0), src_.between(), dst_.transform(0), dst_.between(), whole / lanes,
+                      *row_.factors.of(flag_));
+    } else if (whole > 0) {
+      groups(whole / lanes);
+    }
     if (all_single || (contiguous && left <= singles_)) {
       row_.one_by_one(src_.transform(whole), src_.between(), dst_.transform(whole), dst_.between(), left,
                       flag_);

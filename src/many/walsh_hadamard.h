@@ -44,6 +44,7 @@ xfmStatus single(const T* src, T* dst, std::int32_t flag) {
 
 template <class T, int lanes, int order>
 inline constexpr Row<T> row = {body<T, lanes, order>,
+                               nullptr,
                                factors<T, order>,
                                single_calls<T, single<T, order>>,
                                {1 << order, 2, 0, 1, {-1, -1}},
