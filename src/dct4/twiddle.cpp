@@ -134,7 +134,7 @@ class TwistWriter {
   void write_group(std::int32_t group, std::int32_t place) const {
     const auto [divisor, other] = same_[place];
     const std::int32_t t = order_[static_cast<std::size_t>(place)];
-    const std::int32_t reach = (1 << 21) / (2 * radix_ * static_cast<std::int32_t>(sizeof(T)));
+    const std::int32_t reach = (1 << 23) / (2 * radix_ * static_cast<std::int32_t>(sizeof(T)));
     T* const pair = at(group, place);
     for (std::int32_t lane = 0; lane < l; ++lane) {
       const std::int32_t q = group + lane, later = (divisor * (2 * q + 1) - 1) / 2;
