@@ -102,11 +102,20 @@ std::string text(const Form& form, const std::string& name) {
 }  // namespace
 
 std::string public_header(const std::string& frame) {
-  std::string text;
-  for (const Family& family : families()) text += declarations(family) + "\n";
+  std::string lengths, declared;
+  for (const Family& family : families()) {
+    declared += declarations(family) + "\n";
+    // Families that the generator designs have the same lengths.
+    const char* const name = family.by_hand() ? family.name.c_str() : "DFT";
+    const char* const what = family.by_hand() ? "ORDER" : "LENGTH";
+    const std::string defined = fmt::format("#define XFM_{0}_MIN_{1} {2}\n#define XFM_{0}_MAX_{1} {3}\n",
+                                            name, what, family.lowest, family.highest);
+    if (lengths.find(defined) == std::string::npos) lengths += defined;
+  }
   std::string header = frame;
-  const std::string mark = "@FAMILIES@\n";
-  return header.replace(header.find(mark), mark.size(), text);
+  for (const auto& [mark, text] : {std::pair{"@LENGTHS@\n", lengths}, std::pair{"@FAMILIES@\n", declared}})
+    header.replace(header.find(mark), std::string_view(mark).size(), text);
+  return header;
 }
 
 std::string export_map() {
