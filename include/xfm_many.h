@@ -17,8 +17,8 @@
  * - distance 1: lanes are loaded and stored as they are in memory, such as the columns of a matrix in rows;
  * - stride 1: contiguous transforms, such as the rows, are transposed in registers;
  * - anything else is moved element by element.
- * Each of src and dst takes its own. Where transforms on both sides are contiguous, and single calls are faster at a
- * length, a batch makes single calls.
+ * Each of src and dst takes its own. Where transforms on both sides are contiguous, a batch computes them one by one at
+ * lengths at which that is faster.
  *
  * In place means the same pointer, strides and distances, and gives the same bits. Between src and dst there must be no
  * other overlap. Alignment is as for single calls: any that the element type has.
