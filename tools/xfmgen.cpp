@@ -12,6 +12,7 @@
 #include "gen/write/emit.h"
 #include "gen/write/files.h"
 #include "tools/listing.h"
+#include "tools/lookup.h"
 #include "tools/many.h"
 #include "tools/measured.h"
 #include "tools/promises.h"
@@ -191,7 +192,7 @@ int run(int argc, char** argv) {
   std::vector<std::string> target_names{std::string(xfm::gen::baseline().name)};
   std::tuple<std::string, int, std::string> shown, program;
   int lanes = 0;
-  bool check = false, list_costs = false, many = false;
+  bool check = false, list_costs = false, many = false, lookup = false;
   app.add_option("--out", out, "Write all generated sources below this folder, in those of the targets");
   app.add_option("--batches", batches, "Write the generated sources of batches, likewise");
   app.add_option("--target", target_names, "For these targets; kernels that they share are searched once")
@@ -204,7 +205,8 @@ int run(int argc, char** argv) {
   app.add_flag("--costs", list_costs, "Every kernel's cost beside its row");
   app.add_option("--header", header, "Write the public header");
   app.add_option("--frame", frame, "With --header: its hand-written frame");
-  app.add_flag("--many", many, "With --header: that of batches");
+  CLI::Option* const of_batches = app.add_flag("--many", many, "With --header: that of batches");
+  app.add_flag("--lookup", lookup, "With --header: that of the lookup")->excludes(of_batches);
   app.add_flag("--check", check, "With --header: only compare");
   CLI11_PARSE(app, argc, argv);
 
@@ -220,7 +222,8 @@ int run(int argc, char** argv) {
   if (!std::get<0>(program).empty()) show_program(named(program), tree, form.target);
   if (header.empty()) return 0;
   const std::string text = xfm::gen::read_file(frame);
-  return write_header(header, many ? xfm::header_of_batches(text) : xfm::public_header(text), check);
+  const auto written = many ? xfm::header_of_batches : lookup ? xfm::header_of_lookup : xfm::public_header;
+  return write_header(header, written(text), check);
 }
 
 }  // namespace
