@@ -1,0 +1,27 @@
+# The binary interface of each library is compatible with the stored one, and the comparison notices if one is not.
+find_program(XFM_ABIDIFF abidiff)
+mark_as_advanced(XFM_ABIDIFF)
+if(NOT XFM_ABIDIFF)
+  message(STATUS "No abidiff: no tests of the binary interface")
+  return()
+endif()
+
+set(compare ${PROJECT_SOURCE_DIR}/scripts/abi)
+foreach(library xfm xfmmany xfmcore)
+  add_test(NAME package.abi.${library} COMMAND ${compare} $<TARGET_FILE:${library}>)
+endforeach()
+
+# xfm_compare_edited(NAME LIBRARY EXPRESSION REPORT): the header, edited by this expression of sed, is reported so.
+function(xfm_compare_edited name library expression report)
+  add_test(NAME package.abi.${name} COMMAND ${compare} --edit ${expression} $<TARGET_FILE:${library}>)
+  set_tests_properties(package.abi.${name} PROPERTIES PASS_REGULAR_EXPRESSION "${report}")
+endfunction()
+set(against "lib(xfm|xfmmany|xfmcore): INCOMPATIBLE")
+xfm_compare_edited(removed xfm "/ xfmHartley_7_32f(/d" "xfmHartley_7_32f[^a-z]*${against}")
+xfm_compare_edited(renamed xfm "s/ xfmHartley_7_32f(/ xfmHartley_7_f32(/" "xfmHartley_7_32f[^a-z]*${against}")
+xfm_compare_edited(argument xfm "/ xfmHartley_7_32f(/s/int32_t flag/int64_t flag/" "parameter 3 .* to 64.*${against}")
+xfm_compare_edited(result xfmcore "s/^int ownGetFeature/long ownGetFeature/" "return type changed.*${against}")
+xfm_compare_edited(batch xfmmany "s/int64_t count/int32_t count/" "from 64 to 32.*${against}")
+xfm_compare_edited(layout xfm "s/xfm32f re, im/xfm32f im, re/" "re' offset changed.*${against}")
+xfm_compare_edited(constant xfm "s/xfmStsBadSize = -6/xfmStsBadSize = -7/" "from value '-6' to '-7'.*${against}")
+xfm_compare_edited(added_constant xfm "s/XFM_SCALE_NONE = 8/&, XFM_SCALE_NEW = 16/" "libxfm: compatible")
