@@ -24,6 +24,7 @@
 
 #include "xfm.h"
 
+/** @cond */
 /* In C every file has its own copy. In C++ inline functions may call these, so they must be the same in every file;
  * hidden, so that a library which includes this header does not export them. */
 #ifdef __cplusplus
@@ -34,23 +35,25 @@ extern "C" {
 #define XFM_LOOKUP_INLINE static inline
 #define XFM_LOOKUP_NONE NULL
 #endif
+/** @endcond */
 #if defined(__GNUC__)
 #pragma GCC visibility push(hidden)
 #endif
 
 /** @name Kernels
- * A function for one length: source, destination and scale flag.
+ * Functions for one length. Those of the Walsh-Hadamard transform have a work buffer besides.
  * @{ */
+/** Complex transforms, binary32. */
 typedef xfmStatus (*xfmKernel_32fc)(const xfm32fc* src, xfm32fc* dst, int32_t flag);
+/** Complex transforms, binary64. */
 typedef xfmStatus (*xfmKernel_64fc)(const xfm64fc* src, xfm64fc* dst, int32_t flag);
+/** Real and Hartley transforms, binary32. */
 typedef xfmStatus (*xfmKernel_32f)(const xfm32f* src, xfm32f* dst, int32_t flag);
+/** Real and Hartley transforms, binary64. */
 typedef xfmStatus (*xfmKernel_64f)(const xfm64f* src, xfm64f* dst, int32_t flag);
-/** @} */
-
-/** @name Walsh-Hadamard kernels
- * They have a work buffer besides.
- * @{ */
+/** Walsh-Hadamard transforms, binary32. */
 typedef xfmStatus (*xfmKernelWHT_32f)(const xfm32f* src, xfm32f* dst, int32_t flag, void* buffer);
+/** Walsh-Hadamard transforms, binary64. */
 typedef xfmStatus (*xfmKernelWHT_64f)(const xfm64f* src, xfm64f* dst, int32_t flag, void* buffer);
 /** @} */
 
