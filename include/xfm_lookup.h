@@ -9,9 +9,9 @@
  *     if (transform == NULL) return unserved(length);
  *     for (i = 0; i < count; ++i) transform(frames[i], frames[i], XFM_SCALE_NONE);
  *
- * The pointer is that of the function in xfm.h, so all that is said there of the family holds. A program that asks for
- * a variable length is linked with all kernels of that family and type: where the length is known, name the function
- * itself.
+ * The pointer is that of the function in xfm.h, so all that is said there of the family holds. As with a generic
+ * function, a program with a static library is linked with the kernels of all lengths if it asks for a variable one:
+ * where the length is known, name the function itself.
  *
  * Everything here is in this header; libxfm exports none of it. A function that is not called leaves nothing in the
  * program. All functions may be called from any number of threads at once.
