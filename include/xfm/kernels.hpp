@@ -122,11 +122,18 @@ auto address(T* data) noexcept {
   }
 }
 
-/// Calls the kernel of a length, whose status is of no interest: types have excluded what could be wrong.
+/// The same function of a type that does not throw. C cannot say so, and noexcept callers need no way out
+/// then.
+template <class... Parameters>
+auto nothrow(xfmStatus (*function)(Parameters...)) noexcept {
+  return reinterpret_cast<xfmStatus (*)(Parameters...) noexcept>(function);
+}
+
+/// Calls the kernel of a length. Types have excluded all errors, so the status is of no interest.
 template <class Family, std::size_t N, class In, class Out, class... More>
 void run(const In* in, Out* out, scale factor, More... more) noexcept {
-  static_cast<void>(kernel<Family, std::remove_const_t<In>, N>(address(in), address(out),
-                                                               static_cast<std::int32_t>(factor), more...));
+  static_cast<void>(
+      nothrow(kernel<Family, In, N>)(address(in), address(out), static_cast<std::int32_t>(factor), more...));
 }
 
 /// Calls the function that takes the length as an argument. It refuses a length that is not served.
@@ -134,9 +141,8 @@ template <class Family, class In, class Out, class... More>
 status run(const In* in, Out* out, std::size_t length, scale factor, More... more) noexcept {
   if (length > XFM_DFT_MAX_LENGTH)
     return status::bad_size;  // before it is narrowed; orders are shorter still
-  return static_cast<status>(
-      generic<Family, std::remove_const_t<In>>(address(in), address(out), static_cast<std::int32_t>(length),
-                                               static_cast<std::int32_t>(factor), more...));
+  return static_cast<status>(generic<Family, In>(address(in), address(out), static_cast<std::int32_t>(length),
+                                                 static_cast<std::int32_t>(factor), more...));
 }
 
 /// A span whose extent follows from the length in angle brackets, never from the argument.

@@ -17,9 +17,10 @@ namespace xfm {
 /// w[n] = sin(pi/2N * (n + 1/2)) in a span of 2N elements: xfm::sine_window<float>(window);
 template <sample T>
 void sine_window(std::span<std::type_identity_t<T>> window) noexcept {
-  const auto size = static_cast<double>(window.size());
-  for (std::size_t n = 0; n < window.size(); ++n)
-    window[n] = static_cast<T>(std::sin(std::numbers::pi * (static_cast<double>(n) + 0.5) / size));
+  const std::size_t size = window.size();
+  const double step = std::numbers::pi / static_cast<double>(size);
+  for (std::size_t n = 0; n < size / 2; ++n)
+    window[n] = window[size - 1 - n] = static_cast<T>(std::sin(step * (static_cast<double>(n) + 0.5)));
 }
 
 namespace detail {
