@@ -16,6 +16,7 @@
 #include "bench/build.h"
 #include "bench/dct4.h"
 #include "bench/many.h"
+#include "bench/plot.h"
 #include "bench/race.h"
 #include "bench/report.h"
 #include "bench/rivals.h"
@@ -33,6 +34,7 @@ struct Options {
   int rounds = 1000;
   std::string json;
   std::string markdown;
+  std::string plot;
   bool list = false;
   bool many = false, alone = false;
   Placement placement;
@@ -54,13 +56,15 @@ void define(CLI::App& app, Options& options) {
   app.add_option("--json", options.json, "Also write all figures to FILE, as JSON")->type_name("FILE");
   app.add_option("--markdown", options.markdown, "Also write the ratios to FILE, as Markdown")
       ->type_name("FILE");
+  app.add_option("--plot", options.plot, "Also draw the ratios of each family into FOLDER, as SVG and PNG")
+      ->type_name("FOLDER");
   app.add_flag("--list", options.list, "List the kernels without measuring them");
   auto* const many =
       app.add_flag("--many", options.many,
                    "Race batches instead, beside FFTW's and single calls, for two counts and both roads "
                    "to memory");
   app.add_flag("--alone", options.alone, "With --many: beside single calls only")->needs(many);
-  for (const char* option : {"--target", "--against", "--json", "--markdown"})
+  for (const char* option : {"--target", "--against", "--json", "--markdown", "--plot"})
     many->excludes(app.get_option(option));
   app.add_flag("--unaligned", options.placement.unaligned,
                "Start the arrays one real scalar past an aligned address");
@@ -142,6 +146,7 @@ void measure(const Options& options) {
     throw std::runtime_error("refusing to measure: " + reason);
   if (options.many) return race_batches(kernels, {options.rounds, options.alone});
   const File json = opened(options.json), markdown = opened(options.markdown);
+  if (!options.plot.empty()) prepare_plots(options.plot);
   const Builds builds = loaded_builds(chosen_target(options.target), options.against);
   const std::string rival = builds.other.empty() ? rival_version() : "libxfm, " + options.against;
   const Conditions conditions{this_build(*builds.target), rival, options.placement, options.rounds, load()};
@@ -152,6 +157,7 @@ void measure(const Options& options) {
   print_summary(groups);
   if (json) write_json(json.get(), conditions, groups);
   if (markdown) write_markdown(markdown.get(), conditions, groups);
+  if (!options.plot.empty()) draw_plots(options.plot, conditions, groups);
 }
 
 }  // namespace
