@@ -1,5 +1,6 @@
 // A round trip of a sound through the MDCT: a lossy codec without its bit stream.
 #include <algorithm>
+#include <bit>
 #include <cmath>
 #include <cstdio>
 #include <exception>
@@ -14,11 +15,11 @@
 #include <fmt/format.h>
 #include <CLI/CLI.hpp>
 
-#include "lapped.h"
 #include "sound/about.h"
 #include "sound/audio.h"
 #include "sound/progress.h"
 #include "sound/wav.h"
+#include "xfm.hpp"
 
 namespace {
 
@@ -36,15 +37,14 @@ class Quantiser {
  public:
   explicit Quantiser(double step) : step_(static_cast<float>(step)) {}
 
-  std::vector<float> operator()(std::vector<float> coefficients) {
-    if (step_ == 0) return coefficients;
+  void operator()(std::span<float> coefficients) {
+    if (step_ == 0) return;
     for (float& value : coefficients) {
       const float level = std::nearbyint(value / step_);
       ++levels_[level];
       ++count_;
       value = level * step_;
     }
-    return coefficients;
   }
 
   /// Entropy of the levels, each coded by itself.
@@ -79,29 +79,43 @@ struct Powers {
 
 using Signals = std::vector<std::vector<float>>;
 
+void check_length(int length) {
+  constexpr int longest = 1 << 16;
+  if (length < 4 || length > longest || !std::has_single_bit(static_cast<unsigned>(length)))
+    throw std::runtime_error(fmt::format("length {} is not a power of two from 4 to {}", length, longest));
+}
+
+/// The sine window, and a factor that makes the transform orthogonal: rounding coefficients then makes as
+/// much noise as rounding samples does.
+xfm::mdct<float> transform_of(std::size_t length) {
+  std::vector<float> window(2 * length);
+  xfm::sine_window<float>(window);
+  return xfm::check(xfm::mdct<float>(window, xfm::scale::by_sqrt_n));
+}
+
 /// All channels, block by block.
 class RoundTrip {
  public:
-  RoundTrip(Audio& from, Wav& to, Dct4& transform, double step)
+  RoundTrip(Audio& from, Wav& to, int length, double step)
       : from_(from),
         to_(to),
         quantise_(step),
-        lapped_(static_cast<std::size_t>(from.channels()), Lapped(transform)),
-        block_(lapped_.size(), std::vector<float>(transform.length())),
-        before_(block_),
-        copy_(block_) {}
+        length_(static_cast<std::size_t>(length)),
+        frames_(static_cast<std::size_t>(from.channels()), std::vector<float>(2 * length_)),
+        copies_(frames_.size(), std::vector<float>(length_)) {
+    while (transforms_.size() < frames_.size()) transforms_.push_back(transform_of(length_));
+  }
 
   // The output is one block behind the input, so a block of silence follows the last one.
   void run(Progress& progress) {
-    std::size_t before = read(before_);
-    pass(before_);
+    std::size_t before = read();
+    pass();
     for (double done = 0; before > 0;) {
-      const std::size_t got = read(block_);
-      pass(block_);
+      const std::size_t got = read();
+      pass();
       write(before);
       done += static_cast<double>(before) / from_.rate();
       progress(done);
-      before_.swap(block_);
       before = got;
     }
     to_.close();
@@ -111,27 +125,32 @@ class RoundTrip {
   const Quantiser& quantiser() const { return quantise_; }
 
  private:
-  /// Silence follows the end of the sound.
-  std::size_t read(Signals& signals) {
-    const std::vector<std::span<float>> channels(signals.begin(), signals.end());
-    const std::size_t got = from_.read(channels);
-    for (auto& signal : signals)
-      std::fill(signal.begin() + static_cast<std::ptrdiff_t>(got), signal.end(), 0.0F);
-    return got;
+  /// The newer half of each frame becomes the older one. Silence precedes the sound, and follows it.
+  std::size_t read() {
+    std::vector<std::span<float>> blocks;
+    for (auto& frame : frames_) {
+      const auto newer = frame.begin() + static_cast<std::ptrdiff_t>(length_);
+      std::copy(newer, frame.end(), frame.begin());
+      std::fill(newer, frame.end(), 0.0F);
+      blocks.emplace_back(newer, frame.end());
+    }
+    return from_.read(blocks);
   }
 
-  void pass(const Signals& signals) {
-    for (std::size_t c = 0; c < signals.size(); ++c) {
-      auto coefficients = quantise_(lapped_[c].analyse(signals[c]));
-      lapped_[c].synthesise(coefficients, copy_[c]);
+  void pass() {
+    for (std::size_t c = 0; c < frames_.size(); ++c) {
+      xfm::check(transforms_[c].forward(frames_[c], copies_[c]));
+      quantise_(copies_[c]);
+      xfm::check(transforms_[c].inverse(copies_[c], copies_[c]));
     }
   }
 
+  /// The older halves of the frames are the originals of what is finished.
   void write(std::size_t samples) {
     std::vector<std::span<const float>> channels;
-    for (std::size_t c = 0; c < copy_.size(); ++c) {
-      for (std::size_t i = 0; i < samples; ++i) powers_.add(before_[c][i], copy_[c][i]);
-      channels.emplace_back(std::span(copy_[c]).first(samples));
+    for (std::size_t c = 0; c < copies_.size(); ++c) {
+      for (std::size_t i = 0; i < samples; ++i) powers_.add(frames_[c][i], copies_[c][i]);
+      channels.emplace_back(std::span(copies_[c]).first(samples));
     }
     to_.write(channels);
   }
@@ -139,20 +158,21 @@ class RoundTrip {
   Audio& from_;
   Wav& to_;
   Quantiser quantise_;
-  std::vector<Lapped> lapped_;
-  Signals block_, before_, copy_;
+  std::size_t length_;
+  std::vector<xfm::mdct<float>> transforms_;
+  Signals frames_, copies_;
   Powers powers_;
 };
 
 void run(const Options& options) {
   if (!(options.step >= 0)) throw std::runtime_error("the step must not be negative");
-  Dct4 transform(options.length);
+  check_length(options.length);
   Audio from = about(options.sound, [&] { return Audio(options.sound); });
   std::error_code nothing_there;
   if (std::filesystem::equivalent(options.sound, options.output, nothing_there))
     throw std::runtime_error(options.output + ": is the input file");
   Wav to = about(options.output, [&] { return Wav(options.output, from.rate(), from.channels()); });
-  RoundTrip trip(from, to, transform, options.step);
+  RoundTrip trip(from, to, options.length, options.step);
   Progress progress(from.seconds());
   about(options.output, [&] { trip.run(progress); });
   progress.finish();

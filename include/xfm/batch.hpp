@@ -24,7 +24,7 @@ template <class T>
 class batch {
  public:
   constexpr batch(std::span<T> memory, const places& at) noexcept {
-    if (!fits(memory.size(), at)) return;
+    if (at.length == 0 || !fits(memory.size(), at)) return;
     places_ = at;
     data_ = at.count == 0 ? memory.data() : memory.data() + at.first;
   }
@@ -46,7 +46,7 @@ class batch {
     return step < 0 ? std::size_t{0} - static_cast<std::size_t>(step) : static_cast<std::size_t>(step);
   }
   static constexpr bool fits(std::size_t room, const places& at) noexcept {
-    if (at.length == 0 || at.count == 0) return true;
+    if (at.count == 0) return true;
     std::size_t below = 0, above = 0;
     const auto reach = [&](std::size_t number, std::ptrdiff_t step) {
       if (number == 1) return true;

@@ -37,10 +37,11 @@ inline double bessel_i0(double x) noexcept {
   return sum;
 }
 
-/// The Kaiser window of n + 1 points at point k, without its factor.
+/// The Kaiser window of n + 1 points at point k, without its factor: of 1 - (2k/n - 1)^2 without the
+/// subtractions.
 inline double kaiser(std::size_t n, std::size_t k, double alpha) noexcept {
-  const double place = 2 * static_cast<double>(k) / static_cast<double>(n) - 1;
-  return bessel_i0(std::numbers::pi * alpha * std::sqrt(1 - place * place));
+  const double area = static_cast<double>(k) * static_cast<double>(n - k);
+  return bessel_i0(std::numbers::pi * alpha * 2 * std::sqrt(area) / static_cast<double>(n));
 }
 
 }  // namespace detail
@@ -51,9 +52,9 @@ inline double kaiser(std::size_t n, std::size_t k, double alpha) noexcept {
 template <sample T>
 void kaiser_bessel_derived_window(std::span<std::type_identity_t<T>> window, double alpha) noexcept {
   const std::size_t n = window.size() / 2;
-  double sum = 0;
+  long double sum = 0;  // the rounding of long sums would be seen in the condition
   for (std::size_t k = 0; k <= n; ++k) sum += detail::kaiser(n, k, alpha);
-  double running = 0;
+  long double running = 0;
   for (std::size_t k = 0; k < n; ++k) {
     running += detail::kaiser(n, k, alpha);
     window[k] = window[2 * n - 1 - k] = static_cast<T>(std::sqrt(running / sum));

@@ -131,7 +131,7 @@ TYPED_TEST(Mdct, WindowsSatisfyTheCondition) {
                                this->kaiser_bessel(n, 30), this->kaiser_bessel(n, 200)}) {
       for (std::size_t i = 0; i < n; ++i) {
         const long double a = window[i], b = window[n + i];
-        ASSERT_LE(distance(a * a + b * b, 1.0L), 8 * TestFixture::epsilon) << n << ", " << i;
+        ASSERT_LE(distance(a * a + b * b, 1.0L), 2 * TestFixture::epsilon) << n << ", " << i;
         ASSERT_EQ(window[i], window[2 * n - 1 - i]) << n << ", " << i;
         ASSERT_GE(window[i], 0);
       }
