@@ -28,23 +28,25 @@ extern "C" {
 #pragma GCC visibility push(default)
 #endif
 
-/** Version of this header, and of the library that it belongs to. The text of xfmGetLibVersion() is another. */
-#define XFM_VERSION_MAJOR 6
-#define XFM_VERSION_MINOR 1
-/** To be compared: #if XFM_VERSION >= 601 */
-#define XFM_VERSION (XFM_VERSION_MAJOR * 100 + XFM_VERSION_MINOR)
+/** @name Version
+ * Of this header, and of the library that it belongs to. The text of xfmGetLibVersion() is another.
+ * @{ */
+#define XFM_VERSION_MAJOR 6                                       /**< 6 of 6.1 */
+#define XFM_VERSION_MINOR 1                                       /**< 1 of 6.1 */
+#define XFM_VERSION (XFM_VERSION_MAJOR * 100 + XFM_VERSION_MINOR) /**< to be compared: 601 is version 6.1 */
+/** @} */
 
 /** @name Lengths
  * Those that are served, all numbers in between included: complex, real and Hartley transforms; orders of the
  * Walsh-Hadamard transform, whose lengths are powers of two; lengths of the DCT-IV, of which only powers of two are.
  * @{ */
-#define XFM_DFT_MIN_LENGTH 2
-#define XFM_DFT_MAX_LENGTH 64
-#define XFM_WHT_MIN_ORDER 1
-#define XFM_WHT_MAX_ORDER 13
-#define XFM_DCT4_MIN_LENGTH 2
-#define XFM_DCT4_MAX_LENGTH_32F 67108864
-#define XFM_DCT4_MAX_LENGTH_64F 33554432
+#define XFM_DFT_MIN_LENGTH 2 /**< of complex, real and Hartley transforms */
+#define XFM_DFT_MAX_LENGTH 64 /**< of complex, real and Hartley transforms */
+#define XFM_WHT_MIN_ORDER 1 /**< of Walsh-Hadamard transforms */
+#define XFM_WHT_MAX_ORDER 13 /**< of Walsh-Hadamard transforms */
+#define XFM_DCT4_MIN_LENGTH 2            /**< the shortest DCT-IV */
+#define XFM_DCT4_MAX_LENGTH_32F 67108864 /**< the longest in single precision */
+#define XFM_DCT4_MAX_LENGTH_64F 33554432 /**< the longest in double precision */
 /** @} */
 
 typedef float xfm32f;  /**< IEEE-754 binary32 */

@@ -106,10 +106,13 @@ std::string public_header(const std::string& frame) {
   for (const Family& family : families()) {
     declared += declarations(family) + "\n";
     // Families that the generator designs have the same lengths.
-    const char* const name = family.by_hand() ? family.name.c_str() : "DFT";
-    const char* const what = family.by_hand() ? "ORDER" : "LENGTH";
-    const std::string defined = fmt::format("#define XFM_{0}_MIN_{1} {2}\n#define XFM_{0}_MAX_{1} {3}\n",
-                                            name, what, family.lowest, family.highest);
+    const std::string name = family.by_hand() ? family.name : "DFT",
+                      what = family.by_hand() ? "ORDER" : "LENGTH",
+                      of = family.by_hand() ? "Walsh-Hadamard" : "complex, real and Hartley";
+    const std::string defined = fmt::format(
+        "#define XFM_{0}_MIN_{1} {2} /**< of {4} transforms */\n#define XFM_{0}_MAX_{1} {3} /**< of {4} "
+        "transforms */\n",
+        name, what, family.lowest, family.highest, of);
     if (lengths.find(defined) == std::string::npos) lengths += defined;
   }
   std::string header = frame;
