@@ -14,7 +14,7 @@ namespace xfm::bench {
 
 namespace {
 
-/// A series in black: told apart by points and dashes, so that a copy on paper can be read.
+/// A series in black, with points and dashes of its own, so that a printed copy is readable.
 constexpr const char* styles[] = {"dt 1 pt 7 ps 0.9", "dt 2 pt 4 ps 1.1", "dt 3 pt 9 ps 1.1",
                                   "dt 4 pt 6 ps 1.1"};
 
@@ -62,7 +62,7 @@ std::string data(const Groups& groups) {
   return text;
 }
 
-/// The line at 1 stands in every picture, with some room on either side.
+/// Every picture includes the line at 1, with some room on either side.
 std::string ranges(const Groups& groups) {
   double low = 0.7, high = 2;
   int longest = 0;

@@ -1,5 +1,5 @@
 /// @file
-/// What a call came to, and the factor of a transform.
+/// The result of a call, and the factor of a transform.
 #pragma once
 
 #include <concepts>

@@ -17,7 +17,7 @@ Layout definition_of(layout packing) {
   return packing == layout::ccs ? Layout::ccs : packing == layout::pack ? Layout::pack : Layout::perm;
 }
 
-/// A number that tells the part of the bin.
+/// A different number for each part of each bin; 0 for a stored zero.
 double mark(const Cell& cell) {
   if (cell.part == Part::zero) return 0;
   return cell.part == Part::real ? cell.bin + 1 : -cell.bin - 1;
