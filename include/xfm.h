@@ -3,17 +3,22 @@
  * @file xfm.h
  * @brief xfm: short, very fast discrete transforms for x86-64.
  *
- * Plain functions, no planning, no state, no tables computed at run time: every length and precision of every family
- * has a straight-line kernel of its own. Only the DCT-IV, which goes up to 2^26, has a state that is made beforehand.
- * Below, a family of kernels is described with the letter N in place of the length; the name without a number is the
- * family's generic function, which takes the length as an argument and accepts every length of the family.
+ * Every length and precision of every family has a function of its own, straight-line code that needs no plan, no state
+ * and no tables computed at run time. Only the DCT-IV, which goes up to 2^26, has a state, which is made beforehand.
  *
- * Arrays are contiguous; the caller owns them, and no function keeps a pointer. All functions may be called from any
- * number of threads at once, but a state of the DCT-IV serves one thread at a time. NaN and infinity propagate through
- * the arithmetic; no function changes the floating-point control state. Results do not depend on alignment, and
- * src == dst gives the same bits as separate arrays. All promises about bits assume the default floating-point
- * environment, which rounds to nearest and uses neither FTZ (flush to zero) nor DAZ (denormals are zero), and do not
- * cover the sign and payload of a NaN.
+ * Each family is described once, with N in place of the length. xfmHartley_12_32f is the kernel for 12 elements of type
+ * xfm32f; xfmHartley_32f, the generic function, takes the length as an argument and calls the kernel.
+ *
+ * For all families:
+ * - Arrays are contiguous. They belong to the caller; no function keeps a pointer to them.
+ * - Arrays may have any alignment, and the bits of the result do not depend on it.
+ * - src may be dst, and the two may overlap in any way: all input is read before the first output is written. For the
+ *   DCT-IV they are the same or do not overlap.
+ * - Any number of threads may call any function at once. Nothing is locked and, unless a family says so, nothing is
+ *   allocated. A state of the DCT-IV serves one thread at a time.
+ * - NaN and infinity propagate through the arithmetic.
+ * - No function changes the floating-point control state. Promises about bits assume its default: rounding to nearest,
+ *   neither FTZ (flush to zero) nor DAZ (denormals are zero). They do not cover the sign and payload of a NaN.
  */
 /* The declarations below are written by xfmgen from the list of families: build the target "header" to renew them. */
 #ifndef XFM_H
@@ -29,7 +34,7 @@ extern "C" {
 #endif
 
 /** @name Version
- * Of this header, and of the library that it belongs to. The text of xfmGetLibVersion() is another.
+ * The version of this header and of the library that it belongs to. xfmGetLibVersion() reports other, fixed texts.
  * @{ */
 #define XFM_VERSION_MAJOR 6                                       /**< 6 of 6.1 */
 #define XFM_VERSION_MINOR 1                                       /**< 1 of 6.1 */
@@ -37,8 +42,8 @@ extern "C" {
 /** @} */
 
 /** @name Lengths
- * Those that are served, all numbers in between included: complex, real and Hartley transforms; orders of the
- * Walsh-Hadamard transform, whose lengths are powers of two; lengths of the DCT-IV, of which only powers of two are.
+ * The shortest and the longest that each family serves. Complex, real and Hartley transforms serve every length in
+ * between, and Walsh-Hadamard transforms every order; the DCT-IV serves the powers of two.
  * @{ */
 #define XFM_DFT_MIN_LENGTH 2 /**< of complex, real and Hartley transforms */
 #define XFM_DFT_MAX_LENGTH 64 /**< of complex, real and Hartley transforms */
@@ -67,13 +72,25 @@ typedef int32_t xfmStatus;
 
 enum {
   xfmStsOk = 0,        /**< success */
-  xfmStsBadState = -5, /**< a DCT-IV plan contains a node of unknown kind */
+  xfmStsBadState = -5, /**< not a state of the DCT-IV */
   xfmStsBadSize = -6,  /**< unsupported length or order */
   xfmStsNullPtr = -8,  /**< a required pointer is null */
   xfmStsBadScale = -16 /**< the scale flag is not one of the four values */
 };
 
-/** Scale flags: exactly one of these values; they do not combine. Each family lists the factor of each flag. */
+/**
+ * Scale flags. A transform takes exactly one; they do not combine. The flag selects the factor s of the transform:
+ *
+ * | flag                  | forward   | inverse   | Hartley, Walsh-Hadamard |
+ * |-----------------------|-----------|-----------|-------------------------|
+ * | XFM_SCALE_FWD_BY_N    | 1/N       | 1         | 1/N                     |
+ * | XFM_SCALE_INV_BY_N    | 1         | 1/N       | 1/N                     |
+ * | XFM_SCALE_BY_SQRT_N   | 1/sqrt(N) | 1/sqrt(N) | 1/sqrt(N)               |
+ * | XFM_SCALE_NONE        | 1         | 1         | 1                       |
+ *
+ * With any flag but the last, forward and inverse transform together return the input, and so does a Hartley or
+ * Walsh-Hadamard transform applied twice, if that is by 1/sqrt(N). The DCT-IV has no flag.
+ */
 enum {
   XFM_SCALE_FWD_BY_N = 1,  /**< the forward direction carries 1/N */
   XFM_SCALE_INV_BY_N = 2,  /**< the inverse direction carries 1/N */
@@ -93,7 +110,7 @@ typedef struct {
   const char* buildDate; /**< date of the build */
 } xfmLibraryVersion;
 
-/** The version record: constant data, which the caller must neither change nor free. Cannot fail. */
+/** The version record of the library: constant data, which the caller must neither change nor free. Never null. */
 const xfmLibraryVersion* xfmGetLibVersion(void);
 
 /** @name DFTFwd_CToC
@@ -105,19 +122,12 @@ const xfmLibraryVersion* xfmGetLibVersion(void);
  *     dst[k] = s * sum over n of src[n] * exp(-2 pi i n k / N),   n, k = 0 .. N-1
  *
  * Reads N complex elements of src, writes N complex elements of dst, in natural order.
+ * s is the factor that flag selects, see XFM_SCALE_NONE. The last operation on every output is the multiplication
+ * by s, even if s is 1.
+ * Arrays at multiples of 16 bytes are fastest.
  *
- * | flag                  | factor s  |
- * |-----------------------|-----------|
- * | XFM_SCALE_FWD_BY_N    | 1/N       |
- * | XFM_SCALE_INV_BY_N    | 1         |
- * | XFM_SCALE_BY_SQRT_N   | 1/sqrt(N) |
- * | XFM_SCALE_NONE        | 1         |
- *
- * The last operation on every output is the multiplication by s, even if s is 1. Both arrays may have any alignment;
- * multiples of 16 are fastest, and the bits do not depend on it. src and dst may overlap in any way: all input is read
- * before the first output is written, and dst is never read.
  * Errors, in the order of the tests: xfmStsBadSize (unsupported length, generic functions only), xfmStsNullPtr (src
- * or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
+ * or dst is null), xfmStsBadScale (flag). A failed call writes nothing.
  * Sources: Cooley and Tukey 1965; Good 1958; Rader 1968; Yavne 1968; Bluestein 1970.
  */
 xfmStatus xfmDFTFwd_CToC_32fc(const xfm32fc* src, xfm32fc* dst, int32_t length, int32_t flag);
@@ -259,19 +269,12 @@ xfmStatus xfmDFTFwd_CToC_64_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag)
  *     dst[n] = s * sum over k of src[k] * exp(+2 pi i n k / N),   n, k = 0 .. N-1
  *
  * Reads N complex elements of src, writes N complex elements of dst, in natural order.
+ * s is the factor that flag selects, see XFM_SCALE_NONE. The last operation on every output is the multiplication
+ * by s, even if s is 1.
+ * Arrays at multiples of 16 bytes are fastest.
  *
- * | flag                  | factor s  |
- * |-----------------------|-----------|
- * | XFM_SCALE_FWD_BY_N    | 1         |
- * | XFM_SCALE_INV_BY_N    | 1/N       |
- * | XFM_SCALE_BY_SQRT_N   | 1/sqrt(N) |
- * | XFM_SCALE_NONE        | 1         |
- *
- * The last operation on every output is the multiplication by s, even if s is 1. Both arrays may have any alignment;
- * multiples of 16 are fastest, and the bits do not depend on it. src and dst may overlap in any way: all input is read
- * before the first output is written, and dst is never read.
  * Errors, in the order of the tests: xfmStsBadSize (unsupported length, generic functions only), xfmStsNullPtr (src
- * or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
+ * or dst is null), xfmStsBadScale (flag). A failed call writes nothing.
  * Sources: Cooley and Tukey 1965; Good 1958; Rader 1968; Yavne 1968; Bluestein 1970.
  */
 xfmStatus xfmDFTInv_CToC_32fc(const xfm32fc* src, xfm32fc* dst, int32_t length, int32_t flag);
@@ -414,24 +417,18 @@ xfmStatus xfmDFTInv_CToC_64_64fc(const xfm64fc* src, xfm64fc* dst, int32_t flag)
  *
  * Reads N elements of src; writes the half spectrum, 2*(N/2 + 1) elements of dst:
  * Re X[k] in dst[2k] and Im X[k] in dst[2k+1]; the imaginary parts of bin 0 and, for even N, of bin N/2
- * are stored as +0, whatever the data.
+ * are stored as +0, whatever the data, and are not multiplied by s.
  *
- * | flag                  | factor s  |
- * |-----------------------|-----------|
- * | XFM_SCALE_FWD_BY_N    | 1/N       |
- * | XFM_SCALE_INV_BY_N    | 1         |
- * | XFM_SCALE_BY_SQRT_N   | 1/sqrt(N) |
- * | XFM_SCALE_NONE        | 1         |
- *
- * Scalar code: the arrays may have any alignment. They may overlap in any way: all input is read before the first
- * output is written. In single precision sums are rounded to binary32, and linear combinations with constants are
- * evaluated in binary64 and rounded once.
- * The last operation on every output is the multiplication by s, even if s is 1; the zeros of CCS are not multiplied.
+ * s is the factor that flag selects, see XFM_SCALE_NONE. The last operation on every output is the multiplication
+ * by s, even if s is 1.
  * There are two exceptions: in single precision an output that is itself a linear combination is multiplied in
  * binary64, before it is rounded; and a few outputs are subtracted from zero afterwards, to correct their sign.
+ * In single precision sums are rounded to binary32, and linear combinations with constants are evaluated in binary64
+ * and rounded once.
  * The three layouts hold the same bits for the same input.
+ *
  * Errors, in the order of the tests: xfmStsBadSize (unsupported length, generic functions only), xfmStsNullPtr (src
- * or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
+ * or dst is null), xfmStsBadScale (flag). A failed call writes nothing.
  * Sources: Sorensen, Jones, Heideman and Burrus 1987; Good 1958; Cooley and Tukey 1965; Rader 1968.
  */
 xfmStatus xfmDFTFwd_RToCCS_32f(const xfm32f* src, xfm32f* dst, int32_t length, int32_t flag);
@@ -575,22 +572,16 @@ xfmStatus xfmDFTFwd_RToCCS_64_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
  * Reads N elements of src; writes the half spectrum, N elements of dst:
  * Re X[0], Re X[1], Im X[1], Re X[2], Im X[2], ..., and, for even N, Re X[N/2] at the end.
  *
- * | flag                  | factor s  |
- * |-----------------------|-----------|
- * | XFM_SCALE_FWD_BY_N    | 1/N       |
- * | XFM_SCALE_INV_BY_N    | 1         |
- * | XFM_SCALE_BY_SQRT_N   | 1/sqrt(N) |
- * | XFM_SCALE_NONE        | 1         |
- *
- * Scalar code: the arrays may have any alignment. They may overlap in any way: all input is read before the first
- * output is written. In single precision sums are rounded to binary32, and linear combinations with constants are
- * evaluated in binary64 and rounded once.
- * The last operation on every output is the multiplication by s, even if s is 1; the zeros of CCS are not multiplied.
+ * s is the factor that flag selects, see XFM_SCALE_NONE. The last operation on every output is the multiplication
+ * by s, even if s is 1.
  * There are two exceptions: in single precision an output that is itself a linear combination is multiplied in
  * binary64, before it is rounded; and a few outputs are subtracted from zero afterwards, to correct their sign.
+ * In single precision sums are rounded to binary32, and linear combinations with constants are evaluated in binary64
+ * and rounded once.
  * The three layouts hold the same bits for the same input.
+ *
  * Errors, in the order of the tests: xfmStsBadSize (unsupported length, generic functions only), xfmStsNullPtr (src
- * or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
+ * or dst is null), xfmStsBadScale (flag). A failed call writes nothing.
  * Sources: Sorensen, Jones, Heideman and Burrus 1987; Good 1958; Cooley and Tukey 1965; Rader 1968.
  */
 xfmStatus xfmDFTFwd_RToPack_32f(const xfm32f* src, xfm32f* dst, int32_t length, int32_t flag);
@@ -734,22 +725,16 @@ xfmStatus xfmDFTFwd_RToPack_64_64f(const xfm64f* src, xfm64f* dst, int32_t flag)
  * Reads N elements of src; writes the half spectrum, N elements of dst:
  * for even N Re X[0], Re X[N/2], Re X[1], Im X[1], Re X[2], Im X[2], ...; for odd N as Pack.
  *
- * | flag                  | factor s  |
- * |-----------------------|-----------|
- * | XFM_SCALE_FWD_BY_N    | 1/N       |
- * | XFM_SCALE_INV_BY_N    | 1         |
- * | XFM_SCALE_BY_SQRT_N   | 1/sqrt(N) |
- * | XFM_SCALE_NONE        | 1         |
- *
- * Scalar code: the arrays may have any alignment. They may overlap in any way: all input is read before the first
- * output is written. In single precision sums are rounded to binary32, and linear combinations with constants are
- * evaluated in binary64 and rounded once.
- * The last operation on every output is the multiplication by s, even if s is 1; the zeros of CCS are not multiplied.
+ * s is the factor that flag selects, see XFM_SCALE_NONE. The last operation on every output is the multiplication
+ * by s, even if s is 1.
  * There are two exceptions: in single precision an output that is itself a linear combination is multiplied in
  * binary64, before it is rounded; and a few outputs are subtracted from zero afterwards, to correct their sign.
+ * In single precision sums are rounded to binary32, and linear combinations with constants are evaluated in binary64
+ * and rounded once.
  * The three layouts hold the same bits for the same input.
+ *
  * Errors, in the order of the tests: xfmStsBadSize (unsupported length, generic functions only), xfmStsNullPtr (src
- * or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
+ * or dst is null), xfmStsBadScale (flag). A failed call writes nothing.
  * Sources: Sorensen, Jones, Heideman and Burrus 1987; Good 1958; Cooley and Tukey 1965; Rader 1968.
  */
 xfmStatus xfmDFTFwd_RToPerm_32f(const xfm32f* src, xfm32f* dst, int32_t length, int32_t flag);
@@ -894,20 +879,14 @@ xfmStatus xfmDFTFwd_RToPerm_64_64f(const xfm64f* src, xfm64f* dst, int32_t flag)
  * Re X[k] in src[2k] and Im X[k] in src[2k+1]; the imaginary parts of bin 0 and, for even N, of bin N/2
  * are never read.
  *
- * | flag                  | factor s  |
- * |-----------------------|-----------|
- * | XFM_SCALE_FWD_BY_N    | 1         |
- * | XFM_SCALE_INV_BY_N    | 1/N       |
- * | XFM_SCALE_BY_SQRT_N   | 1/sqrt(N) |
- * | XFM_SCALE_NONE        | 1         |
- *
- * Scalar code: the arrays may have any alignment. They may overlap in any way: all input is read before the first
- * output is written. In single precision sums are rounded to binary32, and linear combinations with constants are
- * evaluated in binary64 and rounded once.
- * The last operation on every output is the multiplication by s, even if s is 1.
+ * s is the factor that flag selects, see XFM_SCALE_NONE. The last operation on every output is the multiplication
+ * by s, even if s is 1.
+ * In single precision sums are rounded to binary32, and linear combinations with constants are evaluated in binary64
+ * and rounded once.
  * The three layouts give the same bits, except for the last bit at N = 7, 20, 40, 49 and 50.
+ *
  * Errors, in the order of the tests: xfmStsBadSize (unsupported length, generic functions only), xfmStsNullPtr (src
- * or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
+ * or dst is null), xfmStsBadScale (flag). A failed call writes nothing.
  * Sources: those of the forward transforms, whose networks run transposed here (Bernstein 2006).
  */
 xfmStatus xfmDFTInv_CCSToR_32f(const xfm32f* src, xfm32f* dst, int32_t length, int32_t flag);
@@ -1051,20 +1030,14 @@ xfmStatus xfmDFTInv_CCSToR_64_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
  * Writes N elements of dst; src holds the bins 0 .. N/2 in N elements:
  * Re X[0], Re X[1], Im X[1], Re X[2], Im X[2], ..., and, for even N, Re X[N/2] at the end.
  *
- * | flag                  | factor s  |
- * |-----------------------|-----------|
- * | XFM_SCALE_FWD_BY_N    | 1         |
- * | XFM_SCALE_INV_BY_N    | 1/N       |
- * | XFM_SCALE_BY_SQRT_N   | 1/sqrt(N) |
- * | XFM_SCALE_NONE        | 1         |
- *
- * Scalar code: the arrays may have any alignment. They may overlap in any way: all input is read before the first
- * output is written. In single precision sums are rounded to binary32, and linear combinations with constants are
- * evaluated in binary64 and rounded once.
- * The last operation on every output is the multiplication by s, even if s is 1.
+ * s is the factor that flag selects, see XFM_SCALE_NONE. The last operation on every output is the multiplication
+ * by s, even if s is 1.
+ * In single precision sums are rounded to binary32, and linear combinations with constants are evaluated in binary64
+ * and rounded once.
  * The three layouts give the same bits, except for the last bit at N = 7, 20, 40, 49 and 50.
+ *
  * Errors, in the order of the tests: xfmStsBadSize (unsupported length, generic functions only), xfmStsNullPtr (src
- * or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
+ * or dst is null), xfmStsBadScale (flag). A failed call writes nothing.
  * Sources: those of the forward transforms, whose networks run transposed here (Bernstein 2006).
  */
 xfmStatus xfmDFTInv_PackToR_32f(const xfm32f* src, xfm32f* dst, int32_t length, int32_t flag);
@@ -1208,20 +1181,14 @@ xfmStatus xfmDFTInv_PackToR_64_64f(const xfm64f* src, xfm64f* dst, int32_t flag)
  * Writes N elements of dst; src holds the bins 0 .. N/2 in N elements:
  * for even N Re X[0], Re X[N/2], Re X[1], Im X[1], Re X[2], Im X[2], ...; for odd N as Pack.
  *
- * | flag                  | factor s  |
- * |-----------------------|-----------|
- * | XFM_SCALE_FWD_BY_N    | 1         |
- * | XFM_SCALE_INV_BY_N    | 1/N       |
- * | XFM_SCALE_BY_SQRT_N   | 1/sqrt(N) |
- * | XFM_SCALE_NONE        | 1         |
- *
- * Scalar code: the arrays may have any alignment. They may overlap in any way: all input is read before the first
- * output is written. In single precision sums are rounded to binary32, and linear combinations with constants are
- * evaluated in binary64 and rounded once.
- * The last operation on every output is the multiplication by s, even if s is 1.
+ * s is the factor that flag selects, see XFM_SCALE_NONE. The last operation on every output is the multiplication
+ * by s, even if s is 1.
+ * In single precision sums are rounded to binary32, and linear combinations with constants are evaluated in binary64
+ * and rounded once.
  * The three layouts give the same bits, except for the last bit at N = 7, 20, 40, 49 and 50.
+ *
  * Errors, in the order of the tests: xfmStsBadSize (unsupported length, generic functions only), xfmStsNullPtr (src
- * or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
+ * or dst is null), xfmStsBadScale (flag). A failed call writes nothing.
  * Sources: those of the forward transforms, whose networks run transposed here (Bernstein 2006).
  */
 xfmStatus xfmDFTInv_PermToR_32f(const xfm32f* src, xfm32f* dst, int32_t length, int32_t flag);
@@ -1362,22 +1329,15 @@ xfmStatus xfmDFTInv_PermToR_64_64f(const xfm64f* src, xfm64f* dst, int32_t flag)
  *
  *     dst[k] = s * sum over j of src[j] * (cos(2 pi j k / N) + sin(2 pi j k / N)),   j, k = 0 .. N-1
  *
- * Reads N elements of src, writes N elements of dst, in natural order. The transform is its own inverse up to a
- * factor N, so the flags have no direction:
+ * Reads N elements of src, writes N elements of dst, in natural order. The transform is its own inverse but for a
+ * factor N, so it has no direction.
+ * s is the factor that flag selects, see XFM_SCALE_NONE. The last operation on every output is the multiplication
+ * by s, even if s is 1.
+ * In single precision sums are rounded to binary32, and linear combinations with constants are evaluated in binary64
+ * and rounded once.
  *
- * | flag                  | factor s  |
- * |-----------------------|-----------|
- * | XFM_SCALE_FWD_BY_N    | 1/N       |
- * | XFM_SCALE_INV_BY_N    | 1/N       |
- * | XFM_SCALE_BY_SQRT_N   | 1/sqrt(N) |
- * | XFM_SCALE_NONE        | 1         |
- *
- * Scalar code: the arrays may have any alignment. They may overlap in any way: all input is read before the first
- * output is written. In single precision sums are rounded to binary32, and linear combinations with constants are
- * evaluated in binary64 and rounded once.
- * The last operation on every output is the multiplication by s, even if s is 1.
  * Errors, in the order of the tests: xfmStsBadSize (unsupported length, generic functions only), xfmStsNullPtr (src
- * or dst is null), xfmStsBadScale (flag). A failed call writes nothing. Re-entrant; no allocation.
+ * or dst is null), xfmStsBadScale (flag). A failed call writes nothing.
  * Sources: Hartley 1942; Bracewell 1983; Sorensen, Jones, Burrus and Heideman 1985; Rader 1968.
  */
 xfmStatus xfmHartley_32f(const xfm32f* src, xfm32f* dst, int32_t length, int32_t flag);
@@ -1518,34 +1478,25 @@ xfmStatus xfmHartley_64_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
  *
  *     dst[k] = s * sum over j of (-1)^popcount(j AND k) * src[j],   j, k = 0 .. N-1
  *
- * Reads N elements of src, writes N elements of dst. The transform has no direction: it is its own inverse up to a
- * factor N, so both 1/N flags mean the same here. The number in a kernel's name is the order.
- *
- * | flag                  | factor s  |
- * |-----------------------|-----------|
- * | XFM_SCALE_FWD_BY_N    | 1/N       |
- * | XFM_SCALE_INV_BY_N    | 1/N       |
- * | XFM_SCALE_BY_SQRT_N   | 1/sqrt(N) |
- * | XFM_SCALE_NONE        | 1         |
- *
- * Stages run in ascending order, additions and subtractions are in the precision of the elements, and the last
- * operation on every output is the multiplication by s, even if s is 1: the bits are those of a plain loop nest over
- * strides 1, 2, 4, ...
+ * The number in a kernel's name is the order. Reads N elements of src, writes N elements of dst. The transform is its
+ * own inverse but for a factor N, so it has no direction.
+ * s is the factor that flag selects, see XFM_SCALE_NONE. The last operation on every output is the multiplication
+ * by s, even if s is 1.
+ * Stages run in ascending order, and additions and subtractions are in the precision of the elements: the bits are
+ * those of a plain loop nest over the strides 1, 2, 4, ...
  * 1/sqrt(N) is a stored constant: a power of two at even orders. At odd orders it is the nearest value in binary32; in
  * binary64 it is 1 divided by the rounded root of N, which is one unit in the last place below the nearest value.
- *
- * Both arrays may have any alignment; multiples of 16 are fastest, and the bits do not depend on it. src and dst may
- * overlap in any way: all input is read before the first output is written, and dst is never read.
+ * Arrays at multiples of 16 bytes are fastest.
  *
  * buffer: ignored for the orders 1 to 7. From order 8 on it is work space of at least the size that
- * xfmWHTGetBufferSize_TYPE returns, aligned to 16. Its contents before the call do not matter, and are of no use
- * afterwards. It serves one call at a time. If buffer is null, each call does one xfmMalloc and one xfmFree; the bits
- * are the same.
- * Hazards: the call does not check the result of xfmMalloc, so a program that is out of memory crashes there. A buffer
- * that is not aligned to 16 may crash the program as well. A buffer that is too small is written past its end.
+ * xfmWHTGetBufferSize_TYPE returns, aligned to 16 bytes. What it contains does not matter, before or after the call.
+ * It serves one call at a time. If buffer is null, each call does one xfmMalloc and one xfmFree, and the bits are the
+ * same.
+ * Hazards: the result of that xfmMalloc is not tested, so a program that is out of memory crashes there. A buffer that
+ * is not aligned to 16 bytes may crash the program as well. A buffer that is too small is written past its end.
  *
- * Errors, in the order of the tests: xfmStsBadSize (unsupported order, generic functions only), xfmStsNullPtr (src or
- * dst is null), xfmStsBadScale (flag). A failed call writes nothing and allocates nothing. Re-entrant.
+ * Errors, in the order of the tests: xfmStsBadSize (unsupported order, generic functions only), xfmStsNullPtr (src
+ * or dst is null), xfmStsBadScale (flag). A failed call writes nothing.
  * Sources: Good 1958; Fino and Algazi 1976; for the cut into passes Johnson and Pueschel 2000.
  */
 xfmStatus xfmWHT_32f(const xfm32f* src, xfm32f* dst, int32_t order, int32_t flag, void* buffer);
@@ -1582,9 +1533,9 @@ xfmStatus xfmWHT_13_64f(const xfm64f* src, xfm64f* dst, int32_t flag, void* buff
  * xfmWHTGetBufferSize_TYPE
  * @{ */
 /**
- * Stores the size in bytes of the work buffer of the Walsh-Hadamard kernel of this order in *size: 0 for the orders 1
- * to 7. Only the order is tested; size must not be null.
- * Errors: xfmStsBadSize for an order outside 1 to 13; *size is then unchanged. Re-entrant; no allocation.
+ * The size in bytes of the work buffer that the Walsh-Hadamard kernel of this order needs, stored in *size: 0 for the
+ * orders 1 to 7. size must not be null; it is not tested.
+ * Errors: xfmStsBadSize for an order outside 1 to 13; *size is then unchanged.
  */
 xfmStatus xfmWHTGetBufferSize_32f(int32_t order, uint32_t* size);
 xfmStatus xfmWHTGetBufferSize_64f(int32_t order, uint32_t* size);
@@ -1593,67 +1544,68 @@ xfmStatus xfmWHTGetBufferSize_64f(int32_t order, uint32_t* size);
 /** @name DCT4
  * xfmDCT4_TYPE
  * @{ */
-/**
- * A state of the DCT-IV in single precision: a plan, its tables and its work areas, in one block of memory. Opaque.
- */
+/** A state of the DCT-IV in single precision, opaque: a plan, its tables and its work areas in one block of memory. */
 typedef struct xfmDCT4State_32f xfmDCT4State_32f;
 /** The same in double precision. */
 typedef struct xfmDCT4State_64f xfmDCT4State_64f;
 
 /**
- * Stores the size in bytes of a state of this length in *size. It includes what aligning the block costs, so the
- * block may have any address.
+ * The size in bytes of a state of this length, stored in *size. It leaves room for aligning the state, so the block may
+ * have any address. size must not be null; it is not tested.
  *
- * Accepted lengths: N = 2^k with 1 <= k <= 26, in double precision k <= 25. For these the transform is the DCT-IV.
- * Hazards: some other lengths are accepted and are NOT a DCT-IV of any length. They stay as they are; do not use them.
- * - N = 2^k + 1 with 5 <= k <= 26, in double precision 3 <= k <= 25. Such a state runs the plan of 2^k with a wrong map
- *   of the indices, leaves elements of dst unwritten, and reads and writes src[N] and dst[N], one past the end.
- * - N = 2^30 and 2^30 + 1, in double precision 2^29 and 2^29 + 1 too: the number of bytes wraps around in 32 bits, and
- *   the state would be written far beyond a block of the size returned.
+ * The lengths of the DCT-IV are N = 2^k with 1 <= k <= 26, in double precision k <= 25.
  *
- * Errors: xfmStsBadSize for every other length; *size is then unchanged. size is not tested for null. Re-entrant.
+ * Hazards: the following lengths are accepted as well, but what they make is NOT a DCT-IV of any length. Do not
+ * use them; xfmDCT4IsServed_TYPE of xfm_lookup.h tells which lengths are safe.
+ * - N = 2^k + 1 with 5 <= k <= 26, in double precision 3 <= k <= 25. Such a state runs the plan of 2^k with wrong
+ *   indices, leaves elements of dst unwritten, and goes one element past the end of src and of dst.
+ * - N = 2^30 and 2^30 + 1, in double precision 2^29 and 2^29 + 1 too. The number of bytes does not fit in 32 bits and
+ *   wraps around, so the state is written far beyond a block of the size returned.
+ *
+ * Errors: xfmStsBadSize for every other length; *size is then unchanged.
  */
 xfmStatus xfmDCT4GetSize_32f(int32_t length, int32_t* size);
 xfmStatus xfmDCT4GetSize_64f(int32_t length, int32_t* size);
 
 /**
- * Builds a state in memory of the caller: block has at least the size returned by xfmDCT4GetSize_TYPE, at any address.
+ * Makes a state in memory of the caller: a block of at least the size that xfmDCT4GetSize_TYPE returns, at any address.
  *
- * The state lies in the block and holds addresses: the block must not move, and giving it up ends the state. A state
- * needs no other end; the block may be used again, for another state too. The pointer stored in *state is not the
- * address of the block. All cosines and sines are computed here, none when the state runs.
- * In the last 2 GiB of each 4 GiB of addresses (bit 31 set) a block that is not aligned to 32 wastes up to 31 bytes
- * more, and a state of N = 2 .. 32 there may take up to 23 bytes more than the size returned. Blocks aligned to 32 are
- * not affected.
+ * The state lies in the block and contains addresses, so the block must not move while the state is in use. *state is
+ * not the address of the block. A state made in this way need not be ended: the block may be freed, or used again, also
+ * for another state. All cosines and sines are computed here, none when the state runs.
  *
- * Errors, in the order of the tests: xfmStsNullPtr (state or block is null), xfmStsBadSize (the length cannot be broken
- * down); *state is then unchanged. The size of the block is not tested. One thread per block.
+ * The size of the block is not tested, and the size returned is exact with one exception: where bit 31 of an address is
+ * set, a block that is not aligned to 32 bytes wastes up to 31 bytes more, and a state of N = 2 .. 32 may end up to 23
+ * bytes beyond the size returned. Align blocks to 32 bytes, and this does not concern you.
+ *
+ * Errors, in the order of the tests: xfmStsNullPtr (state or block is null), xfmStsBadSize (no plan for this length);
+ * *state is then unchanged.
  */
 xfmStatus xfmDCT4Init_32f(xfmDCT4State_32f** state, int32_t length, void* block);
 xfmStatus xfmDCT4Init_64f(xfmDCT4State_64f** state, int32_t length, void* block);
 
 /**
- * Builds a state in memory from xfmMalloc, which xfmDCT4Free_TYPE releases.
+ * Makes a state in memory from xfmMalloc. xfmDCT4Free_TYPE releases it.
  *
- * Errors, in the order of the tests: xfmStsNullPtr (state is null), xfmStsBadSize (xfmDCT4GetSize_TYPE rejects the
- * length; nothing was allocated), xfmStsNullPtr (out of memory). *state is then unchanged. Any thread.
+ * Errors, in the order of the tests: xfmStsNullPtr (state is null), xfmStsBadSize (xfmDCT4GetSize_TYPE refuses the
+ * length; nothing is allocated), xfmStsNullPtr (out of memory); *state is then unchanged.
  */
 xfmStatus xfmDCT4InitAlloc_32f(xfmDCT4State_32f** state, int32_t length);
 xfmStatus xfmDCT4InitAlloc_64f(xfmDCT4State_64f** state, int32_t length);
 
 /**
- * The discrete cosine transform of type IV, of the length N of the state.
+ * The discrete cosine transform of type IV (DCT-IV), of the length N of the state.
  *
  *     dst[k] = sum over j of src[j] * cos(pi/N * (j + 1/2) * (k + 1/2)),   j, k = 0 .. N-1
  *
- * Reads N real elements of src, writes N real elements of dst, in natural order, without a factor: applied twice, the
- * transform gives the input times N/2. Any alignment; src == dst gives the same bits as separate arrays; the arrays
- * must not overlap in any other way. No allocation; nothing carries over from one run to the next.
- * A run of N > 32 overwrites the work areas in the state, so such a state serves one thread at a time; threads that run
- * at once need a state each. A state of N <= 32 is only read.
+ * Reads N elements of src, writes N elements of dst, in natural order. There is no factor: applied twice, the transform
+ * gives the input times N/2. src may be dst, with the same bits as separate arrays; they must not overlap in any other
+ * way. Arrays may have any alignment. Nothing is allocated, and nothing carries over from one run to the next.
+ * A run of N > 32 writes work areas in the state, so threads that run at once need a state each. A state of N <= 32 is
+ * only read, and threads may share it.
  *
- * Errors: xfmStsNullPtr (state, src or dst is null), xfmStsBadState (state does not point to a state). Nothing is
- * written then.
+ * Errors: xfmStsNullPtr (state, src or dst is null), xfmStsBadState (state does not point to a state). A failed call
+ * writes nothing.
  * Sources: Britanak, Yip and Rao 2007; split radix: Duhamel and Hollmann 1984; lifting for N = 4: Daubechies and
  * Sweldens 1998.
  */
@@ -1661,8 +1613,9 @@ xfmStatus xfmDCT4_32f(const xfm32f* src, xfm32f* dst, xfmDCT4State_32f* state);
 xfmStatus xfmDCT4_64f(const xfm64f* src, xfm64f* dst, xfmDCT4State_64f* state);
 
 /**
- * Ends a state made by xfmDCT4InitAlloc_TYPE, or by xfmDCT4Init_TYPE in memory from xfmMalloc, and releases its memory
- * with xfmFree. Not for a state in other memory: that one ends with its block. The state must not be running.
+ * Ends a state that xfmDCT4InitAlloc_TYPE made, and releases its memory with xfmFree. It also ends one that
+ * xfmDCT4Init_TYPE made in a block from xfmMalloc; a state in any other memory must not be passed. The state must not
+ * be running.
  *
  * Errors: xfmStsNullPtr (state is null).
  */

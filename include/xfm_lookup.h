@@ -3,18 +3,18 @@
  * @file xfm_lookup.h
  * @brief xfm: the kernel of a length as a pointer, a text for a status, and which lengths are DCT-IVs.
  *
- * For programs that learn a length when they run and then transform many times:
+ * For programs that learn a length at run time and then transform many times:
  *
  *     const xfmKernel_32fc transform = xfmLookupDFTFwd_CToC_32fc(length);
  *     if (transform == NULL) return unserved(length);
  *     for (i = 0; i < count; ++i) transform(frames[i], frames[i], XFM_SCALE_NONE);
  *
- * The pointer is that of the function in xfm.h, so all that is said there of the family holds. As with a generic
- * function, a program with a static library is linked with the kernels of all lengths if it asks for a variable one:
- * where the length is known, name the function itself.
+ * The pointer is that of the function in xfm.h, so what is said there of the family holds. A program that is linked with
+ * a static library, and asks for a length that the compiler does not know, gets the kernels of all lengths, as it does by
+ * a generic function. Where the length is known, name the kernel itself.
  *
- * Everything here is in this header; libxfm exports none of it. A function that is not called leaves nothing in the
- * program. All functions may be called from any number of threads at once.
+ * Everything is in this header, and libxfm exports none of it. A function that is not called leaves nothing in the
+ * program. Any number of threads may call all functions at once.
  */
 /* The functions below are written by xfmgen from the list of families: build the target "header" to renew them. */
 #ifndef XFM_LOOKUP_H
@@ -41,7 +41,7 @@ extern "C" {
 #endif
 
 /** @name Kernels
- * Functions for one length. Those of the Walsh-Hadamard transform have a work buffer besides.
+ * Functions for one length. Those of Walsh-Hadamard transforms take a work buffer as well.
  * @{ */
 /** Complex transforms, binary32. */
 typedef xfmStatus (*xfmKernel_32fc)(const xfm32fc* src, xfm32fc* dst, int32_t flag);
@@ -495,9 +495,8 @@ XFM_LOOKUP_INLINE xfmKernelWHT_64f xfmLookupWHT_64f(int32_t order) {
  * Whether a state of this length computes a DCT-IV: 1 for the powers of two from XFM_DCT4_MIN_LENGTH to
  * XFM_DCT4_MAX_LENGTH_TYPE, 0 for all others.
  *
- * Ask before xfmDCT4GetSize_TYPE, xfmDCT4Init_TYPE or xfmDCT4InitAlloc_TYPE if the length comes from outside. These
- * accept some other lengths too, such as 2^k + 1 and 2^30, with states that compute no DCT-IV or reach beyond their
- * memory; xfm.h lists them.
+ * Ask before xfmDCT4GetSize_TYPE, xfmDCT4Init_TYPE or xfmDCT4InitAlloc_TYPE if the length comes from outside. They accept
+ * some other lengths, such as 2^k + 1 and 2^30, whose states compute no DCT-IV or reach beyond their memory: see xfm.h.
  */
 XFM_LOOKUP_INLINE int xfmDCT4IsServed_32f(int32_t length) {
   return XFM_DCT4_MIN_LENGTH <= length && length <= XFM_DCT4_MAX_LENGTH_32F && (length & (length - 1)) == 0;

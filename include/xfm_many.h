@@ -3,32 +3,30 @@
  * @file xfm_many.h
  * @brief xfm: batches, many short transforms by one call.
  *
- * A batch computes `count` transforms of one length, several at a time, one in each lane of the vector registers. It
- * gives the same bits as `count` calls of the function of xfm.h without "Many" in its name, in any number, from and to
- * any places, with any flag.
+ * A batch is `count` transforms of one length. Several are computed at a time, one in each lane of the vector registers.
+ * The bits are those of `count` calls of the function of xfm.h without "Many" in its name.
  *
  * Element k of transform t is read at src[t * srcDistance + k * srcStride] and written at
- * dst[t * dstDistance + k * dstStride], counted in elements of the array's type; so is FFTW's advanced interface. A
- * function reads and writes as many elements of each transform as the single one does. Strides and distances may be
- * negative; src and dst then point to element 0 of transform 0 all the same. Those of dst must keep all elements of all
- * transforms apart.
+ * dst[t * dstDistance + k * dstStride]. Strides and distances count elements of the array's type, as in FFTW's advanced
+ * interface. They may be negative; src and dst always point to element 0 of transform 0. Each transform reads and writes
+ * as many elements as a single one does. The places that a batch writes must all be different.
  *
- * Three roads to memory, the fastest first:
- * - distance 1: lanes are loaded and stored as they are in memory, such as the columns of a matrix in rows;
- * - stride 1: contiguous transforms, such as the rows, are transposed in registers;
- * - anything else is moved element by element.
- * Each of src and dst takes its own. Where transforms on both sides are contiguous, a batch computes them one by one at
- * lengths at which that is faster.
+ * How fast memory is reached depends on stride and distance, separately for src and dst. From fast to slow:
+ * - distance 1: transforms lie side by side, such as the columns of a matrix stored by rows. Lanes are loaded and stored
+ *   as they are in memory.
+ * - stride 1: transforms are contiguous, such as the rows of that matrix. They are transposed in registers. If both src
+ *   and dst are contiguous, and single transforms are faster at this length, they are computed one by one.
+ * - anything else: elements are moved one by one.
  *
- * In place means the same pointer, strides and distances, and gives the same bits. Between src and dst there must be no
- * other overlap. Alignment is as for single calls: any that the element type has.
+ * A batch may work in place: with the same pointer, stride and distance for src and dst, and the same bits. The places
+ * of src and dst must not overlap in any other way. Arrays may have any alignment that their element type has.
  *
  * Errors, in the order of the tests: xfmStsBadSize (unsupported length or order, or a negative count), xfmStsNullPtr (src
  * or dst is null, even if count is 0), xfmStsBadScale (flag). A failed call writes nothing, nor does one of count 0.
  *
- * Functions are re-entrant and start no threads. To use several, give each its part of the batch: transforms
- * first .. last - 1 are the batch at src + first * srcDistance and dst + first * dstDistance with the count
- * last - first. Parts that are multiples of 8 transforms fill all lanes.
+ * Any number of threads may call these functions at once; none starts threads itself. To divide a batch, give each thread
+ * a part: transforms first .. last - 1 are the batch at src + first * srcDistance and dst + first * dstDistance with the
+ * count last - first. A part that is a multiple of 8 transforms fills all lanes.
  */
 /* The declarations below are written by xfmgen from the list of families: build the target "header" to renew them. */
 #ifndef XFM_MANY_H
