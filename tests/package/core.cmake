@@ -30,7 +30,7 @@ add_library(package_other_core SHARED other_core.cpp)
 target_link_libraries(package_other_core PRIVATE xfm_options)
 target_include_directories(package_other_core PRIVATE ${PROJECT_SOURCE_DIR}/core/include)
 set_target_properties(package_other_core PROPERTIES
-  OUTPUT_NAME xfmcore VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION} LIBRARY_OUTPUT_DIRECTORY other_core)
+  OUTPUT_NAME xfmcore SOVERSION ${XFM_SOVERSION} LIBRARY_OUTPUT_DIRECTORY other_core)
 
 add_test(NAME package.core.own COMMAND package_say_name)
 add_test(NAME package.core.replaced COMMAND package_say_name)
