@@ -57,14 +57,16 @@ extern "C" {
 typedef float xfm32f;  /**< IEEE-754 binary32 */
 typedef double xfm64f; /**< IEEE-754 binary64 */
 
-/** Complex number of two binary32 values, real part first. */
+/** Complex number, binary32: layout and alignment of float[2]. */
 typedef struct {
-  xfm32f re, im;
+  xfm32f re; /**< real part */
+  xfm32f im; /**< imaginary part */
 } xfm32fc;
 
-/** Complex number of two binary64 values, real part first. */
+/** Complex number, binary64: layout and alignment of double[2]. */
 typedef struct {
-  xfm64f re, im;
+  xfm64f re; /**< real part */
+  xfm64f im; /**< imaginary part */
 } xfm64fc;
 
 /** Result of a function: xfmStsOk or one of the negative values below. */

@@ -11,11 +11,11 @@ namespace xfm {
 
 /// Element k of transform t is memory[first + t * distance + k * stride].
 struct places {
-  std::size_t length = 0;  ///< elements of a transform
-  std::size_t count = 0;   ///< transforms
-  std::ptrdiff_t stride = 1;
-  std::ptrdiff_t distance = 0;
-  std::size_t first = 0;
+  std::size_t length = 0;       ///< elements of a transform
+  std::size_t count = 0;        ///< transforms
+  std::ptrdiff_t stride = 1;    ///< from an element to the next
+  std::ptrdiff_t distance = 0;  ///< from a transform to the next
+  std::size_t first = 0;        ///< where element 0 of transform 0 is
 };
 
 /// The elements of many transforms in memory of the caller. If any of them is not in the memory, the batch is
@@ -23,6 +23,7 @@ struct places {
 template <class T>
 class batch {
  public:
+  /// The elements at these places of the memory.
   constexpr batch(std::span<T> memory, const places& at) noexcept {
     if (at.length == 0 || !fits(memory.size(), at)) return;
     places_ = at;
@@ -34,10 +35,13 @@ class batch {
   requires std::is_const_v<T>
   constexpr batch(const batch<U>& other) noexcept : places_(other.at()), data_(other.data()) {}
 
+  /// Where they are.
   constexpr const places& at() const noexcept { return places_; }
   /// Element 0 of transform 0.
   constexpr T* data() const noexcept { return data_; }
+  /// The elements of a transform.
   constexpr std::size_t length() const noexcept { return places_.length; }
+  /// The number of transforms.
   constexpr std::size_t count() const noexcept { return places_.count; }
 
  private:
@@ -62,6 +66,7 @@ class batch {
   T* data_ = nullptr;
 };
 
+/// @cond
 namespace detail {
 
 /// All of a matrix; one of length 0 if its memory cannot be divided into transforms of this length.
@@ -79,6 +84,7 @@ constexpr auto matrix(Memory& memory, std::size_t length, bool by_columns) noexc
 }
 
 }  // namespace detail
+/// @endcond
 
 /// The rows of a matrix whose rows follow each other: transforms that are contiguous.
 template <class Memory>

@@ -30,6 +30,7 @@ constexpr std::size_t real_part_at(layout packing, std::size_t length, std::size
   return 2 * bin == length ? 1 : 2 * bin;
 }
 
+/// @cond
 namespace detail {
 
 /// Bin 0 to N/2.
@@ -51,12 +52,15 @@ constexpr void set_bin(T* data, std::size_t length, std::size_t k, std::complex<
 }
 
 }  // namespace detail
+/// @endcond
 
 /// Goes through the bins 0 to N/2 in any order. It refers to the elements, not to the object that holds them,
 /// and returns bins by value.
 template <layout Layout, sample T>
 class bin_iterator {
  public:
+  // What every random-access iterator has.
+  /// @cond
   using value_type = std::complex<T>;
   using difference_type = std::ptrdiff_t;
   using reference = value_type;
@@ -95,6 +99,7 @@ class bin_iterator {
   friend constexpr difference_type operator-(bin_iterator a, bin_iterator b) noexcept { return a.k_ - b.k_; }
   friend constexpr bool operator==(bin_iterator a, bin_iterator b) noexcept { return a.k_ == b.k_; }
   friend constexpr auto operator<=>(bin_iterator a, bin_iterator b) noexcept { return a.k_ <=> b.k_; }
+  /// @endcond
 
  private:
   const T* data_ = nullptr;

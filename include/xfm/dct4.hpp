@@ -23,7 +23,9 @@ namespace xfm {
 template <sample T>
 class dct4 {
  public:
+  /// The shortest length.
   static constexpr std::size_t min_length = XFM_DCT4_MIN_LENGTH;
+  /// The longest length: 2^26, in double precision 2^25.
   static constexpr std::size_t max_length =
       std::is_same_v<T, float> ? XFM_DCT4_MAX_LENGTH_32F : XFM_DCT4_MAX_LENGTH_64F;
 
@@ -35,6 +37,7 @@ class dct4 {
   /// Holds nothing.
   dct4() noexcept = default;
 
+  /// The transform of this length, with its tables.
   explicit dct4(std::size_t length) noexcept {
     if (!is_served(length)) {
       outcome_ = status::bad_size;
@@ -46,7 +49,9 @@ class dct4 {
     if (*this) length_ = length;
   }
 
+  /// Leaves the other one without a transform.
   dct4(dct4&& other) noexcept { swap(other); }
+  /// Likewise.
   dct4& operator=(dct4&& other) noexcept {
     dct4 moved(std::move(other));
     swap(moved);
@@ -55,6 +60,7 @@ class dct4 {
 
   /// status::ok, or why there is no transform.
   status outcome() const noexcept { return outcome_; }
+  /// Whether there is a transform.
   explicit operator bool() const noexcept { return outcome_ == status::ok; }
 
   /// N, or 0 if there is no transform.

@@ -11,6 +11,7 @@
 #include "xfm/kernels.hpp"
 
 namespace xfm {
+/// @cond
 namespace detail {
 
 template <class Family, class T>
@@ -20,6 +21,7 @@ status dft(std::span<const T> in, std::span<T> out, scale factor) noexcept {
 }
 
 }  // namespace detail
+/// @endcond
 
 /// out[k] = s * sum over n of in[n] * exp(-2 pi i n k / N)
 template <std::size_t N>
@@ -28,6 +30,7 @@ void dft_forward(detail::fixed<const std::complex<float>, N> in, detail::fixed<s
                  scale factor) noexcept {
   detail::run<detail::dft_forward_family, N>(in.data(), out.data(), factor);
 }
+/// The same in double precision.
 template <std::size_t N>
 requires dft_length<N>
 void dft_forward(detail::fixed<const std::complex<double>, N> in, detail::fixed<std::complex<double>, N> out,
@@ -40,6 +43,7 @@ inline status dft_forward(std::span<const std::complex<float>> in, std::span<std
                           scale factor) noexcept {
   return detail::dft<detail::dft_forward_family>(in, out, factor);
 }
+/// The same in double precision.
 inline status dft_forward(std::span<const std::complex<double>> in, std::span<std::complex<double>> out,
                           scale factor) noexcept {
   return detail::dft<detail::dft_forward_family>(in, out, factor);
@@ -52,6 +56,7 @@ void dft_inverse(detail::fixed<const std::complex<float>, N> in, detail::fixed<s
                  scale factor) noexcept {
   detail::run<detail::dft_inverse_family, N>(in.data(), out.data(), factor);
 }
+/// The same in double precision.
 template <std::size_t N>
 requires dft_length<N>
 void dft_inverse(detail::fixed<const std::complex<double>, N> in, detail::fixed<std::complex<double>, N> out,
@@ -64,6 +69,7 @@ inline status dft_inverse(std::span<const std::complex<float>> in, std::span<std
                           scale factor) noexcept {
   return detail::dft<detail::dft_inverse_family>(in, out, factor);
 }
+/// The same in double precision.
 inline status dft_inverse(std::span<const std::complex<double>> in, std::span<std::complex<double>> out,
                           scale factor) noexcept {
   return detail::dft<detail::dft_inverse_family>(in, out, factor);

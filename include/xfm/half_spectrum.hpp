@@ -26,13 +26,14 @@ template <layout Layout, class T, std::size_t N = std::dynamic_extent>
 requires sample<std::remove_const_t<T>> &&
     (N == std::dynamic_extent || dft_length<N>)class half_spectrum_view {
  public:
-  using element_type = T;
-  using sample_type = std::remove_const_t<T>;
-  using value_type = std::complex<sample_type>;
-  using iterator = bin_iterator<Layout, sample_type>;
+  using element_type = T;                              ///< an element, maybe const
+  using sample_type = std::remove_const_t<T>;          ///< float or double
+  using value_type = std::complex<sample_type>;        ///< a bin
+  using iterator = bin_iterator<Layout, sample_type>;  ///< returns bins by value
 
-  static constexpr layout packing = Layout;
-  static constexpr std::size_t extent = N;  ///< in samples
+  static constexpr layout packing = Layout;  ///< the layout
+  static constexpr std::size_t extent = N;   ///< in samples
+  /// In elements.
   static constexpr std::size_t element_extent =
       N == std::dynamic_extent ? std::dynamic_extent : element_count(Layout, N);
 
@@ -54,8 +55,11 @@ requires sample<std::remove_const_t<T>> &&
        N == std::dynamic_extent) constexpr half_spectrum_view(half_spectrum_view<Layout, U, M> other) noexcept
       : data_(other.data()), length_(other.length()) {}
 
+  /// Itself: owned half spectra and views have the same members.
   constexpr half_spectrum_view view() const noexcept { return *this; }
+  /// The first element.
   constexpr T* data() const noexcept { return data_; }
+  /// The elements, in the order of the layout.
   constexpr std::span<T, element_extent> elements() const noexcept {
     return std::span<T, element_extent>(data_, length() == 0 ? 0 : element_count(Layout, length()));
   }
@@ -71,6 +75,7 @@ requires sample<std::remove_const_t<T>> &&
     if (k < size()) return detail::bin<Layout, sample_type>(data_, length(), k);
     return std::conj(detail::bin<Layout, sample_type>(data_, length(), length() - k));
   }
+  /// The same.
   constexpr value_type operator[](std::size_t k) const noexcept { return bin(k); }
 
   /// Stores bin k, 0 to N/2. The imaginary part of a real bin is ignored; CCS has +0 there.
@@ -81,6 +86,7 @@ requires sample<std::remove_const_t<T>> &&
 
   /// The bins 0 to N/2, to be read.
   constexpr iterator begin() const noexcept { return {data_, length(), 0}; }
+  /// Behind the last one.
   constexpr iterator end() const noexcept { return {data_, length(), size()}; }
 
  private:
@@ -98,20 +104,22 @@ requires sample<std::remove_const_t<T>> &&
 template <layout Layout, sample T, std::size_t N = std::dynamic_extent>
 requires(N == std::dynamic_extent || dft_length<N>) class half_spectrum {
  public:
-  using view_type = half_spectrum_view<Layout, T, N>;
-  using const_view_type = half_spectrum_view<Layout, const T, N>;
-  using sample_type = T;
-  using value_type = std::complex<T>;
+  using view_type = half_spectrum_view<Layout, T, N>;              ///< a view of its elements
+  using const_view_type = half_spectrum_view<Layout, const T, N>;  ///< a view that only reads
+  using sample_type = T;                                           ///< float or double
+  using value_type = std::complex<T>;                              ///< a bin
 
-  static constexpr layout packing = Layout;
-  static constexpr std::size_t extent = N;  ///< in samples
+  static constexpr layout packing = Layout;  ///< the layout
+  static constexpr std::size_t extent = N;   ///< in samples
 
+  /// Leaves the elements as they are.
   half_spectrum() requires(N != std::dynamic_extent) = default;
 
-  /// Of zeros.
+  /// The half spectrum of a sequence of this length, all zeros.
   explicit half_spectrum(std::size_t length) requires(N == std::dynamic_extent)
       : elements_(length == 0 ? 0 : element_count(Layout, length)), length_{length} {}
 
+  /// A view of the elements.
   constexpr view_type view() noexcept {
     if constexpr (N == std::dynamic_extent) {
       return view_type(elements_, length_.value);
@@ -119,6 +127,7 @@ requires(N == std::dynamic_extent || dft_length<N>) class half_spectrum {
       return view_type(elements_);
     }
   }
+  /// A view that only reads.
   constexpr const_view_type view() const noexcept {
     if constexpr (N == std::dynamic_extent) {
       return const_view_type(elements_, length_.value);
@@ -126,12 +135,18 @@ requires(N == std::dynamic_extent || dft_length<N>) class half_spectrum {
       return const_view_type(elements_);
     }
   }
+  /// The same as view().
   constexpr operator view_type() noexcept { return view(); }
+  /// The same as view().
   constexpr operator const_view_type() const noexcept { return view(); }
 
+  /// The first element.
   constexpr T* data() noexcept { return elements_.data(); }
+  /// The first element, to be read.
   constexpr const T* data() const noexcept { return elements_.data(); }
+  /// The elements, in the order of the layout.
   constexpr auto elements() noexcept { return view().elements(); }
+  /// The elements, to be read.
   constexpr auto elements() const noexcept { return view().elements(); }
 
   /// The number of samples; 0 if the elements were moved elsewhere.
@@ -141,12 +156,14 @@ requires(N == std::dynamic_extent || dft_length<N>) class half_spectrum {
 
   /// Bin k, 0 to N - 1: those beyond N/2 are conjugates.
   constexpr value_type bin(std::size_t k) const noexcept { return view().bin(k); }
+  /// The same.
   constexpr value_type operator[](std::size_t k) const noexcept { return bin(k); }
   /// Stores bin k, 0 to N/2. The imaginary part of a real bin is ignored; CCS has +0 there.
   constexpr void set_bin(std::size_t k, value_type value) noexcept { view().set_bin(k, value); }
 
   /// The bins 0 to N/2, to be read.
   constexpr auto begin() const noexcept { return view().begin(); }
+  /// Behind the last one.
   constexpr auto end() const noexcept { return view().end(); }
 
  private:
@@ -161,20 +178,27 @@ requires(N == std::dynamic_extent || dft_length<N>) class half_spectrum {
   [[no_unique_address]] std::conditional_t<is_fixed, fixed_length, run_time_length> length_;
 };
 
+/// A half spectrum in the layout CCS.
 template <sample T, std::size_t N = std::dynamic_extent>
 using ccs = half_spectrum<layout::ccs, T, N>;
+/// A half spectrum in the layout Pack.
 template <sample T, std::size_t N = std::dynamic_extent>
 using pack = half_spectrum<layout::pack, T, N>;
+/// A half spectrum in the layout Perm.
 template <sample T, std::size_t N = std::dynamic_extent>
 using perm = half_spectrum<layout::perm, T, N>;
 
+/// The same in memory of the caller.
 template <class T, std::size_t N = std::dynamic_extent>
 using ccs_view = half_spectrum_view<layout::ccs, T, N>;
+/// The same in memory of the caller.
 template <class T, std::size_t N = std::dynamic_extent>
 using pack_view = half_spectrum_view<layout::pack, T, N>;
+/// The same in memory of the caller.
 template <class T, std::size_t N = std::dynamic_extent>
 using perm_view = half_spectrum_view<layout::perm, T, N>;
 
+/// @cond
 namespace detail {
 
 template <class>
@@ -187,6 +211,7 @@ template <class S>
 using view_of = decltype(std::declval<S&>().view());
 
 }  // namespace detail
+/// @endcond
 
 /// A half spectrum, owned or a view.
 template <class S>
@@ -204,6 +229,7 @@ concept writable_half_spectrum =
 template <class S>
 concept fixed_half_spectrum = any_half_spectrum<S> && detail::view_of<S>::extent != std::dynamic_extent;
 
+/// @cond
 namespace detail {
 
 template <class From, class To>
@@ -212,6 +238,7 @@ constexpr void copy_bins(const From& from, const To& to) noexcept {
 }
 
 }  // namespace detail
+/// @endcond
 
 /// Moves a half spectrum to another layout, without arithmetic. The two must not overlap.
 template <fixed_half_spectrum From, writable_half_spectrum To>

@@ -18,12 +18,14 @@ requires dft_length<N>
 void hartley(detail::fixed<const float, N> in, detail::fixed<float, N> out, scale factor) noexcept {
   detail::run<detail::hartley_family, N>(in.data(), out.data(), factor);
 }
+/// The same in double precision.
 template <std::size_t N>
 requires dft_length<N>
 void hartley(detail::fixed<const double, N> in, detail::fixed<double, N> out, scale factor) noexcept {
   detail::run<detail::hartley_family, N>(in.data(), out.data(), factor);
 }
 
+/// @cond
 namespace detail {
 
 template <class T>
@@ -33,11 +35,13 @@ status hartley_of_size(std::span<const T> in, std::span<T> out, scale factor) no
 }
 
 }  // namespace detail
+/// @endcond
 
 /// The same with N = in.size(), which must be that of out.
 inline status hartley(std::span<const float> in, std::span<float> out, scale factor) noexcept {
   return detail::hartley_of_size(in, out, factor);
 }
+/// The same in double precision.
 inline status hartley(std::span<const double> in, std::span<double> out, scale factor) noexcept {
   return detail::hartley_of_size(in, out, factor);
 }

@@ -1,5 +1,6 @@
 /// @file
-/// The C functions by family, element type and length. Not for use by itself.
+/// The lengths, element types and layouts that there are, and the C functions by these. Not for use by
+/// itself.
 #pragma once
 
 #include <complex>
@@ -31,6 +32,7 @@ enum class layout { ccs, pack, perm };
 
 }  // namespace xfm
 
+/// @cond
 namespace xfm::detail {
 
 struct dft_forward_family;
@@ -150,3 +152,4 @@ template <class T, std::size_t N>
 using fixed = std::type_identity_t<std::span<T, N>>;
 
 }  // namespace xfm::detail
+/// @endcond

@@ -16,6 +16,7 @@
 #include "xfm_many.h"
 
 namespace xfm {
+/// @cond
 namespace detail {
 
 template <class Family, class Element>
@@ -85,20 +86,24 @@ status many_wht(batch<const T> in, batch<T> out, scale factor, void* buffer) noe
 }
 
 }  // namespace detail
+/// @endcond
 
-/// Complex DFTs.
+/// Forward complex DFTs.
 inline status dft_forward(batch<const std::complex<float>> in, batch<std::complex<float>> out,
                           scale factor) noexcept {
   return detail::many_of_length<detail::dft_forward_family>(in, out, factor);
 }
+/// The same in double precision.
 inline status dft_forward(batch<const std::complex<double>> in, batch<std::complex<double>> out,
                           scale factor) noexcept {
   return detail::many_of_length<detail::dft_forward_family>(in, out, factor);
 }
+/// Inverse complex DFTs.
 inline status dft_inverse(batch<const std::complex<float>> in, batch<std::complex<float>> out,
                           scale factor) noexcept {
   return detail::many_of_length<detail::dft_inverse_family>(in, out, factor);
 }
+/// The same in double precision.
 inline status dft_inverse(batch<const std::complex<double>> in, batch<std::complex<double>> out,
                           scale factor) noexcept {
   return detail::many_of_length<detail::dft_inverse_family>(in, out, factor);
@@ -110,16 +115,18 @@ template <layout Layout>
 status dft_forward(batch<const float> in, batch<float> out, scale factor) noexcept {
   return detail::many_to_layout<Layout>(in, out, factor);
 }
+/// The same in double precision.
 template <layout Layout>
 status dft_forward(batch<const double> in, batch<double> out, scale factor) noexcept {
   return detail::many_to_layout<Layout>(in, out, factor);
 }
 
-/// The length of in is that of the layout, element_count(layout::ccs, out.length()).
+/// Inverse real DFTs. The length of in is that of the layout, element_count(layout::ccs, out.length()).
 template <layout Layout>
 status dft_inverse(batch<const float> in, batch<float> out, scale factor) noexcept {
   return detail::many_from_layout<Layout>(in, out, factor);
 }
+/// The same in double precision.
 template <layout Layout>
 status dft_inverse(batch<const double> in, batch<double> out, scale factor) noexcept {
   return detail::many_from_layout<Layout>(in, out, factor);
@@ -129,6 +136,7 @@ status dft_inverse(batch<const double> in, batch<double> out, scale factor) noex
 inline status hartley(batch<const float> in, batch<float> out, scale factor) noexcept {
   return detail::many_of_length<detail::hartley_family>(in, out, factor);
 }
+/// The same in double precision.
 inline status hartley(batch<const double> in, batch<double> out, scale factor) noexcept {
   return detail::many_of_length<detail::hartley_family>(in, out, factor);
 }
@@ -137,12 +145,15 @@ inline status hartley(batch<const double> in, batch<double> out, scale factor) n
 inline status wht(batch<const float> in, batch<float> out, scale factor) noexcept {
   return detail::many_wht(in, out, factor, nullptr);
 }
+/// The same in double precision.
 inline status wht(batch<const double> in, batch<double> out, scale factor) noexcept {
   return detail::many_wht(in, out, factor, nullptr);
 }
+/// The same in work space for every order.
 inline status wht(batch<const float> in, batch<float> out, scale factor, wht_buffer<float>& buffer) noexcept {
   return detail::many_wht(in, out, factor, buffer.data());
 }
+/// The same in double precision.
 inline status wht(batch<const double> in, batch<double> out, scale factor,
                   wht_buffer<double>& buffer) noexcept {
   return detail::many_wht(in, out, factor, buffer.data());

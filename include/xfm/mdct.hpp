@@ -84,6 +84,7 @@ class mdct {
     const bool moved = outcome_ == status::ok && !transform_;
     return moved ? status::bad_state : outcome_;
   }
+  /// Whether there is a transform.
   explicit operator bool() const noexcept { return outcome() == status::ok; }
 
   /// N: the coefficients of a frame, and the samples that a frame advances.

@@ -13,12 +13,14 @@
 #include "xfm/kernels.hpp"
 
 namespace xfm {
+/// @cond
 namespace detail {
 
 template <class S>
 using sample_of = typename view_of<S>::sample_type;
 
 }  // namespace detail
+/// @endcond
 
 /// Bin k = s * sum over j of in[j] * exp(-2 pi i j k / N), k = 0 .. N/2
 template <std::size_t N, writable_half_spectrum S>

@@ -49,7 +49,9 @@ constexpr const char* to_string(status result) noexcept {
 /// What check() throws.
 class error : public std::runtime_error {
  public:
+  /// Of this status.
   explicit error(status result) : std::runtime_error(to_string(result)), result_(result) {}
+  /// The status.
   status code() const noexcept { return result_; }
 
  private:

@@ -25,7 +25,9 @@ template <sample T, std::size_t Order = XFM_WHT_MAX_ORDER>
 requires wht_order<Order>
 class wht_buffer {
  public:
+  /// Allocates the memory.
   wht_buffer() : blocks_(std::make_unique<block[]>(count())) {}
+  /// The memory, as the C functions take it.
   void* data() noexcept { return blocks_.get(); }
 
  private:
@@ -51,6 +53,7 @@ class wht_buffer {
   std::unique_ptr<block[]> blocks_;
 };
 
+/// @cond
 namespace detail {
 
 template <std::size_t Order, class T, std::size_t N>
@@ -66,6 +69,7 @@ status wht_of_size(std::span<const T> in, std::span<T> out, scale factor, void* 
 }
 
 }  // namespace detail
+/// @endcond
 
 /// out[k] = s * sum over j of (-1)^popcount(j AND k) * in[j], N = 2^Order
 template <std::size_t Order>
@@ -74,6 +78,7 @@ void wht(detail::fixed<const float, std::size_t{1} << Order> in,
          detail::fixed<float, std::size_t{1} << Order> out, scale factor) noexcept {
   detail::wht_of_order<Order>(in, out, factor, nullptr);
 }
+/// The same in double precision.
 template <std::size_t Order>
 requires wht_order<Order>
 void wht(detail::fixed<const double, std::size_t{1} << Order> in,
@@ -88,6 +93,7 @@ requires(wht_order<Order>&& Order <= Most) void wht(detail::fixed<const float, s
                                                     scale factor, wht_buffer<float, Most>& buffer) noexcept {
   detail::wht_of_order<Order>(in, out, factor, buffer.data());
 }
+/// The same in double precision.
 template <std::size_t Order, std::size_t Most>
 requires(wht_order<Order>&& Order <= Most) void wht(detail::fixed<const double, std::size_t{1} << Order> in,
                                                     detail::fixed<double, std::size_t{1} << Order> out,
@@ -99,6 +105,7 @@ requires(wht_order<Order>&& Order <= Most) void wht(detail::fixed<const double, 
 inline status wht(std::span<const float> in, std::span<float> out, scale factor) noexcept {
   return detail::wht_of_size(in, out, factor, nullptr);
 }
+/// The same in double precision.
 inline status wht(std::span<const double> in, std::span<double> out, scale factor) noexcept {
   return detail::wht_of_size(in, out, factor, nullptr);
 }
@@ -108,6 +115,7 @@ inline status wht(std::span<const float> in, std::span<float> out, scale factor,
                   wht_buffer<float>& buffer) noexcept {
   return detail::wht_of_size(in, out, factor, buffer.data());
 }
+/// The same in double precision.
 inline status wht(std::span<const double> in, std::span<double> out, scale factor,
                   wht_buffer<double>& buffer) noexcept {
   return detail::wht_of_size(in, out, factor, buffer.data());

@@ -23,6 +23,7 @@ void sine_window(std::span<std::type_identity_t<T>> window) noexcept {
     window[n] = window[size - 1 - n] = static_cast<T>(std::sin(step * (static_cast<double>(n) + 0.5)));
 }
 
+/// @cond
 namespace detail {
 
 /// The modified Bessel function of the first kind and order zero, by its power series, whose terms are all
@@ -45,6 +46,7 @@ inline double kaiser(std::size_t n, std::size_t k, double alpha) noexcept {
 }
 
 }  // namespace detail
+/// @endcond
 
 /// The Kaiser-Bessel-derived window: the square root of the running sum of a Kaiser window of N + 1 points,
 /// in a span of 2N elements. Audio codecs use alpha = 4 for long blocks. A larger alpha, up to 200, has a
