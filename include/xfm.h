@@ -80,8 +80,8 @@ enum {
   xfmStsBadScale = -16 /**< the scale flag is not one of the four values */
 };
 
-/**
- * Scale flags. A transform takes exactly one; they do not combine. The flag selects the factor s of the transform:
+/** @name Scale flags
+ * A transform takes exactly one scale flag; they do not combine. The flag selects the factor s of the transform:
  *
  * | flag                  | forward   | inverse   | Hartley, Walsh-Hadamard |
  * |-----------------------|-----------|-----------|-------------------------|
@@ -92,13 +92,15 @@ enum {
  *
  * With any flag but the last, forward and inverse transform together return the input, and so does a Hartley or
  * Walsh-Hadamard transform applied twice, if that is by 1/sqrt(N). The DCT-IV has no flag.
- */
+ * @{ */
+/** The scale flags. */
 enum {
   XFM_SCALE_FWD_BY_N = 1,  /**< the forward direction carries 1/N */
   XFM_SCALE_INV_BY_N = 2,  /**< the inverse direction carries 1/N */
   XFM_SCALE_BY_SQRT_N = 4, /**< both directions carry 1/sqrt(N) */
   XFM_SCALE_NONE = 8       /**< no factor in either direction */
 };
+/** @} */
 
 /** Version and build of the library. */
 typedef struct {
@@ -1545,6 +1547,8 @@ xfmStatus xfmWHTGetBufferSize_64f(int32_t order, uint32_t* size);
 
 /** @name DCT4
  * xfmDCT4_TYPE
+ * The discrete cosine transform of type IV. xfmDCT4InitAlloc_TYPE makes a state, xfmDCT4_TYPE runs it, xfmDCT4Free_TYPE
+ * releases it.
  * @{ */
 /** A state of the DCT-IV in single precision, opaque: a plan, its tables and its work areas in one block of memory. */
 typedef struct xfmDCT4State_32f xfmDCT4State_32f;

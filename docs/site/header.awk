@@ -1,7 +1,7 @@
 # A public header as the site needs it. awk -f header.awk HEADER
 # In a header one comment holds for all declarations up to the next comment. Here each declaration has the comment's first
 # sentence, and refers to the first one for the rest. A named part of the header becomes a topic, below that of the header;
-# the comment of a family, which has the letter N in its name, becomes the text of its topic.
+# the comment of a family becomes the text of its topic.
 FNR == 1 {
   header = FILENAME
   sub(/.*\//, "", header)
@@ -18,7 +18,7 @@ FNR == 1 {
     title = substr(line, 4)
     line = " *"
   }
-  family = title ~ /_N_/
+  family = title ~ /_N_|^(Many|Lookup) /
   print "/** @defgroup " topic " " title "\n * @ingroup " parent
   if (!family) print line
   named = 1
@@ -30,6 +30,9 @@ family && /^ \* @{ \*\/$/ { next }  # after the text
 comment {
   text = text " " $0
   closed = sub(/\*\/$/, family ? "* @{ */" : "*/")
+  # Flags and paragraphs of their own.
+  if (family && /XFM_SCALE_NONE/) sub(/XFM_SCALE_NONE/, "@ref Scale_flags \"scale flags\"")
+  if (/^ \* (Sources|Hazards):/) print " *"
   if (!family || $0 != "/**") print
   if (closed) {
     brief = text

@@ -2,6 +2,8 @@
 # files are links to pages. awk -f markdown.awk PAGE
 #   [text](layouts.md#conversion)   becomes  [text](@ref layouts_conversion)
 #   ## Conversion                   becomes  ## Conversion {#layouts_conversion}
+#   [layouts.md](layouts.md)        becomes  [The packed layouts of real transforms](@ref layouts)
+#   `xfmHartley_N_32f`              becomes  [xfmHartley_N_32f](@ref Hartley)
 # Links to files that are not in the site become plain text. The first page, docs/README.md, has the others below it.
 
 # The name of a page, by its path as seen from this one.
@@ -29,6 +31,14 @@ function exists(path,    line, found) {
   return found
 }
 
+# The first heading of a page.
+function title_of(path,    line) {
+  getline line < path
+  close(path)
+  sub(/^# */, "", line)
+  return line
+}
+
 function link(text, target,    parts, page) {
   if (target ~ /^[a-z]+:/) return "[" text "](" target ")"
   split(target, parts, "#")
@@ -39,9 +49,27 @@ function link(text, target,    parts, page) {
   }
   if (parts[1] !~ /\.md$/ || !exists(here "/" parts[1])) return text
   page = page_of(parts[1])
+  if (text == target) text = title_of(here "/" parts[1])
   if (parts[2] != "") return "[" text "](@ref " page "_" slug(parts[2]) ")"
   if (this == "index" && !seen[page]++ && page != "index") return "@subpage " page " \"" text "\""
   return "[" text "](@ref " page ")"
+}
+
+# Families named in code lead to their descriptions, and other functions to theirs.
+function with_functions(line,    out, name, target) {
+  while (match(line, /`xfm[A-Za-z0-9_]+`/)) {
+    name = target = substr(line, RSTART + 1, RLENGTH - 2)
+    if (name ~ /^xfm(Many)?(DFT(Fwd|Inv)_[A-Za-z]+|Hartley|WHT|DCT4)(_N)?(_(32|64)fc?)?$/) {
+      sub(/^xfm(Many)?/, target ~ /^xfmMany/ ? "Many_" : "", target)
+      sub(/(_N)?(_(32|64)fc?)?$/, "", target)
+      target = "[" name "](@ref " target ")"
+    } else {
+      target = "`" name "`"
+    }
+    out = out substr(line, 1, RSTART - 1) target
+    line = substr(line, RSTART + RLENGTH)
+  }
+  return out line
 }
 
 function with_links(line,    out, text, target) {
@@ -88,4 +116,4 @@ code || /^    [^ ]/ { print; next }
   print $0 " {#" this "_" slug(heading) "}"
   next
 }
-{ print with_links($0) }
+{ print with_functions(with_links($0)) }

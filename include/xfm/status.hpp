@@ -9,6 +9,7 @@
 
 #include "xfm.h"
 
+/// The transforms of xfm for C++20, on spans. docs/cpp.md shows each part with examples.
 namespace xfm {
 
 /// The result of a call that can fail. The values are those of xfmStatus. There is none for a null pointer,
