@@ -8,6 +8,7 @@
 
 #include "gen/write/batch.h"
 #include "gen/write/emit.h"
+#include "tools/measured.h"
 
 namespace xfm {
 namespace {
@@ -111,7 +112,20 @@ class Bodies {
   std::map<Key, std::string> known_;
 };
 
-std::string row(const Kernel& kernel, const Owner& owner) {
+int singles_at(const Family& family, int length, const ElementType& type, const gen::Target& target,
+               Singles singles) {
+  return singles.value_or(chosen_singles(target, family.name, type, length - family.lowest));
+}
+
+/// Whether contiguous transforms have a body of their own: where one may pay and groups are faster than
+/// single calls.
+bool has_contiguous_body(const Family& family, int length, const ElementType& type, const gen::Target& target,
+                         Singles singles) {
+  return gen::contiguous_body_pays(type) && singles_at(family, length, type, target, singles) <
+                                                target.lanes_of_batch(type.precision, type.complex);
+}
+
+std::string row(const Kernel& kernel, const Owner& owner, bool contiguous) {
   const bool in_loop = kernel.length <= longest_in_loop;
   const std::string name = kernel.short_name(), type = kernel.type.name();
   const std::string one_by_one =
@@ -121,8 +135,8 @@ std::string row(const Kernel& kernel, const Owner& owner) {
              "extern const Row<{0}> row_{1};\n"
              "constinit const Row<{0}> row_{1} = {{{2}::body, {3}, {1}::factors_{1},\n    {4}, {5}, "
              "{6}}};\n\n",
-             type, name, owner.name, has_contiguous_body(kernel.type) ? name + "::contiguous" : "nullptr",
-             one_by_one, places(kernel, kernel.read, kernel.numbering.inputs, false, {}),
+             type, name, owner.name, contiguous ? name + "::contiguous" : "nullptr", one_by_one,
+             places(kernel, kernel.read, kernel.numbering.inputs, false, {}),
              places(kernel, kernel.written, kernel.numbering.outputs, owner.reversed, stored_zeros(kernel)));
 }
 
@@ -151,7 +165,7 @@ std::string export_map_of_batches() {
   return text + "  local: *;\n};\n";
 }
 
-std::string functions_of_batches(const gen::Target& target) {
+std::string functions_of_batches(const gen::Target& target, Singles singles) {
   std::string rows, functions;
   for_each_function([&](const Family& family, const ElementType& type) {
     const int lanes = target.lanes_of_batch(type.precision, type.complex);
@@ -163,8 +177,7 @@ std::string functions_of_batches(const gen::Target& target) {
         row = fmt::format("walsh_hadamard::row<{}, {}, {}>", type.name(), lanes, length);
       else
         rows += fmt::format("extern const Row<{}> {};\n", type.name(), row);
-      choices += fmt::format("    {{&{}, singles(\"{}\", \"{}\", \"{}\", {})}},\n", row, target.name,
-                             family.name, type.suffix(), length - family.lowest);
+      choices += fmt::format("    {{&{}, {}}},\n", row, singles_at(family, length, type, target, singles));
     }
     rows += fmt::format("static constexpr Choice<{0}> rows_{1}_{2}[] = {{\n{3}}};\n\n", type.name(),
                         family.name, type.suffix(), choices);
@@ -177,7 +190,7 @@ std::string functions_of_batches(const gen::Target& target) {
         family.takes_buffer() ? ", buffer" : "");
   });
   return fmt::format(
-      "{}#include \"src/many/singles.h\"\n#include \"src/many/walsh_hadamard.h\"\n#include "
+      "{}#include \"src/many/walsh_hadamard.h\"\n#include "
       "\"xfm_many.h\"\n\nnamespace xfm::many {{\n{}}}  // "
       "namespace "
       "xfm::many\n\n{}",
@@ -235,7 +248,7 @@ const Batch& batch(const Kernel& kernel) {
 )";
 }
 
-std::string batches_of_length(int length, const gen::Target& target) {
+std::string batches_of_length(int length, const gen::Target& target, Singles singles) {
   std::string text = fmt::format("{}#include \"src/many/body.h\"\n\nnamespace xfm::many {{\n\n", written);
   Bodies bodies;
   for (const Family& family : families()) {
@@ -245,8 +258,9 @@ std::string batches_of_length(int length, const gen::Target& target) {
       const Owner owner = bodies.owner(kernel);
       text += fmt::format("namespace {} {{\n{}", kernel.short_name(), gen::factors(kernel, 1));
       if (owner.name == kernel.short_name()) text += emit_batch_body(kernel, target);
-      if (has_contiguous_body(type)) text += emit_contiguous_body(kernel, target);
-      text += "}\n" + row(kernel, owner);
+      const bool contiguous = has_contiguous_body(family, length, type, target, singles);
+      if (contiguous) text += emit_contiguous_body(kernel, target);
+      text += "}\n" + row(kernel, owner, contiguous);
     }
   }
   return text + "}  // namespace xfm::many\n";

@@ -1,13 +1,13 @@
 #include "tools/measured.h"
 
 #include <algorithm>
-#include <iterator>
+#include <span>
 #include <stdexcept>
 
 namespace xfm {
 namespace {
 
-/// A character for each length from 2 on.
+/// A character for each length.
 struct Row {
   std::string_view target, family, type, of_lengths;
 };
@@ -19,14 +19,23 @@ constexpr Row orders[] = {
 #define ORDER(target, family, type, letters) {#target, #family, #type, letters},
 #include "tools/orders.def"
 };
+constexpr Row singles[] = {
+#define SINGLES(target, family, type, digits) {#target, #family, #type, digits},
+#include "tools/singles.def"
+};
 
-/// A kernel's character, or 0 if the target has no row.
-template <std::size_t size>
-char found(const Row (&rows)[size], const gen::Kernel& kernel, const gen::Target& target) {
-  const auto* const row = std::ranges::find_if(rows, [&](const Row& of) {
-    return of.target == target.name && of.family == kernel.family && of.type == kernel.type.suffix();
+/// The character of a family's length number `at`, or 0 if the target has no row.
+char found(std::span<const Row> rows, const gen::Target& target, std::string_view family,
+           const gen::ElementType& type, int at) {
+  const auto row = std::ranges::find_if(rows, [&](const Row& of) {
+    return of.target == target.name && of.family == family && of.type == type.suffix();
   });
-  return row == std::end(rows) ? '\0' : row->of_lengths.at(static_cast<std::size_t>(kernel.length - 2));
+  return row == rows.end() ? '\0' : row->of_lengths.at(static_cast<std::size_t>(at));
+}
+
+/// A kernel's; lengths count from 2 on.
+char found(std::span<const Row> rows, const gen::Kernel& kernel, const gen::Target& target) {
+  return found(rows, target, kernel.family, kernel.type, kernel.length - 2);
 }
 
 }  // namespace
@@ -44,6 +53,12 @@ int chosen_lanes(const gen::Kernel& kernel, const gen::Target& target) {
 gen::Order chosen_order(const gen::Kernel& kernel, const gen::Target& target) {
   const char letter = found(orders, kernel, target);
   return order_of(letter == '\0' ? found(orders, kernel, gen::baseline()) : letter);
+}
+
+int chosen_singles(const gen::Target& target, std::string_view family, const gen::ElementType& type,
+                   int row) {
+  const char digit = found(singles, target, family, type, row);
+  return digit == '\0' ? 1 : digit - '0';
 }
 
 gen::Order order_of(char letter) {

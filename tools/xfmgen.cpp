@@ -170,7 +170,7 @@ void costs(const Form& form) {
 }
 
 // The batch kernels of a target, one file for each length, and what is the same for all targets.
-void write_batches(const std::filesystem::path& out, const Target& target) {
+void write_batches(const std::filesystem::path& out, const Target& target, xfm::Singles singles) {
   const auto write = [&](const std::string& name, const std::string& text) {
     xfm::gen::write_if_changed(out / name, text);
   };
@@ -179,8 +179,8 @@ void write_batches(const std::filesystem::path& out, const Target& target) {
     if (!family.by_hand()) std::ranges::copy(family.lengths(), std::inserter(lengths, lengths.end()));
   }
   for (const int length : lengths)
-    write(fmt::format("batch_{}.cpp", length), xfm::batches_of_length(length, target));
-  write("many.cpp", xfm::functions_of_batches(target));
+    write(fmt::format("batch_{}.cpp", length), xfm::batches_of_length(length, target, singles));
+  write("many.cpp", xfm::functions_of_batches(target, singles));
   if (target.name != xfm::gen::baseline().name) return;
   write("xfmmany.map", xfm::export_map_of_batches());
   write("many_catalogue.cpp", xfm::catalogue_of_batches());
@@ -192,6 +192,7 @@ int run(int argc, char** argv) {
   std::vector<std::string> target_names{std::string(xfm::gen::baseline().name)};
   std::tuple<std::string, int, std::string> shown, program;
   int lanes = 0;
+  xfm::Singles singles;
   bool check = false, list_costs = false, many = false, lookup = false;
   app.add_option("--out", out, "Write all generated sources below this folder, in those of the targets");
   app.add_option("--batches", batches, "Write the generated sources of batches, likewise");
@@ -199,6 +200,8 @@ int run(int argc, char** argv) {
       ->capture_default_str();
   app.add_option("--lanes", lanes, "Up to so many lanes wherever possible, instead of those of the table");
   app.add_option("--order", order, "One order for all, by its letter, instead of those of the table");
+  app.add_option("--singles", singles,
+                 "With --batches: up to so many contiguous transforms one by one, instead of the table's");
   app.add_option("--show", shown, "FAMILY N TYPE: tree, costs, rules and text of one kernel");
   app.add_option("--program", program, "FAMILY N TYPE: the scalar program of one kernel");
   app.add_option("--tree", tree, "With --show and --program: this tree instead of the row's");
@@ -214,7 +217,7 @@ int run(int argc, char** argv) {
   for (const std::string& name : target_names) {
     const Target& target = xfm::gen::target(name);
     if (!out.empty()) write_all(out / std::filesystem::path(target.folder), {target, lanes, order, pairing});
-    if (!batches.empty()) write_batches(batches / std::filesystem::path(target.folder), target);
+    if (!batches.empty()) write_batches(batches / std::filesystem::path(target.folder), target, singles);
   }
   const Form form{xfm::gen::target(target_names.front()), lanes, order, pairing};
   if (list_costs) costs(form);

@@ -190,7 +190,7 @@ std::string emit_batch_body(const Kernel& kernel, const Target& target) {
          BatchBody(kernel, target, false).text() + "}\n";
 }
 
-bool has_contiguous_body(const ElementType& type) {
+bool contiguous_body_pays(const ElementType& type) {
   return type.complex && type.precision == Precision::binary32;
 }
 

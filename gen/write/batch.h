@@ -14,9 +14,9 @@ Kernel batch_kernel(Kernel kernel);
 /// The body of a batch kernel: a function called body.
 std::string emit_batch_body(const Kernel& kernel, const Target& target);
 
-/// Whether contiguous transforms have a body of their own, without a transposition before and behind. Of
+/// Whether a body for contiguous transforms, without a transposition before and behind, may pay. Of
 /// binary32 complex numbers two fit into 128 bits, so that single kernels shuffle more than others.
-bool has_contiguous_body(const ElementType& type);
+bool contiguous_body_pays(const ElementType& type);
 /// This body: a function called contiguous.
 std::string emit_contiguous_body(const Kernel& kernel, const Target& target);
 
