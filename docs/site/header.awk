@@ -29,11 +29,12 @@ family && /^ \* @{ \*\/$/ { next }  # after the text
 /^\/\*\*/ { text = ""; comment = 1 }
 comment {
   text = text " " $0
-  closed = sub(/\*\/$/, family ? "* @{ */" : "*/")
+  closed = sub(/\*\/$/, family ? "\n * @{ */" : "*/")
   # Flags and paragraphs of their own.
   if (family && /XFM_SCALE_NONE/) sub(/XFM_SCALE_NONE/, "@ref Scale_flags \"scale flags\"")
   if (/^ \* (Sources|Hazards):/) print " *"
-  if (!family || $0 != "/**") print
+  if (family) sub(/^\/\*\*/, " *")
+  print
   if (closed) {
     brief = text
     gsub(/\/\*\*|\*\/| \* /, " ", brief)

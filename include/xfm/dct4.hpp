@@ -89,10 +89,12 @@ class dct4 {
   static xfmStatus run(const double* in, double* out, xfmDCT4State_64f* of) {
     return xfmDCT4_64f(in, out, of);
   }
+  /// @cond
   struct release {
     void operator()(xfmDCT4State_32f* of) const noexcept { xfmDCT4Free_32f(of); }
     void operator()(xfmDCT4State_64f* of) const noexcept { xfmDCT4Free_64f(of); }
   };
+  /// @endcond
 
   void swap(dct4& other) noexcept {
     std::swap(state_, other.state_);

@@ -167,10 +167,12 @@ requires(N == std::dynamic_extent || dft_length<N>) class half_spectrum {
   constexpr auto end() const noexcept { return view().end(); }
 
  private:
+  /// @cond
   struct run_time_length {
     std::size_t value;
   };
   struct fixed_length {};
+  /// @endcond
   static constexpr bool is_fixed = N != std::dynamic_extent;
 
   std::conditional_t<is_fixed, std::array<T, element_count(Layout, is_fixed ? N : 0)>, std::vector<T>>

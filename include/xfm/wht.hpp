@@ -31,9 +31,11 @@ class wht_buffer {
   void* data() noexcept { return blocks_.get(); }
 
  private:
+  /// @cond
   struct alignas(16) block {
     std::byte bytes[16];
   };
+  /// @endcond
 
   /// A longer transform may need less than a shorter one.
   static std::size_t count() noexcept {
