@@ -1496,8 +1496,9 @@ xfmStatus xfmHartley_64_64f(const xfm64f* src, xfm64f* dst, int32_t flag);
  * xfmWHTGetBufferSize_TYPE returns, aligned to 16 bytes. What it contains does not matter, before or after the call.
  * It serves one call at a time. If buffer is null, each call does one xfmMalloc and one xfmFree, and the bits are the
  * same.
- * Hazards: the result of that xfmMalloc is not tested, so a program that is out of memory crashes there. A buffer that
- * is not aligned to 16 bytes may crash the program as well. A buffer that is too small is written past its end.
+ * Hazards: the result of that xfmMalloc is not tested: when memory is exhausted, a null pointer is dereferenced. A
+ * buffer that is not aligned to 16 bytes may crash the program as well. A buffer that is too small is written past its
+ * end.
  *
  * Errors, in the order of the tests: xfmStsBadSize (unsupported order, generic functions only), xfmStsNullPtr (src
  * or dst is null), xfmStsBadScale (flag). A failed call writes nothing.
@@ -1583,6 +1584,8 @@ xfmStatus xfmDCT4GetSize_64f(int32_t length, int32_t* size);
  * The size of the block is not tested, and the size returned is exact with one exception: where bit 31 of an address is
  * set, a block that is not aligned to 32 bytes wastes up to 31 bytes more, and a state of N = 2 .. 32 may end up to 23
  * bytes beyond the size returned. Align blocks to 32 bytes, and this does not concern you.
+ * A length that xfmDCT4GetSize_TYPE refuses has no size: it may be refused here only after part of a plan was written,
+ * past the end of any block. Ask for the size first.
  *
  * Errors, in the order of the tests: xfmStsNullPtr (state or block is null), xfmStsBadSize (no plan for this length);
  * *state is then unchanged.

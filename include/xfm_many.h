@@ -129,7 +129,8 @@ xfmStatus xfmManyHartley_64f(const xfm64f* src, int64_t srcStride, int64_t srcDi
  * a copy where transforms are not contiguous.
  * buffer is that of single calls: ignored up to order 7, then work space of at least the size that
  * xfmWHTGetBufferSize_TYPE returns, aligned to 16. It serves one call at a time. If it is null, the batch does one
- * xfmMalloc and one xfmFree, whose result is not checked. */
+ * xfmMalloc and one xfmFree. The result of xfmMalloc is not tested: when memory is exhausted, a null pointer is
+ * dereferenced. */
 xfmStatus xfmManyWHT_32f(const xfm32f* src, int64_t srcStride, int64_t srcDistance, xfm32f* dst, int64_t dstStride,
     int64_t dstDistance, int32_t order, int64_t count, int32_t flag, void* buffer);
 xfmStatus xfmManyWHT_64f(const xfm64f* src, int64_t srcStride, int64_t srcDistance, xfm64f* dst, int64_t dstStride,

@@ -76,8 +76,9 @@ buffer: ignored for the orders 1 to 7. From order 8 on it is work space of at le
 xfmWHTGetBufferSize_TYPE returns, aligned to 16 bytes. What it contains does not matter, before or after the call.
 It serves one call at a time. If buffer is null, each call does one xfmMalloc and one xfmFree, and the bits are the
 same.
-Hazards: the result of that xfmMalloc is not tested, so a program that is out of memory crashes there. A buffer that
-is not aligned to 16 bytes may crash the program as well. A buffer that is too small is written past its end.
+Hazards: the result of that xfmMalloc is not tested: when memory is exhausted, a null pointer is dereferenced. A
+buffer that is not aligned to 16 bytes may crash the program as well. A buffer that is too small is written past its
+end.
 
 @ERRORS@
 Sources: Good 1958; Fino and Algazi 1976; for the cut into passes Johnson and Pueschel 2000.)";

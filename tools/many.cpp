@@ -28,7 +28,8 @@ const char* const about_walsh_hadamard = R"( Up to order 6 one transform is comp
  * a copy where transforms are not contiguous.
  * buffer is that of single calls: ignored up to order 7, then work space of at least the size that
  * xfmWHTGetBufferSize_TYPE returns, aligned to 16. It serves one call at a time. If it is null, the batch does one
- * xfmMalloc and one xfmFree, whose result is not checked.)";
+ * xfmMalloc and one xfmFree. The result of xfmMalloc is not tested: when memory is exhausted, a null pointer is
+ * dereferenced.)";
 
 template <class Visit>
 void for_each_function(Visit visit) {
