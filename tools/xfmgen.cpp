@@ -9,6 +9,7 @@
 #include <tuple>
 
 #include "gen/algorithms/rules.h"
+#include "gen/bounds/bounds.h"
 #include "gen/write/emit.h"
 #include "gen/write/files.h"
 #include "tools/listing.h"
@@ -130,6 +131,23 @@ void show_rules(const xfm::gen::Tree& tree, std::set<std::string_view>& shown) {
   for (const xfm::gen::Tree& arg : tree.args) show_rules(arg, shown);
 }
 
+// Certified for every output, in units of the roundoff u.
+void show_bounds(const Named& what, const std::string& tree, const Kernel& kernel) {
+  const xfm::gen::Precision precision = what.type.precision;
+  const xfm::gen::Design design = what.family->design(what.length, precision, tree, xfm::gen::baseline());
+  const xfm::gen::Matrix exact = matrix_of(design.definition, kernel.read, kernel.written);
+  const auto bound = [&](xfm::gen::Factor factor) {
+    return greatest(xfm::gen::bounds(*kernel.network, precision, exact, factor));
+  };
+  const xfm::gen::Bound plain = bound(xfm::gen::Factor::one), scaled = bound(xfm::gen::Factor::any);
+  const bool single = precision == xfm::gen::Precision::binary32;
+  fmt::print(
+      "  bounds     {:.4g} u |x|, {:.4g} u if all |x(i)| <= 1; by a factor {:.4g}, {:.4g}; u is 2^{}\n",
+      plain.norm, plain.unit, scaled.norm, scaled.unit, single ? -24 : -53);
+  fmt::print("  underflow  {:.4g} t; by a factor {:.4g} t; t is 2^{}\n", plain.underflow, scaled.underflow,
+             single ? -150 : -1075);
+}
+
 void show(const Named& what, const std::string& tree, const Form& form) {
   const Kernel kernel = made(what, tree, form);
   const xfm::gen::Counts counts = count(*kernel.network);
@@ -141,6 +159,7 @@ void show(const Named& what, const std::string& tree, const Form& form) {
       "{} loads, {} stores\n",
       kernel.network->width(), counts.add_nodes, counts.mult_nodes, counts.permutations, counts.loads,
       counts.stores);
+  show_bounds(what, tree, kernel);
   std::set<std::string_view> shown;
   show_rules(parsed, shown);
   xfm::gen::SharedConstants shared("xfm");
@@ -202,7 +221,7 @@ int run(int argc, char** argv) {
   app.add_option("--order", order, "One order for all, by its letter, instead of those of the table");
   app.add_option("--singles", singles,
                  "With --batches: up to so many contiguous transforms one by one, instead of the table's");
-  app.add_option("--show", shown, "FAMILY N TYPE: tree, costs, rules and text of one kernel");
+  app.add_option("--show", shown, "FAMILY N TYPE: tree, costs, error bounds, rules and text of one kernel");
   app.add_option("--program", program, "FAMILY N TYPE: the scalar program of one kernel");
   app.add_option("--tree", tree, "With --show and --program: this tree instead of the row's");
   app.add_flag("--costs", list_costs, "Every kernel's cost beside its row");

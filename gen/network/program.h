@@ -48,7 +48,21 @@ enum class Equality {
 /// A collection of programs that can be compared.
 class Programs {
  public:
+  enum class Kind { input, zero, add, mul, scale, narrow };
+
+  struct Operation {
+    Kind kind;
+    Precision precision;  ///< of the result
+    int input = -1;
+    double constant = 0;
+    Result a{}, b{};
+    auto operator<=>(const Operation&) const = default;
+  };
+
   explicit Programs(Equality equality) : equality_(equality) {}
+
+  /// All operations of the collection, by number: operands come before the operations that use them.
+  const Sequence<Operation>& operations() const { return operations_; }
 
   Program read(const Network& network, Precision precision, const Numbering& numbering = {});
 
@@ -60,16 +74,6 @@ class Programs {
 
  private:
   struct Arithmetic;
-  enum class Kind { input, zero, add, mul, scale, narrow };
-
-  struct Operation {
-    Kind kind;
-    Precision precision;  ///< of the result
-    int input = -1;
-    double constant = 0;
-    Result a{}, b{};
-    auto operator<=>(const Operation&) const = default;
-  };
 
   Result make(Operation operation);
   Result zero(Precision precision) { return make({.kind = Kind::zero, .precision = precision}); }
