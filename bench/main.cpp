@@ -1,6 +1,5 @@
 // xfmbench: every kernel against a rival.
 #include <fmt/format.h>
-#include <unistd.h>
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
@@ -17,6 +16,7 @@
 #include "bench/dct4.h"
 #include "bench/many.h"
 #include "bench/plot.h"
+#include "bench/progress.h"
 #include "bench/race.h"
 #include "bench/report.h"
 #include "bench/rivals.h"
@@ -34,7 +34,7 @@ struct Options {
   int rounds = 1000;
   std::string json;
   std::string markdown;
-  std::string plot;
+  std::string plot, draw;
   bool list = false;
   bool many = false, alone = false;
   Placement placement;
@@ -56,8 +56,13 @@ void define(CLI::App& app, Options& options) {
   app.add_option("--json", options.json, "Also write all figures to FILE, as JSON")->type_name("FILE");
   app.add_option("--markdown", options.markdown, "Also write the ratios to FILE, as Markdown")
       ->type_name("FILE");
-  app.add_option("--plot", options.plot, "Also draw the ratios of each family into FOLDER, as SVG and PNG")
-      ->type_name("FOLDER");
+  auto* const plot = app.add_option("--plot", options.plot,
+                                    "Also draw the ratios of each family into FOLDER, as SVG and PNG")
+                         ->type_name("FOLDER");
+  app.add_option("--draw", options.draw,
+                 "With --plot: draw the tables of PAGE, such as docs/speed.md, instead of measuring")
+      ->type_name("PAGE")
+      ->needs(plot);
   app.add_flag("--list", options.list, "List the kernels without measuring them");
   auto* const many =
       app.add_flag("--many", options.many,
@@ -92,13 +97,6 @@ Kernels chosen(const Options& options) {
     }
   }
   return kernels;
-}
-
-/// Planning and racing take a while: shows how far they are, if somebody is watching.
-void show_progress(const char* work, std::size_t done, std::size_t all) {
-  if (!isatty(STDERR_FILENO)) return;
-  fmt::print(stderr, "\r{} {}/{}{}", work, done, all, done == all ? "\r\x1b[K" : "");
-  std::fflush(stderr);
 }
 
 std::vector<std::unique_ptr<Race>> planned(const Kernels& kernels, Placement placement,
@@ -136,6 +134,10 @@ File opened(const std::string& path) {
 }
 
 void measure(const Options& options) {
+  if (!options.draw.empty()) {
+    prepare_plots(options.plot);
+    return draw_plots(options.plot, options.draw);
+  }
   const Kernels kernels = chosen(options);
   if (kernels.empty()) throw std::runtime_error("no kernel has such a name; --list shows all names");
   if (options.list) {

@@ -12,6 +12,7 @@
 #include <stdexcept>
 
 #include "bench/fftw_many.h"
+#include "bench/progress.h"
 #include "bench/statistics.h"
 #include "bench/timing.h"
 
@@ -158,11 +159,15 @@ void race_batches(const std::vector<const Kernel*>& kernels, const ManyOptions& 
   fmt::print("cycles a transform\n{:<28} {:<12} {:>6} {:>9} {:>9} {:>9} {:>7} {:>7}\n", "kernel", "places",
              "count", "batch", "single", "FFTW", "FFTW/", "single/");
   std::map<std::string, Ratios> means;
+  std::size_t done = 0;
+  const std::size_t all = kernels.size() * std::size(counts) * 2;
   for (const Kernel* kernel : kernels) {
     for (const int count : counts) {
       for (const bool lanes : {false, true}) {
         const char* const places = lanes ? "lanes" : "contiguous";
+        show_progress("planning and racing", done++, all);
         const Times times = raced(*kernel, count, lanes, options);
+        hide_progress();
         Ratios& ratios = means[fmt::format("{} {}, {}, {}", kernel->family, kernel->type, places, count)];
         ratios.to_single.push_back(times.single / times.batch);
         if (times.rival > 0) ratios.to_rival.push_back(times.rival / times.batch);

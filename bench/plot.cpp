@@ -8,7 +8,9 @@
 #include <filesystem>
 #include <fstream>
 #include <map>
+#include <sstream>
 #include <stdexcept>
+#include <utility>
 
 namespace xfm::bench {
 
@@ -42,49 +44,127 @@ void run_gnuplot(const std::string& commands) {
   if (pclose(pipe) != 0) throw std::runtime_error("gnuplot is not installed, or cannot draw the pictures");
 }
 
-using Groups = std::vector<const Group*>;
+/// The ratios of a family and element type.
+struct Curve {
+  std::string family, type;
+  std::vector<std::pair<int, double>> ratios;  ///< by length
+};
+using Curves = std::vector<Curve>;
 
-std::map<std::string, Groups> by_family(const std::vector<Group>& groups) {
-  std::map<std::string, Groups> families;
-  for (const Group& group : groups)
-    if (group.has_rival()) families[group.family].push_back(&group);
+/// What was measured together.
+struct Measurement {
+  std::string target;
+  std::string conditions;  ///< processor and rival
+  Curves curves;
+};
+
+Measurement measurement(const Conditions& conditions, const std::vector<Group>& groups) {
+  const Build& build = conditions.build;
+  Measurement all{build.target, fmt::format("{}, {}", build.processor, conditions.rival), {}};
+  for (const Group& group : groups) {
+    if (!group.has_rival()) continue;
+    Curve& curve = all.curves.emplace_back(Curve{group.family, group.type, {}});
+    for (const Result& result : group.results)
+      curve.ratios.emplace_back(result.kernel->length, result.ratio());
+  }
+  return all;
+}
+
+/// "a | b |" after the first bar of a row.
+std::vector<std::string> cells(const std::string& row) {
+  std::vector<std::string> cells;
+  std::istringstream rest(row.substr(1));
+  for (std::string cell; std::getline(rest, cell, '|');) {
+    const auto begin = cell.find_first_not_of(' ');
+    cells.push_back(begin == cell.npos ? "" : cell.substr(begin, cell.find_last_not_of(' ') + 1 - begin));
+  }
+  return cells;
+}
+
+/// One row of a table of ratios: its heads are families with a type, other rows begin with a length, or are
+/// means.
+void read_row(const std::vector<std::string>& row, Curves& curves, std::size_t& first) {
+  if (row.front() == "N") {
+    first = curves.size();
+    for (std::size_t i = 1; i < row.size(); ++i) {
+      const auto space = row[i].find(' ');
+      curves.push_back({row[i].substr(0, space), row[i].substr(space + 1), {}});
+    }
+  } else if (row.front().find_first_not_of("0123456789") == std::string::npos) {
+    for (std::size_t i = 1; i < row.size(); ++i)
+      curves.at(first + i - 1).ratios.emplace_back(std::stoi(row.front()), std::stod(row[i]));
+  }
+}
+
+/// The sections that scripts/speed writes, from "<!-- TARGET: begin -->" on: a line of conditions, and
+/// tables.
+std::vector<Measurement> measurements(const std::string& page) {
+  std::ifstream file(page);
+  if (!file) throw std::runtime_error(fmt::format("{}: cannot be read", page));
+  std::vector<Measurement> all;
+  bool inside = false;
+  std::size_t first = 0;
+  for (std::string line; std::getline(file, line);) {
+    const auto mark = line.find(": begin -->");
+    if (line.starts_with("<!-- ") && mark != line.npos) {
+      inside = true;
+      all.push_back({line.substr(5, mark - 5), "", {}});
+    } else if (line.starts_with("<!-- ")) {
+      inside = false;
+    } else if (inside && line.starts_with("|")) {
+      read_row(cells(line), all.back().curves, first);
+    } else if (inside && all.back().conditions.empty()) {
+      const std::string prefix = all.back().target + " on ";
+      const std::string text = line.substr(0, line.find("; rounds"));
+      all.back().conditions = text.starts_with(prefix) ? text.substr(prefix.size()) : text;
+    }
+  }
+  if (all.empty()) throw std::runtime_error(fmt::format("{}: no tables of ratios", page));
+  return all;
+}
+
+std::map<std::string, Curves> by_family(const Curves& curves) {
+  std::map<std::string, Curves> families;
+  for (const Curve& curve : curves) families[curve.family].push_back(curve);
   return families;
 }
 
-std::string data(const Groups& groups) {
+std::string data(const Curves& curves) {
   std::string text;
-  for (std::size_t i = 0; i < groups.size(); ++i) {
+  for (std::size_t i = 0; i < curves.size(); ++i) {
     text += fmt::format("$ratios{} << END\n", i);
-    for (const Result& result : groups[i]->results)
-      text += fmt::format("{} {:.4f}\n", result.kernel->length, result.ratio());
+    for (const auto& [length, ratio] : curves[i].ratios) text += fmt::format("{} {:.4f}\n", length, ratio);
     text += "END\n";
   }
   return text;
 }
 
 /// Every picture includes the line at 1, with some room on either side.
-std::string ranges(const Groups& groups) {
+std::string ranges(const Curves& curves) {
   double low = 0.7, high = 2;
   int longest = 0;
-  for (const Group* group : groups) {
-    const auto ratios = group->ratios();
-    low = std::min(low, 0.9 * *std::ranges::min_element(ratios));
-    high = std::max(high, 1.2 * *std::ranges::max_element(ratios));
-    for (const Result& result : group->results) longest = std::max(longest, result.kernel->length);
+  for (const Curve& curve : curves) {
+    for (const auto& [length, ratio] : curve.ratios) {
+      low = std::min(low, 0.9 * ratio);
+      high = std::max(high, 1.2 * ratio);
+      longest = std::max(longest, length);
+    }
   }
-  const char* const scale = longest > 1000 ? "set logscale x 2\nset format x '2^{%L}'\n" : "";
+  const char* scale = "";
+  if (longest > 1000) scale = "set logscale x 2\nset format x '2^{%L}'\n";
+  if (longest == 64) scale = "set xrange [0:66]\nset xtics 8\n";
   return fmt::format("set yrange [{:.3f}:{:.3f}]\n{}", low, high, scale);
 }
 
-std::string script(const std::string& name, const Conditions& conditions, const Groups& groups) {
+std::string script(const std::string& name, const Measurement& measurement, const Curves& curves) {
   std::vector<std::string> lines;
-  for (std::size_t i = 0; i < groups.size(); ++i)
+  for (std::size_t i = 0; i < curves.size(); ++i)
     lines.push_back(fmt::format("$ratios{} with linespoints lc rgb 'black' {} title {}", i,
-                                styles[i % std::size(styles)], quoted(groups[i]->type)));
-  std::string text = data(groups) + look + ranges(groups);
-  text += fmt::format("set title {} noenhanced\n",
-                      quoted(fmt::format("{} on {}: {}, {}", groups.front()->family, conditions.build.target,
-                                         conditions.build.processor, conditions.rival)));
+                                styles[i % std::size(styles)], quoted(curves[i].type)));
+  std::string text = data(curves) + look + ranges(curves);
+  text += fmt::format(
+      "set title {} noenhanced\n",
+      quoted(fmt::format("{} on {}: {}", curves.front().family, measurement.target, measurement.conditions)));
   for (const std::string format : {"svg", "png"}) {
     const char* const terminal = format == "svg"
                                      ? "svg size 800,480 font 'DejaVu Sans,12' background 'white'"
@@ -95,6 +175,14 @@ std::string script(const std::string& name, const Conditions& conditions, const 
   return text;
 }
 
+void draw(const std::string& folder, const Measurement& measurement) {
+  for (const auto& [family, curves] : by_family(measurement.curves)) {
+    const std::string name = measurement.target + "." + family;
+    std::ofstream(std::filesystem::path(folder) / (name + ".gp")) << script(name, measurement, curves);
+    run_gnuplot(fmt::format("cd {}\nload {}\n", quoted(folder), quoted(name + ".gp")));
+  }
+}
+
 }  // namespace
 
 void prepare_plots(const std::string& folder) {
@@ -103,11 +191,11 @@ void prepare_plots(const std::string& folder) {
 }
 
 void draw_plots(const std::string& folder, const Conditions& conditions, const std::vector<Group>& groups) {
-  for (const auto& [family, of_family] : by_family(groups)) {
-    const std::string name = conditions.build.target + "." + family;
-    std::ofstream(std::filesystem::path(folder) / (name + ".gp")) << script(name, conditions, of_family);
-    run_gnuplot(fmt::format("cd {}\nload {}\n", quoted(folder), quoted(name + ".gp")));
-  }
+  draw(folder, measurement(conditions, groups));
+}
+
+void draw_plots(const std::string& folder, const std::string& page) {
+  for (const Measurement& measurement : measurements(page)) draw(folder, measurement);
 }
 
 }  // namespace xfm::bench

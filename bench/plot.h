@@ -15,4 +15,7 @@ void prepare_plots(const std::string& folder);
 /// each type, and TARGET.FAMILY.gp draws them again: it holds the figures and the commands.
 void draw_plots(const std::string& folder, const Conditions& conditions, const std::vector<Group>& groups);
 
+/// The same for the sections of a page that scripts/speed wrote, docs/speed.md, without measuring.
+void draw_plots(const std::string& folder, const std::string& page);
+
 }  // namespace xfm::bench
