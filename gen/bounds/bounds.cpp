@@ -94,6 +94,7 @@ ErrorAnalysis::ErrorAnalysis(const Network& network, Precision precision, int in
     find_form(id);
     find_running_error(id);
   }
+  find_inputs_read();
   find_gains();
   find_groups();
 }
@@ -179,6 +180,12 @@ void ErrorAnalysis::find_running_error(int id) {
   value.underflow_after = value.underflow_before * (1 + u * value.rounding) + value.underflow;
 }
 
+void ErrorAnalysis::find_inputs_read() {
+  for (const Programs::Operation& operation : operations_) {
+    if (operation.kind == Kind::input) read_.push_back(operation.input);
+  }
+}
+
 // From the outputs back to the inputs.
 void ErrorAnalysis::find_gains() {
   for (int j = 0; j < program_.size(); ++j) {
@@ -210,7 +217,8 @@ void ErrorAnalysis::find_groups() {
     Sequence<Row> rows;
     for (const int id : group.values) {
       const double norm = values_[id].size.norm;
-      rows.push_back(tabulated(inputs_, [&](int i) { return norm > 0 ? rows_[id][i] / norm : 0; }));
+      rows.push_back(
+          tabulated(read_.size(), [&](int i) { return norm > 0 ? rows_[id][read_[i]] / norm : 0; }));
     }
     group.spectral_norm = spectral_norm_bound(rows);
     groups_.push_back(std::move(group));
@@ -235,7 +243,7 @@ Bound ErrorAnalysis::roundings(int output, Factor factor) const {
     }
     const double at_once = std::sqrt(squares) * group.spectral_norm;
     total.norm += std::min(norms, at_once);
-    total.unit += std::min(sums, at_once * std::sqrt(inputs_));
+    total.unit += std::min(sums, at_once * std::sqrt(read_.size()));
   }
   for (int id = 0; id < values_.size(); ++id) {
     const Value& value = values_[id];

@@ -83,6 +83,7 @@ class ErrorAnalysis {
   void classify(int id);
   void find_form(int id);
   void find_running_error(int id);
+  void find_inputs_read();
   void find_gains();
   void find_groups();
   Bound roundings(int output, Factor factor) const;
@@ -93,6 +94,7 @@ class ErrorAnalysis {
   Programs programs_{Equality::bits};
   const Program program_;
   const Sequence<Programs::Operation>& operations_;
+  Sequence<int> read_;  ///< the inputs that are: not those at the places of a layout's zeros
   Sequence<Value> values_;
   Sequence<Sequence<Wide>> forms_;
   Sequence<Row> rows_;   ///< the forms in binary64

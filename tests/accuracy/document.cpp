@@ -18,7 +18,7 @@ using Line = std::array<const Measured*, 2>;
 
 std::string rows_of_exceptions(const std::vector<Measured>& measured) {
   std::string rows;
-  for (const auto& [kernel, errors] : measured) {
+  for (const auto& [kernel, errors, certified] : measured) {
     if (errors.worst <= common_bound(kernel)) continue;
     rows +=
         "| `" + std::string(kernel.name) + "` | " + kernel.tree + " | " + rounded_up(errors.worst) + " |\n";
@@ -33,16 +33,19 @@ std::string exceptions(const std::vector<Measured>& measured) {
 }
 
 std::string cells(const Measured* measured) {
-  if (measured == nullptr) return " | |";
-  const auto& [kernel, errors] = *measured;
+  if (measured == nullptr) return " | | | |";
+  const auto& [kernel, errors, certified] = *measured;
   const bool beyond = errors.worst > common_bound(kernel);
   const std::string mark = beyond ? "**" : "";
-  return " " + mark + rounded_up(errors.worst) + mark + " | " + rounded_up(errors.rms) + " |";
+  return " " + mark + rounded_up(errors.worst) + mark + " | " + rounded_up(errors.rms) + " | " +
+         rounded_up(certified.norm) + " | " + rounded_up(certified.unit) + " |";
 }
 
 std::string table(const std::map<int, Line>& lines) {
   std::string text =
-      "\n\n| N | binary32: worst | r.m.s. | binary64: worst | r.m.s. |\n|---|---|---|---|---|\n";
+      "\n\n| N | binary32: worst | r.m.s. | bound | in -1 .. 1 | binary64: worst | r.m.s. | bound | in -1 .. "
+      "1 "
+      "|\n|---|---|---|---|---|---|---|---|---|\n";
   for (const auto& [length, line] : lines)
     text += "| " + std::to_string(length) + " |" + cells(line[0]) + cells(line[1]) + "\n";
   return text;
@@ -81,6 +84,45 @@ std::string figures(const std::vector<Measured>& measured) {
   for (const auto& [body, heading] : headings) tables[heading] = body;
   std::string text = "\n" + exceptions(measured);
   for (const auto& [heading, body] : tables) text.append("\n## ").append(heading).append(body);
+  return text;
+}
+
+namespace {
+
+std::string bound_by_measured(const Record::Reached& reached) {
+  char text[32];
+  std::snprintf(text, sizeof text, "%.2g", 1 / reached.part);
+  return text;
+}
+
+std::string row_of_dct4(const Record& record, int exponent) {
+  std::string row = "| 2^" + std::to_string(exponent) + " |";
+  for (const Precision precision : {Precision::binary32, Precision::binary64}) {
+    const bool single = precision == Precision::binary32;
+    if (exponent > (single ? 26 : 25)) return row + " | |\n";
+    const std::string name = "xfmDCT4_" + std::to_string(1 << exponent) + (single ? "_32f" : "_64f");
+    const Certified certified = record.certified(name, precision);
+    row += " " + rounded_up(certified.norm) + " | " + rounded_up(certified.unit) + " |";
+  }
+  return row + "\n";
+}
+
+}  // namespace
+
+std::string figures(const Record& record) {
+  const auto& reached = record.reached();
+  const auto& least = reached.front();
+  const auto& middle = reached[reached.size() / 2];
+  const auto& greatest = reached.back();
+  std::string text = "\n## How near inputs come to the bounds\n\n| kernels certified | " +
+                     std::to_string(reached.size()) + " |\n|---|---|\n| least bound / measured | " +
+                     bound_by_measured(greatest) + ", `" + greatest.name + "` |\n| median | " +
+                     bound_by_measured(middle) + " |\n| greatest | " + bound_by_measured(least) + ", `" +
+                     least.name + "` |\n";
+  text +=
+      "\n## DCT4\n\n| N | binary32: bound | in -1 .. 1 | binary64: bound | in -1 .. 1 "
+      "|\n|---|---|---|---|---|\n";
+  for (int exponent = 1; exponent <= 26; ++exponent) text += row_of_dct4(record, exponent);
   return text;
 }
 

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "tests/accuracy/errors.h"
+#include "tests/accuracy/record.h"
 
 namespace xfm::test {
 
@@ -13,6 +14,9 @@ std::string rounded_up(double value);
 
 /// The kernels beyond the bound of their precision, then a table for each family.
 std::string figures(const std::vector<Measured>& measured);
+
+/// The record of certified bounds: how near to them inputs come, and a table of the DCT-IV.
+std::string figures(const Record& record);
 
 /// The first line in which two texts differ, from both; empty for equal texts.
 std::string first_difference(const std::string& published, const std::string& measured);

@@ -16,9 +16,16 @@ struct Errors {
 /// infinitely wrong. The mean is over scalars that are read and computed, so not over zeros of a layout.
 Errors errors_of_matrix(const catalogue::Kernel& kernel, const Definition& definition);
 
+/// What no output is off by more than, as tests/bounds certifies it.
+struct Certified {
+  double norm = 0;  ///< for |x|_2 = 1
+  double unit = 0;  ///< for inputs in -1 .. 1
+};
+
 struct Measured {
   catalogue::Kernel kernel;
   Errors errors;
+  Certified certified{};
 };
 
 /// Every kernel of the catalogue against its definition.
