@@ -33,8 +33,9 @@ cp -r "$source/packaging/debian" "$root/xfm"
 cp -r "$source/tests/targets" "$root/xfm/tests"
 [ -e "$root/proc/cpuinfo" ] || cp /proc/cpuinfo "$root/proc" # what choice.sh reads
 
-apt install $(cd "$root/xfm/packages" && printf '/xfm/packages/%s ' *.deb) g++ pkg-config >"$root.log" 2>&1 ||
-  { cat "$root.log" && exit 1; }
+mapfile -t files < <(inside sh -c 'ls /xfm/packages/*.deb')
+mapfile -t needed < <(sed -n 's/^Depends: //p' "$source/packaging/debian/tests/control" | tr -d ' ' | tr , '\n')
+apt install "${files[@]}" "${needed[@]}" >"$root.log" 2>&1 || { cat "$root.log" && exit 1; }
 echo "Packages installed after $SECONDS s"
 inside /xfm/debian/tests/readme
 
