@@ -73,8 +73,9 @@ TEST(Errors, NanIsInfinitelyWrong) {
 TEST(Figures, TableOfAFamily) {
   const Kernel& narrow = kernel_named("xfmDFTFwd_CToC_8_32fc");
   const Kernel& wide = kernel_named("xfmDFTFwd_CToC_9_64fc");
-  const std::string text = figures(
-      {{narrow, {.worst = 3.001e-7, .rms = 1e-8}, {.norm = 4e-7, .unit = 5.005e-6}}, {wide, {.worst = 2e-15}}});
+  const std::string text =
+      figures({{narrow, {.worst = 3.001e-7, .rms = 1e-8}, {.norm = 4e-7, .unit = 5.005e-6}},
+               {wide, {.worst = 2e-15}}});
   EXPECT_NE(text.find("| `xfmDFTFwd_CToC_8_32fc` | " + std::string(narrow.tree) + " | 3.01e-07 |\n\n"),
             std::string::npos);
   EXPECT_NE(text.find("\n| 8 | **3.01e-07** | 1.00e-08 | 4.00e-07 | 5.01e-06 | | | | |\n"
