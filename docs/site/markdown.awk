@@ -49,7 +49,7 @@ function link(text, target,    parts, page) {
   }
   if (parts[1] !~ /\.md$/ || !exists(here "/" parts[1])) return text
   page = page_of(parts[1])
-  if (substr(target, length(target) - length(text) + 1) == text) text = title_of(here "/" parts[1])
+  if (substr(parts[1], length(parts[1]) - length(text) + 1) == text) text = title_of(here "/" parts[1])
   if (parts[2] != "") return "[" text "](@ref " page "_" slug(parts[2]) ")"
   if (this == "index" && !seen[page]++ && page != "index") return "@subpage " page " \"" text "\""
   return "[" text "](@ref " page ")"
