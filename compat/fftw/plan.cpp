@@ -32,6 +32,19 @@ bool is_off() {
   return off;
 }
 
+/// What xfm serves is not left to FFTW where that is faster: to test it.
+bool takes_all() {
+  static const bool all = std::getenv("XFM_FFTW_ALL") != nullptr;
+  return all;
+}
+
+bool there_is_fftw() { return theirs().plan_guru64_dft != nullptr; }
+
+/// Asks for FFTW last, since only then it is loaded.
+bool runs_on_xfm(const std::optional<Program>& program) {
+  return program && (program->gains || takes_all() || !there_is_fftw());
+}
+
 // ---- plans on xfm
 
 void execute_complex(const X(plan_s) & p) {
@@ -112,7 +125,7 @@ std::vector<X(iodim64)> in_elements(const std::vector<Dim>& dims, Kind kind) {
 /// Only the guru interface is called: the others may be found in this library again when FFTW calls them
 /// itself.
 X(plan) their_plan(const Problem& p) {
-  if (theirs().plan_guru64_dft == nullptr) return nullptr;
+  if (!there_is_fftw()) return nullptr;
   const auto dims = in_elements(p.dims, p.kind), loops = in_elements(p.loops, p.kind);
   const int rank = static_cast<int>(dims.size()), loop_rank = static_cast<int>(loops.size());
   switch (p.kind) {
@@ -171,8 +184,10 @@ X(plan) noting(X(plan) plan) {
 
 X(plan) plan_anywhere(const Problem& p) {
   Stopwatch watch(Where::xfm, What::plan);
-  if (!is_off() && !threads_gain(p))
-    if (auto program = program_of(p)) return noting(plan_on_xfm(p, std::move(*program)));
+  if (!is_off() && !threads_gain(p)) {
+    auto program = program_of(p);
+    if (runs_on_xfm(program)) return noting(plan_on_xfm(p, std::move(*program)));
+  }
   watch.move_to(Where::fftw);
   return handed_on(their_plan(p), their_execute(p.kind), p.in, p.out);
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "gains.h"
 #include "steps.h"
 
 namespace {
@@ -262,6 +263,28 @@ std::vector<Step> steps_of(const Problem& p, const Dims& loops) {
   return steps;
 }
 
+// ---- gains
+
+bool moves(const Step& step) {
+  constexpr Step::Run rearranging[] = {run_scattered, run_gathered, run_to_halfcomplex, run_from_halfcomplex};
+  return std::find(std::begin(rearranging), std::end(rearranging), step.run) != std::end(rearranging);
+}
+
+bool is_contiguous_batch(const Step& step) {
+  return step.run == run_complex && step.batch.n > 1 && step.transform.is == 2 && step.transform.os == 2;
+}
+
+bool gains(const Program& program, const Problem& p) {
+  const bool several = p.dims.size() > 1;
+  const auto long_enough = [&](const Dim& d) { return d.n >= least_of_rank(p.kind); };
+  if (several && !std::all_of(p.dims.begin(), p.dims.end(), long_enough)) return false;
+  return std::none_of(program.steps.begin(), program.steps.end(), [&](const Step& step) {
+    const std::ptrdiff_t n = step.transform.n;
+    return (moves(step) && n < kLeastMoved) ||
+           (!several && is_contiguous_batch(step) && n < kLeastContiguousBatch);
+  });
+}
+
 // ---- programs
 
 /// So many reals of an array are transformed in all dimensions before the next ones are: they stay in the
@@ -289,6 +312,13 @@ Program in_groups(const Problem& p) {
   program.group = {along.n / size, along.is * size, along.os * size};
   program.steps = steps_of(p, {{size, along.is, along.os}});
   if (rest != 0) program.last_steps = steps_of(p, {{rest, along.is, along.os}});
+  return program;
+}
+
+Program in_one_pass(const Problem& p) {
+  Program program;
+  program.group = {1, 0, 0};
+  program.steps = steps_of(p, p.loops);
   return program;
 }
 
@@ -326,10 +356,8 @@ std::optional<Program> program_of(const Problem& problem) {
   if (!is_proper(problem) || must_destroy(problem)) return {};
   const Problem simple = without_ones(problem);
   if (!serves(simple)) return {};
-  if (simple.dims.size() > 1) return in_groups(simple);
-  Program program;
-  program.group = {1, 0, 0};
-  program.steps = steps_of(simple, simple.loops);
+  Program program = simple.dims.size() > 1 ? in_groups(simple) : in_one_pass(simple);
+  program.gains = gains(program, simple);
   return program;
 }
 

@@ -38,6 +38,7 @@ struct Step {
 
 struct Program {
   std::vector<Dim> blocks;       ///< loops over everything below, the outermost first
+  bool gains = false;            ///< it is faster than FFTW
   Dim group;                     ///< n times steps
   std::vector<Step> steps;       ///< of one group
   std::vector<Step> last_steps;  ///< of what is left behind the last group
