@@ -14,6 +14,7 @@
 
 #include "bench/build.h"
 #include "bench/dct4.h"
+#include "bench/fftw_interface.h"
 #include "bench/many.h"
 #include "bench/plot.h"
 #include "bench/progress.h"
@@ -36,7 +37,7 @@ struct Options {
   std::string markdown;
   std::string plot, draw;
   bool list = false;
-  bool many = false, alone = false;
+  bool many = false, alone = false, fftw_interface = false;
   Placement placement;
 };
 
@@ -71,6 +72,9 @@ void define(CLI::App& app, Options& options) {
   app.add_flag("--alone", options.alone, "With --many: beside single calls only")->needs(many);
   for (const char* option : {"--target", "--against", "--json", "--markdown", "--plot"})
     many->excludes(app.get_option(option));
+  app.add_flag("--fftw-interface", options.fftw_interface,
+               "Race plans of FFTW's interface in front of xfm beside FFTW's own, and beside bare kernels")
+      ->excludes(many);
   app.add_flag("--unaligned", options.placement.unaligned,
                "Start the arrays one real scalar past an aligned address");
   app.add_flag("--in-place", options.placement.in_place, "Transform in place: dst is src");
@@ -146,6 +150,7 @@ void measure(const Options& options) {
   }
   if (const std::string reason = objection(); !reason.empty())
     throw std::runtime_error("refusing to measure: " + reason);
+  if (options.fftw_interface) return race_fftw_interface(options.rounds);
   if (options.many) return race_batches(kernels, {options.rounds, options.alone});
   const File json = opened(options.json), markdown = opened(options.markdown);
   if (!options.plot.empty()) prepare_plots(options.plot);
