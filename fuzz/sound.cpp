@@ -35,8 +35,8 @@ class File {
   int descriptor_;
 };
 
-constexpr std::size_t block = 4096;
-constexpr int blocks = 64;  ///< a header may promise more sound than anyone wants to wait for
+constexpr std::size_t block = 256;
+constexpr int blocks = 16;  ///< a header may promise more sound, and channels, than anyone wants to wait for
 
 void read_all(const std::string& path) {
   Audio audio(path);
