@@ -39,7 +39,7 @@ apt install "${files[@]}" "${needed[@]}" >"$root.log" 2>&1 || { cat "$root.log" 
 echo "Packages installed after $SECONDS s"
 inside /xfm/debian/tests/readme
 
-inside /lib64/ld-linux-x86-64.so.2 --help | sed -n '/glibc-hwcaps/,$p'
+inside /lib64/ld-linux-x86-64.so.2 --help | sed -n '/^Subdirectories of glibc-hwcaps/,/^$/p'
 inside sh -euc 'gcc /xfm/tests/targets/mapped.c -o /xfm/mapped $(pkg-config --cflags --libs xfm)'
 inside bash /xfm/tests/targets/choice.sh /xfm/mapped /usr/lib/x86_64-linux-gnu x86-64 x86-64-v3 x86-64-v4
 inside xfmbench --rounds 3 --only CToC_8_32fc
