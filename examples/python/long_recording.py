@@ -1,8 +1,8 @@
 #!/usr/bin/python3
 """The mean spectrum of a recording longer than memory: python3 long_recording.py [SOUND]
 
-dask.array reads, transforms and adds up a few blocks at a time, one on each core; with dask.distributed the same lines run
-on many machines.
+dask.array reads, transforms and adds up a few blocks at a time, one on each core; with dask.distributed the same lines
+run on many machines.
 """
 import sys
 

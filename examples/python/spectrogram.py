@@ -12,4 +12,4 @@ columns = np.array([part.mean(axis=0) for part in np.array_split(power, min(1200
 level = 10 * np.log10(columns.T[::-1] + 1e-9)
 grey = np.uint8(np.clip(255 * (1 + (level - level.max()) / 90), 0, 255))
 Image.fromarray(grey).resize((grey.shape[1], 12 * grey.shape[0]), Image.NEAREST).save(picture)
-print(f"{len(frames)} frames of 64 samples at {rate} Hz, the loudest band at {power.mean(axis=0).argmax() * rate / 64:.0f} Hz")
+print(f"{len(frames)} frames at {rate} Hz, the loudest band at {power.mean(axis=0).argmax() * rate / 64:.0f} Hz")

@@ -1,7 +1,7 @@
 """A backend of scipy.fft: with scipy.fft.set_backend(xfm.scipy_backend): ...
 
 It serves fft, ifft, rfft, irfft, fft2, ifft2, and dct and idct of type 4, where xfm serves their lengths and types.
-Everything else, errors included, is left to SciPy. A call is computed by the thread that makes it, whatever `workers` is.
+Everything else, errors included, is left to SciPy. The calling thread computes, whatever `workers` is.
 """
 
 import numpy as np
