@@ -209,7 +209,7 @@ void probe_others(const Visit& visit) {
 void probe_batches(const Visit& visit) {
   for (const catalogue::Batch& batch : catalogue::batches()) {
     for (int length = batch.lowest - 1; length <= batch.highest; ++length) {
-      const std::int64_t count = 17, size = has_buffer(batch.family) ? 1LL << length : length + 2;
+      const std::int64_t count = 17, size = has_buffer(batch.family) ? std::int64_t{1} << length : length + 2;
       if (4 * (size + 1) * count > Data::count) continue;
       const catalogue::Places roads[] = {{1, size}, {count, 1}, {2, 2 * size + 1}};
       for (const auto& from : roads)
