@@ -293,7 +293,7 @@ constexpr std::ptrdiff_t kGroupBytes = 16384;
 
 std::ptrdiff_t group_size(const Problem& p, std::ptrdiff_t count) {
   constexpr std::ptrdiff_t kLanes = 16;
-  std::ptrdiff_t bytes = sizeof(Real) * static_cast<std::size_t>(std::max(in_unit(p.kind), out_unit(p.kind)));
+  std::ptrdiff_t bytes = std::max(in_unit(p.kind), out_unit(p.kind)) * std::ptrdiff_t{sizeof(Real)};
   for (const Dim& d : p.dims) bytes *= d.n;
   const std::ptrdiff_t most = std::max<std::ptrdiff_t>(kGroupBytes / bytes, 1);
   return std::min(count, most > kLanes ? most / kLanes * kLanes : most);
