@@ -38,6 +38,7 @@ mapfile -t needed < <(sed -n 's/^Depends: //p' "$source/packaging/debian/tests/c
 apt install "${files[@]}" "${needed[@]}" >"$root.log" 2>&1 || { cat "$root.log" && exit 1; }
 echo "Packages installed after $SECONDS s"
 inside /xfm/debian/tests/readme
+inside /xfm/debian/tests/fftw
 
 inside /lib64/ld-linux-x86-64.so.2 --help | sed -n '/^Subdirectories of glibc-hwcaps/,/^$/p'
 inside sh -euc 'gcc /xfm/tests/targets/mapped.c -o /xfm/mapped $(pkg-config --cflags --libs xfm)'

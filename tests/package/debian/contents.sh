@@ -33,6 +33,7 @@ mapfile -t xfmmany < <(forms libxfmmany)
 expect libxfm6.1 "${xfm[@]}"
 expect libxfmmany6.1 "${xfmmany[@]}"
 expect libxfmcore6.1 $libraries/libxfmcore.so.6.1
+expect libxfm-fftw3-compat $libraries/libxfm-fftw3{,f}.so.3{,.6.1}
 mapfile -t headers < <(cd "$source" && find include core/include -type f -printf '%P\n')
 expect libxfm-dev "${headers[@]/#/usr/include/}" $libraries/libxfm{,many}{,_v3,_v4}.a $libraries/libxfmcore.a \
   $libraries/libxfm{,many,core}.so $libraries/pkgconfig/xfm{,many,core}.pc \
@@ -45,14 +46,26 @@ expect xfm-tools usr/{bin/xfmbench,bin/xfmgen,share/man/man1/xfmbench.1.gz,share
 # The loader needs no path to find them, and none of another machine is left.
 while read -r file; do
   ! readelf --dynamic "$file" | grep -E 'RPATH|RUNPATH' || fail "$file: has a path for the loader"
-done < <(find . -name '*.so.6.1' -o -name 'xfmbench' -o -name '_xfm*.so')
+done < <(find . -name '*.so.6.1' -o -name '*.so.3.6.1' -o -name 'xfmbench' -o -name '_xfm*.so')
 
-# Each symbol that the libraries export is in the symbols files, and its minimal version is that of the interface.
+# check_symbols PACKAGE LIBRARY...: each symbol that these libraries export is in the package's symbols file, and its
+# minimal version is that of the interface.
+check_symbols() {
+  local package=$1 expected found
+  shift
+  expected=$(cd "$package/$libraries" && nm --dynamic --defined-only "$@" | awk 'NF == 3 { print $3 "@Base 6.1" }' | sort)
+  found=$(dpkg-deb --info "$packages/${package}_"*.deb symbols | sed -n 's/^ //p' | sort)
+  [ "$found" = "$expected" ] || fail "$package: its symbols file has not what it exports"
+}
 for library in xfm xfmmany xfmcore; do
-  expected=$(nm --dynamic --defined-only "lib${library}6.1/$libraries/lib$library.so.6.1" | awk '{ print $3 "@Base 6.1" }' | sort)
-  found=$(dpkg-deb --info "$packages/lib${library}6.1_"*.deb symbols | sed -n 's/^ //p' | sort)
-  [ "$found" = "$expected" ] || fail "lib$library: its symbols file has not what it exports"
+  check_symbols lib${library}6.1 lib$library.so.6.1
 done
+check_symbols libxfm-fftw3-compat libxfm-fftw3.so.3 libxfm-fftw3f.so.3
+
+# FFTW has to be there behind its interface, and nothing goes for it.
+field() { dpkg-deb --field "$packages"/libxfm-fftw3-compat_*.deb "$@"; }
+[[ $(field Depends) == *libfftw3-double3*libfftw3-single3* ]] || fail "libxfm-fftw3-compat: does not depend on FFTW"
+[ -z "$(field Breaks Conflicts Provides Replaces)" ] || fail "libxfm-fftw3-compat: stands in the way of other packages"
 
 # What was written of the headers and pages.
 for file in html/index.html docs/README.md README.md CHANGELOG.md; do

@@ -15,6 +15,7 @@ export PKG_CONFIG_PATH=$unpacked/all/$libraries/pkgconfig
 export LD_LIBRARY_PATH=$unpacked/all/$libraries
 export PYTHONPATH=$unpacked/all/usr/lib/python3/dist-packages
 "$source/packaging/debian/tests/readme" "$source/README.md"
+"$source/packaging/debian/tests/fftw"
 
 gcc "$source/tests/targets/mapped.c" -o "$unpacked/mapped" $(pkg-config --cflags --libs xfm) -ldl
 bash "$source/tests/targets/choice.sh" "$unpacked/mapped" "$LD_LIBRARY_PATH" x86-64 x86-64-v3 x86-64-v4
