@@ -1,4 +1,4 @@
-// What a fuzz target tells libFuzzer.
+// How a fuzz target reports a failure to libFuzzer.
 #pragma once
 
 #include <cstdint>

@@ -1563,7 +1563,7 @@ typedef struct xfmDCT4State_64f xfmDCT4State_64f;
  * The lengths of the DCT-IV are N = 2^k with 1 <= k <= 26, in double precision k <= 25.
  *
  * Hazards: the following lengths are accepted as well, but what they make is NOT a DCT-IV of any length. Do not
- * use them; xfmDCT4IsServed_TYPE of xfm_lookup.h tells which lengths are safe.
+ * use them; xfmDCT4IsServed_TYPE of xfm_lookup.h returns 1 for lengths that are safe.
  * - N = 2^k + 1 with 5 <= k <= 26, in double precision 3 <= k <= 25. Such a state runs the plan of 2^k with wrong
  *   indices, leaves elements of dst unwritten, and goes one element past the end of src and of dst.
  * - N = 2^30 and 2^30 + 1, in double precision 2^29 and 2^29 + 1 too. The number of bytes does not fit in 32 bits and

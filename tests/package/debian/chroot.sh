@@ -23,7 +23,7 @@ inside() { env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin LC_ALL=C.UTF-8 DEBIAN_FRONT
 apt() { inside apt-get -q -o Dpkg::Use-Pty=0 -o APT::Sandbox::User=root -y --no-install-recommends "$@"; }
 
 # What an earlier run has installed goes, so that the packages must ask for what they need.
-mapfile -t earlier < <(inside dpkg-query -W -f '${Package}\n' '*xfm*' 2>/dev/null || true)
+mapfile -t earlier < <(inside dpkg-query -W -f '${Package}\n' '*xfm*' 2>/dev/null)
 [ ${#earlier[@]} = 0 ] || apt purge --auto-remove "${earlier[@]}" >/dev/null
 rm -rf "$root/xfm"
 mkdir -p "$root/xfm/packages" "$root/xfm/packaging" "$root/xfm/tests"
