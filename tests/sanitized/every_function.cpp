@@ -1,6 +1,7 @@
 // Every function, in heap blocks of exactly the sizes that the header names. What is not read is not
 // initialised either, and the program branches on every number that is written, which the memory sanitizer
 // watches.
+#include "tests/dct4/functions.h"
 #include "tests/sanitized/memory.h"
 #include "tools/many_catalogue.h"
 #include "xfm_many.h"
@@ -166,36 +167,17 @@ void call_sizes() {
 }
 
 template <class T>
-struct Dct4;
-template <>
-struct Dct4<float> {
-  using State = xfmDCT4State_32f;
-  static constexpr auto precision = catalogue::Precision::binary32;
-  static constexpr auto get_size = xfmDCT4GetSize_32f;
-  static constexpr auto init = xfmDCT4Init_32f;
-  static constexpr auto init_alloc = xfmDCT4InitAlloc_32f;
-  static constexpr auto run = xfmDCT4_32f;
-  static constexpr auto free = xfmDCT4Free_32f;
-};
-template <>
-struct Dct4<double> {
-  using State = xfmDCT4State_64f;
-  static constexpr auto precision = catalogue::Precision::binary64;
-  static constexpr auto get_size = xfmDCT4GetSize_64f;
-  static constexpr auto init = xfmDCT4Init_64f;
-  static constexpr auto init_alloc = xfmDCT4InitAlloc_64f;
-  static constexpr auto run = xfmDCT4_64f;
-  static constexpr auto free = xfmDCT4Free_64f;
-};
+constexpr auto precision_of = sizeof(T) == 4 ? catalogue::Precision::binary32
+                                             : catalogue::Precision::binary64;
 
 template <class T>
-void run(typename Dct4<T>::State* state, std::int32_t length) {
-  const Scalars src(Dct4<T>::precision, length), dst(Dct4<T>::precision, length);
+void run(typename test::Engine<T>::State* state, std::int32_t length) {
+  const Scalars src(precision_of<T>, length), dst(precision_of<T>, length);
   for (std::int64_t i = 0; i < length; ++i) src.set(i, sample(i));
   const auto* const from = reinterpret_cast<const T*>(src.data());
   for (int turn = 0; turn < 2; ++turn)
-    expect(Dct4<T>::run(from, reinterpret_cast<T*>(dst.data()), state), xfmStsOk, "xfmDCT4");
-  expect(Dct4<T>::run(from, reinterpret_cast<T*>(src.data()), state), xfmStsOk, "xfmDCT4 in place");
+    expect(test::Engine<T>::run(from, reinterpret_cast<T*>(dst.data()), state), xfmStsOk, "xfmDCT4");
+  expect(test::Engine<T>::run(from, reinterpret_cast<T*>(src.data()), state), xfmStsOk, "xfmDCT4 in place");
   for (std::int64_t i = 0; i < length; ++i)
     require(is_finite(dst.get(i)) && dst.get(i) == src.get(i), "xfmDCT4", "results differ");
 }
@@ -204,19 +186,19 @@ template <class T>
 void call_dct4() {
   for (std::int32_t length = 2; length <= 1 << 16; length *= 2) {
     std::int32_t size;
-    expect(Dct4<T>::get_size(length, &size), xfmStsOk, "xfmDCT4GetSize");
+    expect(test::Engine<T>::get_size(length, &size), xfmStsOk, "xfmDCT4GetSize");
     for (const int offset : {0, 1, 16}) {
       // Of two halves of all addresses, which differ in bit 31, shortest states need a little more in one.
       auto* const block = static_cast<std::byte*>(std::malloc(static_cast<std::size_t>(size + offset + 23)));
-      typename Dct4<T>::State* state = nullptr;
-      expect(Dct4<T>::init(&state, length, block + offset), xfmStsOk, "xfmDCT4Init");
+      typename test::Engine<T>::State* state = nullptr;
+      expect(test::Engine<T>::init(&state, length, block + offset), xfmStsOk, "xfmDCT4Init");
       run<T>(state, length);
       std::free(block);
     }
-    typename Dct4<T>::State* state = nullptr;
-    expect(Dct4<T>::init_alloc(&state, length), xfmStsOk, "xfmDCT4InitAlloc");
+    typename test::Engine<T>::State* state = nullptr;
+    expect(test::Engine<T>::init_alloc(&state, length), xfmStsOk, "xfmDCT4InitAlloc");
     run<T>(state, length);
-    expect(Dct4<T>::free(state), xfmStsOk, "xfmDCT4Free");
+    expect(test::Engine<T>::free(state), xfmStsOk, "xfmDCT4Free");
   }
 }
 
