@@ -41,3 +41,13 @@ endforeach()
 
 add_test(NAME package.debian.installed COMMAND ${scripts}/chroot.sh ${debian}/built ${PROJECT_SOURCE_DIR} ${debian}/bookworm)
 set_tests_properties(package.debian.installed PROPERTIES LABELS long SKIP_RETURN_CODE 77 FIXTURES_REQUIRED package.debian.built)
+
+# The same bytes from another folder, at another time, by another user.
+find_program(XFM_FAKETIME faketime)
+mark_as_advanced(XFM_FAKETIME)
+if(XFM_FAKETIME)
+  add_test(NAME reproducible.packages COMMAND bash ${PROJECT_SOURCE_DIR}/tests/reproducible/packages.sh
+    ${PROJECT_SOURCE_DIR} ${PROJECT_BINARY_DIR} ${debian}/built ${XFM_FAKETIME})
+  set_tests_properties(reproducible.packages PROPERTIES
+    LABELS long FIXTURES_REQUIRED package.debian.built TIMEOUT 600)
+endif()

@@ -1,30 +1,24 @@
 #!/usr/bin/env bash
-# usage: again.sh SOURCE BUILD CC CXX FAKETIME
-# Builds the libraries of BUILD again: from a copy of SOURCE in another folder, more than a year later, under another
-# user name with another home, locale, time zone and umask. The same bytes must come out: all generated sources, the
-# objects of all sources written by hand and of a sample of the generated ones, for every target, and all libraries. The
-# objects that are not in the sample are taken from BUILD; XFM_REPRODUCIBLE=all compiles them too, in ten minutes more.
+# usage: libraries.sh SOURCE BUILD CC CXX FAKETIME
+# Builds the libraries of BUILD again, elsewhere, from a copy of SOURCE. The same bytes must come out: all generated
+# sources, the objects of all sources written by hand and of a sample of the generated ones, for every target, and all
+# libraries. The objects that are not in the sample are taken from BUILD; XFM_REPRODUCIBLE=all compiles them too, in ten
+# minutes more.
 set -euo pipefail
 source=$1 build=$2 cc=$3 cxx=$4 faketime=$5
 sample='[^/]*_(3|16|29|60)'
 [ "${XFM_REPRODUCIBLE-}" != all ] || sample='.*'
 
-place=$(mktemp -d)
-trap 'rm -rf "$place"' EXIT
+. "$(dirname "$0")/elsewhere.sh"
 copy=$place/a/longer/way/copy there=$place/out
-mkdir -p "$copy" "$there" "$place/home"
-tar -C "$source" --exclude=./build --exclude=./.git -c . | tar -C "$copy" -x
+mkdir "$there"
+copy_of_source "$source" "$copy"
 
 # Root can be another user, others take another name.
-as_user=()
 if [ "$(id -u)" = 0 ]; then
   as_user=(setpriv --reuid=65534 --regid=65534 --clear-groups)
   chown -R 65534:65534 "$place"
 fi
-elsewhere() {
-  (umask 027 && exec "${as_user[@]}" env -i PATH="$PATH" HOME="$place/home" USER=another LOGNAME=another \
-    TZ=Pacific/Chatham LC_ALL=C.UTF-8 CCACHE_DISABLE=1 "$faketime" -f '+400d' nice "$@")
-}
 cached() { sed -n "s/^$1:[A-Z]*=//p" "$build/CMakeCache.txt"; }
 settings=()
 for name in CMAKE_BUILD_TYPE CMAKE_CXX_FLAGS CMAKE_C_FLAGS XFM_TARGETS; do settings+=(-D "$name=$(cached $name)"); done
