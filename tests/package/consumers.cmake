@@ -59,4 +59,4 @@ set(embed -D XFM_SOURCE=${PROJECT_SOURCE_DIR})
 add_test(NAME package.add_subdirectory.configure
   COMMAND ${CMAKE_COMMAND} --fresh -S ${consumer}/add_subdirectory -B ${place}/configured ${tools} ${embed})
 add_consumer(add_subdirectory add_subdirectory ${embed})
-set_tests_properties(package.add_subdirectory PROPERTIES LABELS long PROCESSORS 2)
+set_tests_properties(package.add_subdirectory PROPERTIES LABELS "long;once" PROCESSORS 2)
