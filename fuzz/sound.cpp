@@ -56,9 +56,10 @@ void read_all(const std::string& path) {
 
 }  // namespace
 
-// libsndfile 1.2 leaks this much of a broken Ogg file, which it opened and closed itself.
+// libsndfile 1.2 leaks what libvorbis allocated for a broken Ogg file, which it opened and closed itself. A library's name
+// is known without a symbolizer, which a system with clang alone lacks.
 // NOLINTNEXTLINE(bugprone-reserved-identifier,readability-identifier-naming)
-extern "C" const char* __lsan_default_suppressions() { return "leak:vorbis_info_init\n"; }
+extern "C" const char* __lsan_default_suppressions() { return "leak:libvorbis\n"; }
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const File file(data, size);

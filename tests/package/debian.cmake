@@ -36,11 +36,11 @@ set_tests_properties(package.debian.built PROPERTIES FIXTURES_REQUIRED docs)
 xfm_test_packages(clean)
 set_tests_properties(package.debian.clean PROPERTIES PROCESSORS 2 TIMEOUT 5400)
 foreach(part "" .lintian .contents .readme)
-  set_tests_properties(package.debian.clean${part} PROPERTIES LABELS long)
+  set_tests_properties(package.debian.clean${part} PROPERTIES LABELS "long;once")
 endforeach()
 
 add_test(NAME package.debian.installed COMMAND ${scripts}/chroot.sh ${debian}/built ${PROJECT_SOURCE_DIR} ${debian}/bookworm)
-set_tests_properties(package.debian.installed PROPERTIES LABELS long SKIP_RETURN_CODE 77 FIXTURES_REQUIRED package.debian.built)
+set_tests_properties(package.debian.installed PROPERTIES LABELS "long;once" SKIP_RETURN_CODE 77 FIXTURES_REQUIRED package.debian.built)
 
 # The same bytes from another folder, at another time, by another user.
 find_program(XFM_FAKETIME faketime)
@@ -49,5 +49,5 @@ if(XFM_FAKETIME)
   add_test(NAME reproducible.packages COMMAND bash ${PROJECT_SOURCE_DIR}/tests/reproducible/packages.sh
     ${PROJECT_SOURCE_DIR} ${PROJECT_BINARY_DIR} ${debian}/built ${XFM_FAKETIME})
   set_tests_properties(reproducible.packages PROPERTIES
-    LABELS long FIXTURES_REQUIRED package.debian.built TIMEOUT 600)
+    LABELS "long;once" FIXTURES_REQUIRED package.debian.built TIMEOUT 600)
 endif()
