@@ -56,8 +56,8 @@ void read_all(const std::string& path) {
 
 }  // namespace
 
-// libsndfile 1.2 leaks what libvorbis allocated for a broken Ogg file, which it opened and closed itself. A library's name
-// is known without a symbolizer, which a system with clang alone lacks.
+// libsndfile 1.2 leaks what libvorbis allocated for a broken Ogg file, which it opened and closed itself. A
+// library's name is known without a symbolizer, which a system with clang alone lacks.
 // NOLINTNEXTLINE(bugprone-reserved-identifier,readability-identifier-naming)
 extern "C" const char* __lsan_default_suppressions() { return "leak:libvorbis\n"; }
 

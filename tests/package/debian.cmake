@@ -42,7 +42,7 @@ endforeach()
 add_test(NAME package.debian.installed COMMAND ${scripts}/chroot.sh ${debian}/built ${PROJECT_SOURCE_DIR} ${debian}/bookworm)
 set_tests_properties(package.debian.installed PROPERTIES LABELS "long;once" SKIP_RETURN_CODE 77 FIXTURES_REQUIRED package.debian.built)
 
-# The same bytes from another folder, at another time, by another user.
+# The same bytes from another folder, at another time, under another user name.
 find_program(XFM_FAKETIME faketime)
 mark_as_advanced(XFM_FAKETIME)
 if(XFM_FAKETIME)
