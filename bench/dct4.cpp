@@ -256,6 +256,7 @@ std::vector<NamedContestant> further_dct4_rivals(int length, Arrays& arrays) {
   std::vector<NamedContestant> rivals;
   rivals.push_back({"twist in loops", twisted(all.back().loops, length, Place::buffer, arrays)});
   rivals.push_back({"128-bit twist", twisted(all.front().registers, length, Place::dst, arrays)});
+  rivals.push_back({"128-bit loops", twisted(all.front().loops, length, Place::buffer, arrays)});
   rivals.push_back({"three copies", std::make_unique<ThreeCopies>(bytes)});
   return rivals;
 }

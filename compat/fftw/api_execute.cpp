@@ -1,7 +1,6 @@
 // FFTW's functions that run and destroy plans.
 #include "plan.h"
 #include "report.h"
-#include "theirs.h"
 
 void X(execute)(const X(plan) p) { p->execute(*p); }
 void X(execute_dft)(const X(plan) p, X(complex) * in, X(complex) * out) {
@@ -16,21 +15,21 @@ void X(execute_r2r)(const X(plan) p, Real* in, Real* out) { p->execute_new(*p, i
 void X(execute_split_dft)(const X(plan) p, Real* ri, Real* ii, Real* ro, Real* io) {
   if (p->theirs == nullptr) return p->execute_new(*p, ri < ii ? ri : ii, ro < io ? ro : io);
   const Stopwatch watch(Where::fftw, What::execution);
-  theirs().execute_split_dft(p->theirs, ri, ii, ro, io);
+  p->library->execute_split_dft(p->theirs, ri, ii, ro, io);
 }
 void X(execute_split_dft_r2c)(const X(plan) p, Real* in, Real* ro, Real* io) {
   if (p->theirs == nullptr) return p->execute_new(*p, in, ro);
   const Stopwatch watch(Where::fftw, What::execution);
-  theirs().execute_split_dft_r2c(p->theirs, in, ro, io);
+  p->library->execute_split_dft_r2c(p->theirs, in, ro, io);
 }
 void X(execute_split_dft_c2r)(const X(plan) p, Real* ri, Real* ii, Real* out) {
   if (p->theirs == nullptr) return p->execute_new(*p, ri, out);
   const Stopwatch watch(Where::fftw, What::execution);
-  theirs().execute_split_dft_c2r(p->theirs, ri, ii, out);
+  p->library->execute_split_dft_c2r(p->theirs, ri, ii, out);
 }
 
 void X(destroy_plan)(X(plan) p) {
   if (p == nullptr) return;
-  if (p->theirs != nullptr) theirs().destroy_plan(p->theirs);
+  if (p->theirs != nullptr) p->library->destroy_plan(p->theirs);
   delete p;
 }

@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "report.h"
-#include "theirs.h"
 
 namespace {
 
@@ -104,17 +103,19 @@ X(plan) plan_on_xfm(const Problem& p, Program program) {
 
 X(complex) * complex(Real* reals) { return reinterpret_cast<X(complex)*>(reals); }
 
-void execute_theirs(const X(plan_s) & p) { theirs().execute(p.theirs); }
+void execute_theirs(const X(plan_s) & p) { p.library->execute(p.theirs); }
 void execute_their_c2c(const X(plan_s) & p, Real* in, Real* out) {
-  theirs().execute_dft(p.theirs, complex(in), complex(out));
+  p.library->execute_dft(p.theirs, complex(in), complex(out));
 }
 void execute_their_r2c(const X(plan_s) & p, Real* in, Real* out) {
-  theirs().execute_dft_r2c(p.theirs, in, complex(out));
+  p.library->execute_dft_r2c(p.theirs, in, complex(out));
 }
 void execute_their_c2r(const X(plan_s) & p, Real* in, Real* out) {
-  theirs().execute_dft_c2r(p.theirs, complex(in), out);
+  p.library->execute_dft_c2r(p.theirs, complex(in), out);
 }
-void execute_their_r2r(const X(plan_s) & p, Real* in, Real* out) { theirs().execute_r2r(p.theirs, in, out); }
+void execute_their_r2r(const X(plan_s) & p, Real* in, Real* out) {
+  p.library->execute_r2r(p.theirs, in, out);
+}
 
 std::vector<X(iodim64)> in_elements(const std::vector<Dim>& dims, Kind kind) {
   std::vector<X(iodim64)> result;
@@ -199,6 +200,7 @@ X(plan) handed_on(X(plan) theirs, X(plan_s)::ExecuteNew execute_new, Real* in, R
   auto* const plan = new (std::nothrow) X(plan_s);
   if (plan == nullptr) return nullptr;
   plan->theirs = theirs;
+  plan->library = &::theirs();
   plan->in = in;
   plan->out = out;
   plan->execute = execute_theirs;

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "program.h"
+#include "theirs.h"
 
 /// Runs on xfm, or holds a plan of FFTW's own. Nothing in it changes after it was made, but for the DCT-IV's
 /// states.
@@ -16,8 +17,9 @@ struct X(plan_s) {
   Real *in = nullptr, *out = nullptr;
   Kernel kernel;
   Program program;
-  const Step* step = nullptr;  ///< of the program, if there is only one
-  X(plan) theirs = nullptr;    ///< null if it runs on xfm
+  const Step* step = nullptr;       ///< of the program, if there is only one
+  X(plan) theirs = nullptr;         ///< null if it runs on xfm
+  const Theirs* library = nullptr;  ///< whose plan that is: a plan finds it faster than a function does
 
   // What was said of it.
   std::string text;

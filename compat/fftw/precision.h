@@ -17,6 +17,8 @@ using Real = xfm32f;
 using Complex = xfm32fc;
 #define XFM_REAL(name) name##_32f
 #define XFM_COMPLEX(name) name##_32fc
+#define XFM_FFTW_REAL "32f"
+#define XFM_FFTW_COMPLEX "32fc"
 #else
 #define X(name) fftw_##name
 #define XFM_FFTW_FORTRAN(name) dfftw_##name
@@ -25,6 +27,8 @@ using Real = xfm64f;
 using Complex = xfm64fc;
 #define XFM_REAL(name) name##_64f
 #define XFM_COMPLEX(name) name##_64fc
+#define XFM_FFTW_REAL "64f"
+#define XFM_FFTW_COMPLEX "64fc"
 #endif
 
 using RealKernel = XFM_REAL(xfmKernel);

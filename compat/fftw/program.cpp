@@ -4,6 +4,7 @@
 #include <cstdlib>
 
 #include "gains.h"
+#include "ours.h"
 #include "steps.h"
 
 namespace {
@@ -123,12 +124,31 @@ Dim taken_batch(Dims& loops, const Dim& transform, std::ptrdiff_t in_unit, std::
 
 // ---- steps
 
+bool is_halfcomplex(const Step& step) {
+  return step.run == run_to_halfcomplex || step.run == run_from_halfcomplex;
+}
+
+/// Nothing but one contiguous transform.
+bool is_one_call(const Step& step) {
+  const std::ptrdiff_t unit = step.run == run_complex ? 2 : 1;
+  const bool plain = step.run == run_complex || step.run == run_real;
+  return plain && step.transform.is == unit && step.transform.os == unit && step.batch.n == 1;
+}
+
+bool needs_batches(const Step& step) { return !is_one_call(step) && !is_halfcomplex(step); }
+
+void find_complex(Step& step, const char* family) {
+  step.kernel.complex = complex_kernel(family, static_cast<int>(step.transform.n));
+  if (needs_batches(step)) step.complex = complex_batch(family);
+}
+void find_real(Step& step, const char* family) {
+  step.kernel.real = real_kernel(family, static_cast<int>(step.transform.n));
+  if (needs_batches(step)) step.real = real_batch(family);
+}
+
 void use_complex(Step& step, int sign) {
-  const auto n = static_cast<int32_t>(step.transform.n);
-  const bool forward = sign == FFTW_FORWARD;
   step.run = run_complex;
-  step.complex = forward ? XFM_COMPLEX(xfmManyDFTFwd_CToC) : XFM_COMPLEX(xfmManyDFTInv_CToC);
-  step.kernel.complex = forward ? XFM_COMPLEX(xfmLookupDFTFwd_CToC)(n) : XFM_COMPLEX(xfmLookupDFTInv_CToC)(n);
+  find_complex(step, sign == FFTW_FORWARD ? "DFTFwd_CToC" : "DFTInv_CToC");
 }
 
 /// Where the elements of CCS lie if complex numbers are so far apart.
@@ -148,8 +168,6 @@ std::vector<std::ptrdiff_t> places_of_pack(std::ptrdiff_t n, std::ptrdiff_t stri
 
 void use_forward_real(Step& step) {
   const auto& [n, is, os] = step.transform;
-  step.real = XFM_REAL(xfmManyDFTFwd_RToCCS);
-  step.kernel.real = XFM_REAL(xfmLookupDFTFwd_RToCCS)(static_cast<int32_t>(n));
   if (os == 2) {
     step.transform.os = 1;  // pairs that follow each other are a contiguous array of reals
     step.run = run_real;
@@ -157,12 +175,11 @@ void use_forward_real(Step& step) {
     step.places = places_of_ccs(n, os);
     step.run = run_scattered;
   }
+  find_real(step, "DFTFwd_RToCCS");
 }
 
 void use_inverse_real(Step& step) {
   const auto& [n, is, os] = step.transform;
-  step.real = XFM_REAL(xfmManyDFTInv_CCSToR);
-  step.kernel.real = XFM_REAL(xfmLookupDFTInv_CCSToR)(static_cast<int32_t>(n));
   if (is == 2) {
     step.transform.is = 1;
     step.run = run_real;
@@ -170,6 +187,7 @@ void use_inverse_real(Step& step) {
     step.places = places_of_ccs(n, is);
     step.run = run_gathered;
   }
+  find_real(step, "DFTInv_CCSToR");
 }
 
 void use_dct4(Step& step, X(r2r_kind) kind) {
@@ -183,24 +201,21 @@ bool is_pack(std::ptrdiff_t n) { return n <= 3; }
 
 void use_r2hc(Step& step) {
   const auto& [n, is, os] = step.transform;
-  step.real = XFM_REAL(xfmManyDFTFwd_RToPack);
-  step.kernel.real = XFM_REAL(xfmLookupDFTFwd_RToPack)(static_cast<int32_t>(n));
   if (!is_pack(n)) step.places = places_of_pack(n, os);
   step.run = is_pack(n) ? run_real : is == 1 && os == 1 ? run_to_halfcomplex : run_scattered;
+  find_real(step, "DFTFwd_RToPack");
 }
 
 void use_hc2r(Step& step) {
   const auto& [n, is, os] = step.transform;
-  step.real = XFM_REAL(xfmManyDFTInv_PackToR);
-  step.kernel.real = XFM_REAL(xfmLookupDFTInv_PackToR)(static_cast<int32_t>(n));
   if (!is_pack(n)) step.places = places_of_pack(n, is);
   step.run = is_pack(n) ? run_real : is == 1 && os == 1 ? run_from_halfcomplex : run_gathered;
+  find_real(step, "DFTInv_PackToR");
 }
 
 void use_dht(Step& step) {
-  step.real = XFM_REAL(xfmManyHartley);
-  step.kernel.real = XFM_REAL(xfmLookupHartley)(static_cast<int32_t>(step.transform.n));
   step.run = run_real;
+  find_real(step, "Hartley");
 }
 
 void use_r2r(Step& step, X(r2r_kind) kind) {
@@ -352,13 +367,15 @@ void run_blocks(const Program& program, std::size_t loop, Real* in, Real* out) {
 
 void run(const Program& program, Real* in, Real* out) { run_blocks(program, 0, in, out); }
 
-std::optional<Program> program_of(const Problem& problem) {
+std::optional<Program> program_of(const Problem& problem) try {
   if (!is_proper(problem) || must_destroy(problem)) return {};
   const Problem simple = without_ones(problem);
   if (!serves(simple)) return {};
   Program program = simple.dims.size() > 1 ? in_groups(simple) : in_one_pass(simple);
   program.gains = gains(program, simple);
   return program;
+} catch (const OursMissing&) {
+  return {};
 }
 
 const Step* only_step(const Program& program) {
@@ -367,9 +384,4 @@ const Step* only_step(const Program& program) {
   return alone ? &program.steps.front() : nullptr;
 }
 
-Kernel kernel_of(const Step& step) {
-  const std::ptrdiff_t unit = step.run == run_complex ? 2 : 1;
-  const bool plain = step.run == run_complex || step.run == run_real;
-  const bool contiguous = step.transform.is == unit && step.transform.os == unit;
-  return plain && contiguous && step.batch.n == 1 ? step.kernel : Kernel{};
-}
+Kernel kernel_of(const Step& step) { return is_one_call(step) ? step.kernel : Kernel{}; }

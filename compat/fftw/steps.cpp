@@ -4,6 +4,8 @@
 #include <cstdlib>
 #include <new>
 
+#include "ours.h"
+
 namespace {
 
 /// A full set of lanes in either precision and on every target.
@@ -133,7 +135,7 @@ void run_dct4(const Step& step, const Real* in, Real* out) {
     const Real* const from = in + t * step.batch.is;
     Real* const to = out + t * step.batch.os;
     if (step.sine) reverse(from, to, n);
-    XFM_REAL(xfmDCT4)(step.sine ? to : from, to, state);
+    dct4_functions().run(step.sine ? to : from, to, state);
     const Real odd = step.sine ? -2 : 2;  // FFTW's transforms are twice the DCT-IV and the DST-IV
     for (std::ptrdiff_t k = 0; k < n; k += 2) {
       to[k] *= 2;
@@ -146,7 +148,7 @@ void run_dct4(const Step& step, const Real* in, Real* out) {
 Dct4States::Dct4States(int length) : length_(length) { give(take()); }
 
 Dct4States::~Dct4States() {
-  for (Dct4State* const state : free_) XFM_REAL(xfmDCT4Free)(state);
+  for (Dct4State* const state : free_) dct4_functions().free(state);
 }
 
 Dct4State* Dct4States::take() {
@@ -160,7 +162,7 @@ Dct4State* Dct4States::take() {
     free_.reserve(++made_);  // so that giving it back cannot fail
   }
   Dct4State* state = nullptr;
-  if (XFM_REAL(xfmDCT4InitAlloc)(&state, length_) != xfmStsOk) throw std::bad_alloc();
+  if (dct4_functions().init(&state, length_) != xfmStsOk) throw std::bad_alloc();
   return state;
 }
 

@@ -62,9 +62,11 @@ for library in xfm xfmmany xfmcore; do
 done
 check_symbols libxfm-fftw3-compat libxfm-fftw3.so.3 libxfm-fftw3f.so.3
 
-# FFTW has to be there behind its interface, and nothing goes for it.
+# FFTW and xfm have to be there behind FFTW's interface, which loads them by name, and nothing goes for it.
 field() { dpkg-deb --field "$packages"/libxfm-fftw3-compat_*.deb "$@"; }
-[[ $(field Depends) == *libfftw3-double3*libfftw3-single3* ]] || fail "libxfm-fftw3-compat: does not depend on FFTW"
+for library in libfftw3-double3 libfftw3-single3 libxfm6.1 libxfmmany6.1; do
+  [[ $(field Depends) == *$library* ]] || fail "libxfm-fftw3-compat: does not depend on $library"
+done
 [ -z "$(field Breaks Conflicts Provides Replaces)" ] || fail "libxfm-fftw3-compat: stands in the way of other packages"
 
 # What was written of the headers and pages.

@@ -1,4 +1,4 @@
-/* Plans without FFTW's own library. */
+/* Plans where FFTW's own library is missing, or xfm's. */
 #include <fftw3.h>
 #include <stdio.h>
 
