@@ -40,14 +40,15 @@ char found(std::span<const Row> rows, const gen::Kernel& kernel, const gen::Targ
 
 }  // namespace
 
-int most_lanes(const gen::Kernel& kernel, const gen::Target& target) {
-  const bool single = kernel.type.complex && kernel.type.precision == gen::Precision::binary32;
-  return target.lanes(single ? gen::Precision::binary32 : gen::Precision::binary64);
-}
-
 int chosen_lanes(const gen::Kernel& kernel, const gen::Target& target) {
   const char digit = found(lanes, kernel, target);
   return digit == '\0' ? kernel.network->width() : digit - '0';
+}
+
+int lanes_up_to(int lanes, const gen::Kernel& kernel, const gen::Target& target) {
+  if (kernel.type.complex && kernel.type.precision == gen::Precision::binary32)
+    return chosen_lanes(kernel, target);
+  return std::min(lanes, target.lanes(gen::Precision::binary64));
 }
 
 gen::Order chosen_order(const gen::Kernel& kernel, const gen::Target& target) {

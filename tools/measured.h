@@ -9,12 +9,13 @@
 
 namespace xfm {
 
-/// The most lanes that a kernel can have on a target in whose registers its values fit. Those of real kernels
-/// are binary64 between the rounding of one statement and the next.
-int most_lanes(const gen::Kernel& kernel, const gen::Target& target);
-
 /// The lanes that the table has for a kernel; those that its recipe gave it where there is no row.
 int chosen_lanes(const gen::Kernel& kernel, const gen::Target& target);
+
+/// So many lanes, but at most as many as the target's registers hold of a kernel's values: those of real
+/// kernels are binary64 between the rounding of one statement and the next. Complex kernels in binary32 keep
+/// the lanes of the table, which depend on their recipes.
+int lanes_up_to(int lanes, const gen::Kernel& kernel, const gen::Target& target);
 
 /// Up to how many contiguous transforms of a batch are faster one by one than as a group of lanes, at length
 /// number `row` of a family; as many as there are lanes, or more: all of them.

@@ -44,7 +44,7 @@ struct Named {
 Kernel made(const Named& what, const std::string& tree, const Form& form) {
   Kernel kernel = what.family->make(what.length, what.type.precision, tree, form.target);
   const int lanes = form.lanes == 0 ? xfm::chosen_lanes(kernel, form.target)
-                                    : std::min(form.lanes, xfm::most_lanes(kernel, form.target));
+                                    : xfm::lanes_up_to(form.lanes, kernel, form.target);
   kernel.order = form.order.empty() ? xfm::chosen_order(kernel, form.target) : xfm::order_of(form.order[0]);
   return paired(std::move(kernel), lanes, form.pairing);
 }
@@ -217,7 +217,8 @@ int run(int argc, char** argv) {
   app.add_option("--batches", batches, "Write the generated sources of batches, likewise");
   app.add_option("--target", target_names, "For these targets; kernels that they share are searched once")
       ->capture_default_str();
-  app.add_option("--lanes", lanes, "Up to so many lanes wherever possible, instead of those of the table");
+  app.add_option("--lanes", lanes,
+                 "Up to so many lanes instead of those of the table, but for complex kernels in binary32");
   app.add_option("--order", order, "One order for all, by its letter, instead of those of the table");
   app.add_option("--singles", singles,
                  "With --batches: up to so many contiguous transforms one by one, instead of the table's");

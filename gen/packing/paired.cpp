@@ -330,7 +330,9 @@ class Builder {
     for (int t = 0; t < old_.stores().size(); ++t) {
       const Store& other = old_.stores()[t];
       const Store &low = behind ? store : other, &high = behind ? other : store;
-      if (high.lanes[0] == low.lanes.back() + 1 && joint_.contains({low.node, high.node})) return t;
+      const bool adjacent = high.lanes[0] == low.lanes.back() + 1;
+      if (adjacent && low.lanes.size() == high.lanes.size() && joint_.contains({low.node, high.node}))
+        return t;
     }
     return std::nullopt;
   }
