@@ -45,10 +45,10 @@ int chosen_lanes(const gen::Kernel& kernel, const gen::Target& target) {
   return digit == '\0' ? kernel.network->width() : digit - '0';
 }
 
-int lanes_up_to(int lanes, const gen::Kernel& kernel, const gen::Target& target) {
+int lanes_up_to(int most, const gen::Kernel& kernel, const gen::Target& target) {
   if (kernel.type.complex && kernel.type.precision == gen::Precision::binary32)
     return chosen_lanes(kernel, target);
-  return std::min(lanes, target.lanes(gen::Precision::binary64));
+  return std::min(most, target.lanes(gen::Precision::binary64));
 }
 
 gen::Order chosen_order(const gen::Kernel& kernel, const gen::Target& target) {

@@ -15,7 +15,7 @@ int chosen_lanes(const gen::Kernel& kernel, const gen::Target& target);
 /// So many lanes, but at most as many as the target's registers hold of a kernel's values: those of real
 /// kernels are binary64 between the rounding of one statement and the next. Complex kernels in binary32 keep
 /// the lanes of the table, which depend on their recipes.
-int lanes_up_to(int lanes, const gen::Kernel& kernel, const gen::Target& target);
+int lanes_up_to(int most, const gen::Kernel& kernel, const gen::Target& target);
 
 /// Up to how many contiguous transforms of a batch are faster one by one than as a group of lanes, at length
 /// number `row` of a family; as many as there are lanes, or more: all of them.
